@@ -1,0 +1,101 @@
+#pragma once
+
+// Text conventions of the earlier Windows edition. Schedules, settings files and
+// templates written by that edition hold numbers, dates, colours and lists in the
+// forms of its class library; these functions read and write exactly those forms
+// so that old files and new ones stay interchangeable.
+
+#include <QByteArray>
+#include <QColor>
+#include <QDate>
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+namespace tb::legacy {
+
+// ---- Comma text -------------------------------------------------------------
+// A list held in one line: items joined by ",". An item is wrapped in double quotes
+// (inner quotes doubled) when it holds a comma, a blank, a quote or a control
+// character. A list of one empty item is written as "". On reading, leading blanks
+// and control characters are skipped, quoted items are unquoted, and an unquoted
+// item also ends at a blank, so "a b" reads as two items. A trailing "," adds an
+// empty last item.
+QString JoinCommaText(const QStringList &items);
+QStringList SplitCommaText(const QString &text);
+
+// ---- Numbers ----------------------------------------------------------------
+// Integer text as the class library reads it: leading blanks skipped, an optional
+// sign, decimal digits or "$" followed by hexadecimal digits, nothing after.
+int StrToInt(const QString &text, bool *ok);
+// Same, but a text that does not convert gives the fallback.
+int StrToIntDef(const QString &text, int fallback);
+
+// The general float-to-text form: up to 15 significant digits, no trailing zeros,
+// fixed notation while the exponent is below 15 and the value is at least 0.00001,
+// scientific otherwise ("1E-6", "1.5E20"). The separator is "." (see FloatFromText).
+QString FloatToText(double value);
+// The shortest fixed-notation text that reads back as the same single-precision
+// value ("3.375", "0", "12").
+QString SingleToText(float value);
+// Reads a float written with "." or ","; leading and trailing blanks are allowed.
+double FloatFromText(const QString &text, bool *ok);
+
+// Format "%3d": right-aligned in a field of three, padded with blanks ("  7").
+QString Pad3(int value);
+
+// ---- Dates ------------------------------------------------------------------
+// Date serial numbers count days since 30 December 1899 (serial 0). A fraction is a
+// time of day and is dropped when converting to a date.
+double DateToSerial(const QDate &date);
+QDate SerialToDate(double serial);
+
+// Formats a date with a pattern of the earlier edition: d, dd, ddd (short day name),
+// dddd (long day name), ddddd (the locale's short date, always with a four-digit
+// year), dddddd (the locale's long date), m, mm, mmm, mmmm, yy, yyyy; text in double
+// or single quotes and any other character are copied as they stand.
+QString FormatDate(const QDate &date, const QString &pattern, const QLocale &locale = QLocale());
+
+// The patterns used across the program.
+inline constexpr const char *DayDatePattern = "ddd, mmmm d, yyyy"; // "Fri, March 6, 2026"
+inline constexpr const char *LongDatePattern = "dddddd";
+inline constexpr const char *ShortDatePattern = "ddddd";
+inline constexpr const char *DayMonthPattern = "d/m";
+inline constexpr const char *ShortDayPattern = "ddd";
+inline constexpr const char *LongDayPattern = "dddd";
+
+// The locale's short date format with the year always written with four digits.
+QString ShortDateFormat(const QLocale &locale = QLocale());
+// Reads a date written in the locale's short date format (two- or four-digit year).
+QDate ParseShortDate(const QString &text, const QLocale &locale = QLocale());
+
+// Weekday as the earlier edition numbers it: 1 Sunday .. 7 Saturday.
+int DayOfWeek(const QDate &date);
+
+// ---- Colours ----------------------------------------------------------------
+// Colour names of the class library ("clBlack", "clWhite", "clRed", "clBtnFace" ...);
+// any other colour is written "$00BBGGRR" (blue, green, red in hexadecimal).
+QString ColorToString(const QColor &color);
+// Reads a colour name, a "$" hexadecimal number or a decimal number (the stored
+// integer is 0x00BBGGRR). Returns an invalid QColor for text that is none of these.
+QColor StringToColor(const QString &text);
+
+// ---- Text encoding ----------------------------------------------------------
+// Windows-1252, the code page the earlier edition wrote its files in. Every byte
+// decodes to one character (bytes the code page leaves undefined decode to the
+// control character of the same number), so decoding and encoding give the bytes
+// back unchanged.
+QString DecodeWindows1252(const QByteArray &bytes);
+// Returns false (and leaves out nothing: the result is then undefined) when a
+// character has no Windows-1252 byte.
+bool CanEncodeWindows1252(const QString &text);
+QByteArray EncodeWindows1252(const QString &text);
+
+// File text as the program reads it: UTF-8 when the bytes are valid UTF-8 and hold
+// at least one non-ASCII byte, Windows-1252 otherwise.
+QString DecodeFileText(const QByteArray &bytes);
+// File text as the program writes it: Windows-1252 when every character fits,
+// UTF-8 without byte order mark otherwise.
+QByteArray EncodeFileText(const QString &text);
+
+} // namespace tb::legacy
