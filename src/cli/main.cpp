@@ -1,0 +1,105 @@
+// torvanbridge-cli: schedule files from the command line, without a display.
+
+#include "CliCommand.h"
+
+#include <QGuiApplication>
+#include <QLocale>
+
+#include <cstdio>
+
+namespace {
+
+using namespace tb::cli;
+
+CommandList allCommands()
+{
+    CommandList commands;
+    AddDocumentCommands(commands);
+    return commands;
+}
+
+void printHelp(QTextStream &out, const CommandList &commands)
+{
+    out << "Usage: torvanbridge-cli [--locale NAME] COMMAND [ARGS...]\n\n"
+           "Reads and writes Torvanbridge schedules (.tbf) without a window.\n"
+           "Questions a command would ask are answered Yes.\n\n"
+           "Global options:\n"
+           "  --locale NAME   dates and names in this locale (default: the environment's)\n"
+           "  --help          this text\n"
+           "  --version       the program version\n\n"
+           "Commands:\n";
+    for (const CliCommand &command : commands)
+        out << "  " << command.usage << "\n      " << command.summary << '\n';
+    out << "\nExit codes: 0 success, 1 an error reported above, 2 a usage error.\n";
+    out.flush();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Fonts and painting work without a display on the offscreen platform.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("torvanbridge-cli"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(TB_VERSION));
+
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const CommandList commands = allCommands();
+
+    QStringList args = app.arguments().mid(1);
+    QStringList rest;
+    for (int i = 0; i < args.size(); ++i) {
+        const QString &arg = args.at(i);
+        if (!rest.isEmpty()) { // options after the command name belong to the command
+            rest.append(arg);
+            continue;
+        }
+        if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            printHelp(out, commands);
+            return ExitOk;
+        }
+        if (arg == QLatin1String("--version")) {
+            out << "torvanbridge-cli " << TB_VERSION << Qt::endl;
+            return ExitOk;
+        }
+        if (arg == QLatin1String("--locale") || arg.startsWith(QLatin1String("--locale="))) {
+            QString name;
+            if (arg.contains(u'=')) {
+                name = arg.section(u'=', 1);
+            } else if (i + 1 < args.size()) {
+                name = args.at(++i);
+            } else {
+                err << "torvanbridge-cli: --locale needs a name" << Qt::endl;
+                return ExitUsageError;
+            }
+            QLocale::setDefault(QLocale(name));
+            continue;
+        }
+        if (arg.startsWith(u'-')) {
+            err << "torvanbridge-cli: unknown option " << arg << "\nTry torvanbridge-cli --help" << Qt::endl;
+            return ExitUsageError;
+        }
+        rest.append(arg);
+    }
+    if (rest.isEmpty()) {
+        printHelp(err, commands);
+        return ExitUsageError;
+    }
+
+    const QString name = rest.takeFirst();
+    for (const CliCommand &command : commands) {
+        if (command.name == name) {
+            CliPrompter prompter;
+            CliContext ctx{out, err, prompter};
+            const int code = command.run(ctx, rest);
+            out.flush();
+            err.flush();
+            return code;
+        }
+    }
+    err << "torvanbridge-cli: unknown command " << name << "\nTry torvanbridge-cli --help" << Qt::endl;
+    return ExitUsageError;
+}

@@ -1,0 +1,170 @@
+#include "DayCalculation.h"
+
+#include "document/DocumentOperations.h"
+#include "document/LegacyText.h"
+
+#include <array>
+#include <utility>
+
+namespace tb {
+
+namespace {
+
+// Day numbers are written into two fields of almost every strip on every change.
+// Shared number texts keep that pass free of allocations, and a field is written
+// only when its text changes, so rows shared with the undo store stay shared.
+const QString &numberText(int n)
+{
+    static const std::array<QString, 4096> cache = [] {
+        std::array<QString, 4096> texts;
+        for (int i = 0; i < int(texts.size()); ++i)
+            texts[i] = QString::number(i);
+        return texts;
+    }();
+    if (n >= 0 && n < int(cache.size()))
+        return cache[n];
+    thread_local QString scratch;
+    scratch = QString::number(n);
+    return scratch;
+}
+
+void setIfChanged(StripTable &strips, int i, StripField field, const QString &value)
+{
+    if (strips[i][field] != value) // const read first: no detach when equal
+        strips[i].set(field, value);
+}
+
+} // namespace
+
+QString DayDateText(double startSerial, int day)
+{
+    return legacy::FormatDate(legacy::SerialToDate(startSerial + day - 1), QString::fromLatin1(legacy::DayDatePattern));
+}
+
+void RemoveStripsOfKind(ScheduleDocument &doc, const QString &kind)
+{
+    StripTable &strips = doc.strips;
+    const StripTable &view = strips;
+    const int count = strips.count();
+    int first = 1;
+    while (first <= count && view[first].kind() != kind)
+        ++first;
+    if (first <= count) {
+        int kept = first - 1;
+        for (int i = first; i <= count; ++i) {
+            if (view[i].kind() != kind)
+                strips[++kept] = view[i];
+        }
+        strips.setCount(kept);
+    }
+    doc.view().setScrolls();
+}
+
+void RecalculateDays(ScheduleDocument &doc)
+{
+    StripTable &strips = doc.strips;
+    const StripTable &rows = strips;
+
+    doc.days.dividers = 0;
+    doc.days.banners = 0;
+    RemoveStripsOfKind(doc, StripKinds::AutoRestDay);
+
+    const double start = StartDateSerial(doc);
+    const bool hasStart = start != 0.0;
+    const QString &rule = doc.values.AutoRestDayRule;
+    const bool byWeekday = rule.startsWith(u'D');
+    const bool byCycle = rule.startsWith(u'S');
+    bool insertionFailed = false;
+
+    int d = 0;
+    int s = 0;
+    float p = 0.0f; // page sums are kept in single precision, as the totals always were
+
+    for (int i = 1; i <= strips.count(); ++i) {
+        const QString &kind = rows[i].kind();
+        if (kind == StripKinds::Scene) {
+            p = float(double(p) + PageLengthOf(rows[i]));
+            setIfChanged(strips, i, StripField::DayNumber, numberText(d));
+            setIfChanged(strips, i, StripField::ShootDayNumber, numberText(s));
+        } else if (kind == StripKinds::DayDivider) {
+            ++doc.days.dividers;
+            ++d;
+            ++s;
+            setIfChanged(strips, i, StripField::DayNumber, numberText(d));
+            setIfChanged(strips, i, StripField::ShootDayNumber, numberText(s));
+            setIfChanged(strips, i, StripField::PageLength, legacy::SingleToText(p));
+            setIfChanged(strips, i, StripField::SceneNumber, hasStart ? DayDateText(start, d) : QString());
+            p = 0.0f;
+        } else if (kind == StripKinds::Banner) {
+            ++doc.days.banners;
+            // A banner of n days counts n production days but only one shooting-day
+            // number; schedules have always been numbered this way.
+            const int days = legacy::StrToIntDef(rows[i][StripField::DayCount], 0);
+            if (days > 0) {
+                ++s;
+                d += days;
+            }
+            setIfChanged(strips, i, StripField::DayNumber, numberText(d));
+            setIfChanged(strips, i, StripField::PageLength, numberText(0));
+            setIfChanged(strips, i, StripField::ShootDayNumber, numberText(s));
+            setIfChanged(strips, i, StripField::SceneNumber, hasStart ? DayDateText(start, d) : QString());
+        }
+
+        // Automatic rest days follow a divider or another rest day, never the last
+        // strip of the board. "D" tests the weekday (1 Sunday .. 7 Saturday) of the day
+        // just ended, so that the rest day itself falls on the weekday the user ticked
+        // (1 Monday .. 7 Sunday); "S" tests the day number modulo 7.
+        if ((byWeekday || byCycle) && i < strips.count() && (kind == StripKinds::DayDivider ||
+                                                               kind == StripKinds::AutoRestDay)) {
+            const int digit = byWeekday ? legacy::DayOfWeek(legacy::SerialToDate(start + d - 1)) : d % 7;
+            if (rule.contains(QChar(u'0' + digit))) {
+                Result inserted = strips.insertRows(i + 1, 1);
+                if (inserted) {
+                    ++d;
+                    StripRecord &rest = strips[i + 1];
+                    rest.set(StripField::StripKind, StripKinds::AutoRestDay);
+                    rest.set(StripField::DayNumber, numberText(d));
+                    rest.set(StripField::ShootDayNumber, numberText(s));
+                    // The weekday rule always dates its rest days; the cycle rule only
+                    // when there is a start date to count from.
+                    if (byWeekday || hasStart)
+                        rest.set(StripField::SceneNumber, DayDateText(start, d));
+                } else if (!insertionFailed) {
+                    // Shown once per pass: a full board would otherwise raise it at
+                    // every divider.
+                    insertionFailed = true;
+                    doc.prompter().error(byWeekday ? QStringLiteral("Error inserting day of week divider!")
+                                                   : QStringLiteral("Error inserting rest day divider!"));
+                }
+            }
+        }
+    }
+
+    doc.days.productionDays = d;
+    doc.days.shootingDays = s;
+    doc.status().setPanelText(StatusSink::DaysPanel,
+                              d > 0 ? QStringLiteral(" Production: %1 days.  Shoot: %2 days").arg(d).arg(s)
+                                    : QString());
+    doc.view().setScrolls();
+}
+
+void UpdateCommandsAndStatus(ScheduleDocument &doc)
+{
+    doc.view().updateCommands(doc);
+    float pages = 0.0f;
+    if (doc.SelStart > 0) {
+        int first = doc.SelStart;
+        int last = doc.SelEnd > 0 ? doc.SelEnd : doc.SelStart;
+        if (first > last)
+            std::swap(first, last);
+        last = qMin(last, doc.strips.count());
+        for (int i = first; i <= last; ++i) {
+            if (doc.strips[i].isScene())
+                pages = float(double(pages) + PageLengthOf(doc.strips[i]));
+        }
+    }
+    doc.status().setPanelText(StatusSink::PagesPanel,
+                              pages != 0.0f ? FormatPageLength(pages) + QStringLiteral(" pages") : QString());
+}
+
+} // namespace tb

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "document/ScheduleDocument.h"
+
+namespace tb {
+
+// The one pass over the strip table that derives everything about days: day and
+// shooting-day numbers, the page total of each day (on its divider), the date of
+// every divider and banner, and the automatic rest days of the rest day rule.
+// It runs after every change to the document.
+void RecalculateDays(ScheduleDocument &doc);
+
+// Removes every strip of the given kind, keeping the others in order.
+void RemoveStripsOfKind(ScheduleDocument &doc, const QString &kind);
+
+// Enables the commands for the current state and writes the selected scenes' page
+// total into status panel 1.
+void UpdateCommandsAndStatus(ScheduleDocument &doc);
+
+// The date text of a day: start + day - 1 as "ddd, mmmm d, yyyy".
+QString DayDateText(double startSerial, int day);
+
+} // namespace tb

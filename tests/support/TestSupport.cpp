@@ -1,0 +1,74 @@
+#include "TestSupport.h"
+
+#include "document/Records.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace tb::test {
+
+int AddScene(ScheduleDocument &doc, const QString &scene, const QString &pages, const QString &dayNight,
+             const QString &intExt)
+{
+    StripRecord row;
+    row.set(StripField::StripKind, StripKinds::Scene);
+    row.set(StripField::SceneNumber, scene);
+    row.set(StripField::PageLength, pages);
+    row.set(StripField::DayNight, dayNight);
+    row.set(StripField::IntExt, intExt);
+    row.set(StripField::StripId, QString::number(++doc.values.NextStripId));
+    if (!doc.strips.append(row))
+        return 0;
+    return doc.strips.count();
+}
+
+int AddDivider(ScheduleDocument &doc)
+{
+    StripRecord row;
+    row.set(StripField::StripKind, StripKinds::DayDivider);
+    row.set(StripField::PageLength, QStringLiteral("0"));
+    row.set(StripField::DayCount, QStringLiteral("1"));
+    row.set(StripField::StripColour, QStringLiteral("clBlack"));
+    if (!doc.strips.append(row))
+        return 0;
+    return doc.strips.count();
+}
+
+int AddBanner(ScheduleDocument &doc, const QString &text, int days)
+{
+    StripRecord row;
+    row.set(StripField::StripKind, StripKinds::Banner);
+    row.set(StripField::Synopsis, text);
+    row.set(StripField::DayCount, QString::number(days));
+    if (!doc.strips.append(row))
+        return 0;
+    return doc.strips.count();
+}
+
+int AddElement(ScheduleDocument &doc, const QString &description, int category, const QString &boardId)
+{
+    ElementRecord row;
+    row.set(ElementField::Description, description);
+    row.set(ElementField::CategoryNumber, QString::number(category));
+    row.set(ElementField::BoardId, boardId);
+    row.set(ElementField::HoldRule, QStringLiteral("NONE"));
+    if (!doc.elements.append(row))
+        return 0;
+    return doc.elements.count();
+}
+
+QString Kinds(const ScheduleDocument &doc)
+{
+    QStringList kinds;
+    for (int i = 1; i <= doc.strips.count(); ++i)
+        kinds.append(doc.strips[i].kind());
+    return kinds.join(u' ');
+}
+
+QString TempPath(const QString &fileName)
+{
+    static QTemporaryDir dir;
+    return QDir(dir.path()).filePath(fileName);
+}
+
+} // namespace tb::test

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "document/DocumentView.h"
+#include "document/Prompter.h"
+#include "document/ScheduleDocument.h"
+#include "document/StatusSink.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+namespace tb::test {
+
+// Records every prompt and answers questions from a script (Yes when the script is empty).
+class ScriptedPrompter : public Prompter
+{
+public:
+    PromptReply ask(const Prompt &prompt) override
+    {
+        prompts.append(prompt);
+        if (prompt.buttons == Buttons::Ok)
+            return {Answer::Ok, prompt.checkBoxChecked};
+        const Answer answer = answers.isEmpty() ? Answer::Yes : answers.takeFirst();
+        return {answer, prompt.checkBoxChecked};
+    }
+    QStringList texts() const
+    {
+        QStringList list;
+        for (const Prompt &p : prompts)
+            list.append(p.text);
+        return list;
+    }
+
+    QList<Answer> answers;
+    QList<Prompt> prompts;
+};
+
+// Keeps the last text of each status panel and every gauge value.
+class RecordingStatus : public StatusSink
+{
+public:
+    void setPanelText(int panel, const QString &text) override { panels[panel] = text; }
+    void setProgress(int percent) override { progress.append(percent); }
+    void setBusy(bool b) override { busy = b; }
+
+    QMap<int, QString> panels;
+    QList<int> progress;
+    bool busy = false;
+};
+
+// Counts what the core asked of the window.
+class RecordingView : public DocumentView
+{
+public:
+    void setTitle(const QString &t) override { title = t; }
+    void addRecentFile(const QString &path) override { recent.append(path); }
+    void zoomChanged(double z) override { zoom = z; }
+    void setAutosaveInterval(int ms) override { autosaveMs = ms; }
+
+    QString title;
+    QStringList recent;
+    double zoom = 0;
+    int autosaveMs = -1;
+};
+
+// Building blocks for documents in tests. Each appends one row and returns its number.
+int AddScene(ScheduleDocument &doc, const QString &scene, const QString &pages, const QString &dayNight = "D",
+             const QString &intExt = "I");
+int AddDivider(ScheduleDocument &doc);
+int AddBanner(ScheduleDocument &doc, const QString &text, int days = 0);
+int AddElement(ScheduleDocument &doc, const QString &description, int category = 1, const QString &boardId = {});
+
+// The kinds of all strips joined, e.g. "1 1 2 3 1".
+QString Kinds(const ScheduleDocument &doc);
+
+// A path inside a fresh temporary folder that lives until the test program ends.
+QString TempPath(const QString &fileName);
+
+} // namespace tb::test
