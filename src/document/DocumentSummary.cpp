@@ -64,6 +64,7 @@ QString DocumentSummary(const ScheduleDocument &doc)
     if (uncategorised > 0)
         out << "  " << qSetFieldWidth(12) << Qt::left << "(no category)" << qSetFieldWidth(0) << uncategorised << '\n';
     out << "Days:        " << doc.days.productionDays << " production, " << doc.days.shootingDays << " shooting\n";
+    out.flush();
     return text;
 }
 
