@@ -3,7 +3,11 @@
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
+#include <QHash>
+#include <QLocale>
+
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace tb {
@@ -38,7 +42,27 @@ void setIfChanged(StripTable &strips, int i, StripField field, const QString &va
 
 QString DayDateText(double startSerial, int day)
 {
-    return legacy::FormatDate(legacy::SerialToDate(startSerial + day - 1), QString::fromLatin1(legacy::DayDatePattern));
+    // Every divider and banner is dated on every change, almost always to the text it
+    // already holds; formatting with the locale's names is the costly part, so the
+    // texts are kept per date for the current locale.
+    struct Cache
+    {
+        QLocale locale;
+        QHash<qint64, QString> texts;
+    };
+    thread_local Cache cache;
+    const QLocale locale;
+    if (cache.locale != locale || cache.texts.size() > 4096) {
+        cache.locale = locale;
+        cache.texts.clear();
+    }
+    const double serial = startSerial + day - 1;
+    const qint64 key = qint64(std::trunc(serial));
+    auto it = cache.texts.constFind(key);
+    if (it == cache.texts.cend())
+        it = cache.texts.insert(
+            key, legacy::FormatDate(legacy::SerialToDate(serial), QString::fromLatin1(legacy::DayDatePattern), locale));
+    return *it;
 }
 
 void RemoveStripsOfKind(ScheduleDocument &doc, const QString &kind)
