@@ -4,6 +4,7 @@
 
 #include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
+#include "document/UndoStore.h"
 #include "scheduling/DayCalculation.h"
 
 #include <QTemporaryDir>
@@ -84,5 +85,50 @@ void BM_CopyTablesThenEdit(benchmark::State &state)
     }
 }
 BENCHMARK(BM_CopyTablesThenEdit)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+namespace {
+
+// One undo snapshot of a capacity schedule with all ten levels filled, after an edit
+// of one strip (what every command does).
+void BM_TakeUndoSnapshot(benchmark::State &state)
+{
+    ScheduleDocument doc;
+    bench::FillToCapacity(doc);
+    for (int i = 0; i < MaxUndoLevels; ++i)
+        TakeUndoSnapshot(doc, QStringLiteral("fill"));
+    int edit = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        ++edit;
+        doc.strips[1 + edit % 900].set(StripField::Synopsis, QString::number(edit));
+        state.ResumeTiming();
+        TakeUndoSnapshot(doc, QStringLiteral("edit scene"));
+    }
+}
+BENCHMARK(BM_TakeUndoSnapshot)->Unit(benchmark::kMicrosecond);
+
+// The snapshot's own work, without the SetModified that follows it.
+void BM_UndoLevelShift(benchmark::State &state)
+{
+    ScheduleDocument doc;
+    bench::FillToCapacity(doc);
+    for (int i = 0; i < MaxUndoLevels; ++i)
+        TakeUndoSnapshot(doc, QStringLiteral("fill"));
+    QList<UndoLevel> levels = doc.undo.levels;
+    int edit = 0;
+    for (auto _ : state) {
+        ++edit;
+        doc.strips[1 + edit % 900].set(StripField::Synopsis, QString::number(edit));
+        for (int k = MaxUndoLevels - 1; k >= 1; --k) {
+            levels[k + 1].strips.assignRows(levels[k].strips, doc.strips.count());
+            levels[k + 1].elements.assignRows(levels[k].elements, doc.elements.count());
+        }
+        levels[1].strips.assignRows(doc.strips, doc.strips.count());
+        levels[1].elements.assignRows(doc.elements, doc.elements.count());
+    }
+}
+BENCHMARK(BM_UndoLevelShift)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -53,9 +53,9 @@ inline constexpr char Removeallbanners1[] = "Removeallbanners1";         // "Re&
 inline constexpr char Automaticdaydividers1[] = "Automaticdaydividers1"; // "A&uto pages-per-day..."
 inline constexpr char Autorestdays1[] = "Autorestdays1";                 // "Aut&o rest days..."
 inline constexpr char Convertautorestdaystobanners1[] =
-    "Convertautorestdaystobanners1";                                         // "Convert auto-rest days to banners..."
-inline constexpr char Sortstrips1[] = "Sortstrips1";                         // "Sort stri&ps..."
-inline constexpr char Conformstriporder1[] = "Conformstriporder1";           // "Conform strip order..."
+    "Convertautorestdaystobanners1";                                           // "Convert auto-rest days to banners..."
+inline constexpr char Sortstrips1[] = "Sortstrips1";                           // "Sort stri&ps..."
+inline constexpr char Conformstriporder1[] = "Conformstriporder1";             // "Conform strip order..."
 inline constexpr char Resetbreakdownnumbering1[] = "Resetbreakdownnumbering1"; // "Reset brea&kdown numbering..."
 
 // Elements
@@ -74,17 +74,17 @@ inline constexpr char Index1[] = "Index1";       // "&Index"
 inline constexpr char About1[] = "About1";       // "&About..."
 
 // The board's pop-up menu
-inline constexpr char PopCut1[] = "PopCut1";                       // "Cut" Ctrl+X
-inline constexpr char PopCopy1[] = "PopCopy1";                     // "Copy" Ctrl+C
-inline constexpr char PopPaste1[] = "PopPaste1";                   // "Paste (insert)" Ctrl+V
-inline constexpr char PopDelete1[] = "PopDelete1";                 // "Delete selection" Del
-inline constexpr char PopAddscene1[] = "PopAddscene1";             // "Add scene at end..." Ins
-inline constexpr char PopInsertscene1[] = "PopInsertscene1";       // "Insert scene..." Shift+Ins
-inline constexpr char PopEditscene1[] = "PopEditscene1";           // "Edit scene..."
-inline constexpr char PopLockstrip1[] = "PopLockstrip1";           // "Lock / un-lock to date..."
-inline constexpr char PopAdddaydivider1[] = "PopAdddaydivider1";   // "Add day divider at end..." Shift+Ins
+inline constexpr char PopCut1[] = "PopCut1";                           // "Cut" Ctrl+X
+inline constexpr char PopCopy1[] = "PopCopy1";                         // "Copy" Ctrl+C
+inline constexpr char PopPaste1[] = "PopPaste1";                       // "Paste (insert)" Ctrl+V
+inline constexpr char PopDelete1[] = "PopDelete1";                     // "Delete selection" Del
+inline constexpr char PopAddscene1[] = "PopAddscene1";                 // "Add scene at end..." Ins
+inline constexpr char PopInsertscene1[] = "PopInsertscene1";           // "Insert scene..." Shift+Ins
+inline constexpr char PopEditscene1[] = "PopEditscene1";               // "Edit scene..."
+inline constexpr char PopLockstrip1[] = "PopLockstrip1";               // "Lock / un-lock to date..."
+inline constexpr char PopAdddaydivider1[] = "PopAdddaydivider1";       // "Add day divider at end..." Shift+Ins
 inline constexpr char PopInsertdaydivider1[] = "PopInsertdaydivider1"; // "Insert day divider..."
-inline constexpr char PopAddelement1[] = "PopAddelement1";         // "Add element at end..." Ctrl+E
-inline constexpr char PopEditelement1[] = "PopEditelement1";       // "Edit element..."
+inline constexpr char PopAddelement1[] = "PopAddelement1";             // "Add element at end..." Ctrl+E
+inline constexpr char PopEditelement1[] = "PopEditelement1";           // "Edit element..."
 
 } // namespace tb::actions

@@ -31,8 +31,16 @@ public:
 class ArgParser
 {
 public:
-    ArgParser &valueOption(const QString &name) { m_valueOptions.append(name); return *this; }
-    ArgParser &flag(const QString &name) { m_flags.append(name); return *this; }
+    ArgParser &valueOption(const QString &name)
+    {
+        m_valueOptions.append(name);
+        return *this;
+    }
+    ArgParser &flag(const QString &name)
+    {
+        m_flags.append(name);
+        return *this;
+    }
 
     // False with a message for an unknown option or a missing value.
     bool parse(const QStringList &args, QString *error);

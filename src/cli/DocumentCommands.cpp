@@ -41,13 +41,15 @@ int runResave(CliContext &ctx, const CliCommand &self, const QStringList &args)
 
 void AddDocumentCommands(CommandList &commands)
 {
-    CliCommand info{QStringLiteral("info"), QStringLiteral("info FILE"),
+    CliCommand info{QStringLiteral("info"),
+                    QStringLiteral("info FILE"),
                     QStringLiteral("Print titles, start date, strips by kind, elements by category and day totals."),
                     {}};
     info.run = [info](CliContext &ctx, const QStringList &args) { return runInfo(ctx, info, args); };
     commands.append(info);
 
-    CliCommand resave{QStringLiteral("resave"), QStringLiteral("resave IN -o OUT"),
+    CliCommand resave{QStringLiteral("resave"),
+                      QStringLiteral("resave IN -o OUT"),
                       QStringLiteral("Open a schedule (recalculating its days) and save it to OUT."),
                       {}};
     resave.run = [resave](CliContext &ctx, const QStringList &args) { return runResave(ctx, resave, args); };

@@ -46,8 +46,8 @@ QString DocumentSummary(const ScheduleDocument &doc)
         << (start != 0.0 ? legacy::FormatDate(legacy::SerialToDate(start), QString::fromLatin1(legacy::DayDatePattern))
                          : QStringLiteral("none"))
         << '\n';
-    out << "Rest days:   " << (doc.values.AutoRestDayRule.isEmpty() ? QStringLiteral("none") : doc.values.AutoRestDayRule)
-        << '\n';
+    out << "Rest days:   "
+        << (doc.values.AutoRestDayRule.isEmpty() ? QStringLiteral("none") : doc.values.AutoRestDayRule) << '\n';
     out << "Strips:      " << doc.strips.count() << " (" << scenes << " scenes, " << dividers << " day dividers, "
         << banners << " banners, " << restDays << " auto rest days";
     if (other > 0)

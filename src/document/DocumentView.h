@@ -33,6 +33,15 @@ public:
     virtual void setAutosaveInterval(int) {}
     // Repaint the board.
     virtual void repaintBoard() {}
+    // The board's scroll positions (first strip shown, first element row shown),
+    // kept with every undo level and put back by Undo.
+    virtual int horizontalScroll() const { return 0; }
+    virtual int verticalScroll() const { return 0; }
+    virtual void setScrollPositions(int /*horizontal*/, int /*vertical*/) {}
+    // The Undo and Redo entries: enabled state and caption ("Undo add new scene").
+    virtual void setUndoCommands(bool /*undoEnabled*/, const QString & /*undoCaption*/, bool /*redoEnabled*/,
+                                 const QString & /*redoCaption*/)
+    {}
 };
 
 } // namespace tb

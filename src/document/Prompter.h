@@ -42,20 +42,28 @@ public:
     {
         ask(Prompt{MessageKind::Error, text, Buttons::Ok, beep, {}, false});
     }
-    void information(const QString &text) { ask(Prompt{MessageKind::Information, text, Buttons::Ok, false, {}, false}); }
+    void information(const QString &text)
+    {
+        ask(Prompt{MessageKind::Information, text, Buttons::Ok, false, {}, false});
+    }
     void warning(const QString &text) { ask(Prompt{MessageKind::Warning, text, Buttons::Ok, false, {}, false}); }
     Answer question(MessageKind kind, const QString &text, Buttons buttons, bool beep = false)
     {
         return ask(Prompt{kind, text, buttons, beep, {}, false}).answer;
     }
-    bool confirm(const QString &text) { return question(MessageKind::Confirmation, text, Buttons::YesNo) == Answer::Yes; }
+    bool confirm(const QString &text)
+    {
+        return question(MessageKind::Confirmation, text, Buttons::YesNo) == Answer::Yes;
+    }
 };
 
 // A prompter that shows nothing and gives every question one fixed answer.
 class SilentPrompter : public Prompter
 {
 public:
-    explicit SilentPrompter(Answer answer = Answer::Yes) : m_answer(answer) {}
+    explicit SilentPrompter(Answer answer = Answer::Yes)
+        : m_answer(answer)
+    {}
     PromptReply ask(const Prompt &prompt) override
     {
         if (prompt.buttons == Buttons::Ok)

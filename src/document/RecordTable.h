@@ -17,7 +17,9 @@ class RecordTable
 public:
     static constexpr int Capacity = CapacityValue;
 
-    RecordTable() : m_rows(Capacity + 1) {}
+    RecordTable()
+        : m_rows(Capacity + 1)
+    {}
 
     int count() const { return m_count; }
     bool isEmpty() const { return m_count == 0; }
@@ -64,6 +66,18 @@ public:
         for (int row = at; row + n <= m_count; ++row)
             m_rows[row] = m_rows[row + n];
         m_count -= n;
+    }
+
+    // Copies rows 1..n of another table over this one's, leaving the rows above n as
+    // they are. Rows that are already shared are skipped, so copying between tables
+    // that differ in a few rows touches only those.
+    void assignRows(const RecordTable &from, int n)
+    {
+        const RecordTable &self = *this;
+        for (int row = 1; row <= n; ++row) {
+            if (!self.m_rows.at(row).sharesWith(from.m_rows.at(row)))
+                m_rows[row] = from.m_rows.at(row);
+        }
     }
 
     // Blanks rows first..last, whatever the count.

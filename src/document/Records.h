@@ -93,6 +93,8 @@ public:
     }
 
     void clear() { d.reset(); }
+    // Whether both rows are the same shared storage (a cheap test, not a comparison).
+    bool sharesWith(const TextRecord &other) const { return d == other.d; }
     bool isBlank() const
     {
         if (!d)

@@ -22,7 +22,10 @@ public:
 
 private:
     Result() = default;
-    explicit Result(QString message) : m_failed(true), m_message(std::move(message)) {}
+    explicit Result(QString message)
+        : m_failed(true)
+        , m_message(std::move(message))
+    {}
 
     bool m_failed = false;
     QString m_message;
@@ -33,8 +36,12 @@ template <typename T>
 class [[nodiscard]] ResultOf
 {
 public:
-    ResultOf(T value) : m_value(std::move(value)) {}
-    ResultOf(Result failure) : m_message(failure.message()) {}
+    ResultOf(T value)
+        : m_value(std::move(value))
+    {}
+    ResultOf(Result failure)
+        : m_message(failure.message())
+    {}
 
     static ResultOf failure(QString message) { return ResultOf(Result::failure(std::move(message))); }
 

@@ -27,13 +27,13 @@ DocumentView &defaultView()
 QList<Category> DefaultCategories()
 {
     return {
-        {QStringLiteral("Cst"), QStringLiteral("Cast")},       {QStringLiteral("Ext"), QStringLiteral("Extras")},
-        {QStringLiteral("Snt"), QStringLiteral("Stunts")},     {QStringLiteral("Veh"), QStringLiteral("Vehicles")},
-        {QStringLiteral("Prp"), QStringLiteral("Props")},      {QStringLiteral("Art"), QStringLiteral("Art Dept.")},
-        {QStringLiteral("Anm"), QStringLiteral("Animals")},    {QStringLiteral("Cos"), QStringLiteral("Costume")},
-        {QStringLiteral("MUp"), QStringLiteral("Makeup")},     {QStringLiteral("FX"), QStringLiteral("Special FX")},
-        {QStringLiteral("Snd"), QStringLiteral("Sound")},      {QStringLiteral("Cam"), QStringLiteral("Camera")},
-        {QStringLiteral("Lts"), QStringLiteral("Lighting")},   {QStringLiteral("Grp"), QStringLiteral("Grip")},
+        {QStringLiteral("Cst"), QStringLiteral("Cast")},     {QStringLiteral("Ext"), QStringLiteral("Extras")},
+        {QStringLiteral("Snt"), QStringLiteral("Stunts")},   {QStringLiteral("Veh"), QStringLiteral("Vehicles")},
+        {QStringLiteral("Prp"), QStringLiteral("Props")},    {QStringLiteral("Art"), QStringLiteral("Art Dept.")},
+        {QStringLiteral("Anm"), QStringLiteral("Animals")},  {QStringLiteral("Cos"), QStringLiteral("Costume")},
+        {QStringLiteral("MUp"), QStringLiteral("Makeup")},   {QStringLiteral("FX"), QStringLiteral("Special FX")},
+        {QStringLiteral("Snd"), QStringLiteral("Sound")},    {QStringLiteral("Cam"), QStringLiteral("Camera")},
+        {QStringLiteral("Lts"), QStringLiteral("Lighting")}, {QStringLiteral("Grp"), QStringLiteral("Grip")},
         {QStringLiteral("Oth"), QStringLiteral("Other")},
     };
 }
@@ -45,8 +45,7 @@ ScheduleDocument::ScheduleDocument()
     , m_prompter(&defaultPrompter())
     , m_status(&defaultStatus())
     , m_view(&defaultView())
-{
-}
+{}
 
 void ScheduleDocument::setPrompter(Prompter *prompter)
 {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Clipboard.h"
 #include "DocumentView.h"
 #include "Prompter.h"
 #include "RecordTable.h"
 #include "StatusSink.h"
+#include "UndoStore.h"
 
 #include <QList>
 #include <QString>
@@ -32,7 +34,7 @@ struct ProductionValues
     QString FirstAD;
     QString ProductionManager;
     QString ScriptTitle;
-    QString StartDate; // date serial number as float text; blank = no start date
+    QString StartDate;      // date serial number as float text; blank = no start date
     QString CompanyAddress; // comma text
     QString LogoFile;
     double BoardZoom = 1.0;
@@ -68,8 +70,8 @@ public:
 
     StripTable strips;
     ElementTable elements;
-    QList<CrewRow> crew;  // rows 1..50; row 0 unused
-    QList<bool> marks;    // one mark per strip row 1..1000, set by the call sheet
+    QList<CrewRow> crew; // rows 1..50; row 0 unused
+    QList<bool> marks;   // one mark per strip row 1..1000, set by the call sheet
     QList<Category> categories;
     ProductionValues values;
     DayTotals days;
@@ -89,6 +91,15 @@ public:
     QStringList setPickList;
     // Autosave interval in minutes, from the preferences.
     int autosaveMinutes = 0;
+
+    // The undo store and the private clipboard live for the whole run: New and Open
+    // empty neither, so Undo after New brings back the earlier tables.
+    UndoStack undo;
+    StripClipboard clipboard;
+    bool undoEnabled = false;
+    QString undoCaption = QStringLiteral("Undo");
+    bool redoEnabled = false;
+    QString redoCaption = QStringLiteral("Redo");
 
     int categoryCount() const { return int(categories.size()); }
 

@@ -69,7 +69,9 @@ void writeLines(const ScheduleDocument &doc, Put &&put, Progress &&progress)
 class LineReader
 {
 public:
-    explicit LineReader(QStringView text) : m_text(text) {}
+    explicit LineReader(QStringView text)
+        : m_text(text)
+    {}
 
     // False when the file has no more lines.
     bool next(QStringView *line)
@@ -101,13 +103,14 @@ private:
 // Thrown inside the reader only, never across the interface: a line that is missing
 // or does not hold the number it must.
 struct ReadFailure
-{
-};
+{};
 
 class DocumentReader
 {
 public:
-    explicit DocumentReader(QStringView text) : m_lines(text) {}
+    explicit DocumentReader(QStringView text)
+        : m_lines(text)
+    {}
 
     QString text()
     {
@@ -213,7 +216,8 @@ QStringList ScheduleFileLines(const ScheduleDocument &doc)
 {
     QStringList lines;
     lines.reserve(HeaderLineCount + 200 + 20 * (doc.strips.count() + doc.elements.count()));
-    writeLines(doc, [&](const QString &line) { lines.append(line); }, [](int) {});
+    writeLines(
+        doc, [&](const QString &line) { lines.append(line); }, [](int) {});
     return lines;
 }
 

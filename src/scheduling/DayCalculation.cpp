@@ -138,8 +138,8 @@ void RecalculateDays(ScheduleDocument &doc)
         // strip of the board. "D" tests the weekday (1 Sunday .. 7 Saturday) of the day
         // just ended, so that the rest day itself falls on the weekday the user ticked
         // (1 Monday .. 7 Sunday); "S" tests the day number modulo 7.
-        if ((byWeekday || byCycle) && i < strips.count() && (kind == StripKinds::DayDivider ||
-                                                               kind == StripKinds::AutoRestDay)) {
+        if ((byWeekday || byCycle) && i < strips.count() &&
+            (kind == StripKinds::DayDivider || kind == StripKinds::AutoRestDay)) {
             const int digit = byWeekday ? legacy::DayOfWeek(legacy::SerialToDate(start + d - 1)) : d % 7;
             if (rule.contains(QChar(u'0' + digit))) {
                 Result inserted = strips.insertRows(i + 1, 1);

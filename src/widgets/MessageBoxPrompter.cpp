@@ -75,7 +75,7 @@ PromptReply MessageBoxPrompter::ask(const Prompt &prompt)
         break;
     default:
         // Closing a Yes/No box with Escape or the title bar counts as No.
-        reply.answer = prompt.buttons == Buttons::Ok ? Answer::Ok
+        reply.answer = prompt.buttons == Buttons::Ok      ? Answer::Ok
                        : prompt.buttons == Buttons::YesNo ? Answer::No
                                                           : Answer::Cancel;
         break;

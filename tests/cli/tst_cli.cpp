@@ -75,8 +75,8 @@ void TestCli::failedOpenWritesNothing()
     const QString out = TempPath("never-written.tbf");
     const Run run = cli({"resave", bad, "-o", out});
     QCOMPARE(run.code, 1);
-    QVERIFY(run.err.contains(
-        "Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted."));
+    QVERIFY(
+        run.err.contains("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted."));
     QVERIFY(!QFile::exists(out));
 
     const Run missing = cli({"resave", TempPath("missing.tbf"), "-o", out});

@@ -38,8 +38,8 @@ void writeAll(const QString &path, const QByteArray &bytes)
 // A schedule with awkward text in every kind of field.
 void fillRandom(ScheduleDocument &doc, quint32 seed, bool ascii)
 {
-    static const QStringList latin = {"", "Anna", "a, b", "say \"hi\"", " lead", "trail ", "café", "Zoë's",
-                                      "“curly”", "50%", "\"", ",", "O'Neil, \"Jr\"", "€ 100"};
+    static const QStringList latin = {"",      "Anna",    "a, b", "say \"hi\"", " lead", "trail ",         "café",
+                                      "Zoë's", "“curly”", "50%",  "\"",         ",",     "O'Neil, \"Jr\"", "€ 100"};
     static const QStringList wide = {"Łódź", "日本", "Ωmega"};
     QRandomGenerator rng(seed);
     auto pick = [&] {
@@ -284,8 +284,8 @@ void TestScheduleFile::malformed_data()
     QTest::addColumn<bool>("named"); // the path is kept after a read error
     QTest::newRow("empty file") << QByteArray() << HeaderError << "Error reading file." << false;
     QTest::newRow("wrong header") << with(0, "Some other file") << HeaderError << "Error reading file." << false;
-    QTest::newRow("trailing blank on header") << with(0, QString(ScheduleFileHeader) + " ") << HeaderError
-                                              << "Error reading file." << false;
+    QTest::newRow("trailing blank on header")
+        << with(0, QString(ScheduleFileHeader) + " ") << HeaderError << "Error reading file." << false;
     QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12) << HeaderError
                                     << "Error reading file." << false;
     QTest::newRow("zoom not a number") << with(12, "wide") << OpenError << "Error opening file." << true;
@@ -294,8 +294,7 @@ void TestScheduleFile::malformed_data()
     QTest::newRow("strip count huge") << with(21, "99999999999") << OpenError << "Error opening file." << true;
     QTest::newRow("strip count past capacity") << with(21, "1001") << OpenError << "Error opening file." << true;
     QTest::newRow("element count negative") << with(22, "-1") << OpenError << "Error opening file." << true;
-    QTest::newRow("strip count too large for the file") << with(21, "2") << OpenError << "Error opening file."
-                                                        << true;
+    QTest::newRow("strip count too large for the file") << with(21, "2") << OpenError << "Error opening file." << true;
 }
 
 void TestScheduleFile::malformed()

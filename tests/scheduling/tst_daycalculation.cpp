@@ -122,15 +122,16 @@ void TestDayCalculation::restDays_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("rule");
-    QTest::addColumn<int>("days"); // shooting days on the board, one divider each
-    QTest::addColumn<QString>("expected"); // kind:day of every strip
+    QTest::addColumn<int>("days");          // shooting days on the board, one divider each
+    QTest::addColumn<QString>("expected");  // kind:day of every strip
     QTest::addColumn<QStringList>("dates"); // dates of the rest days, in order
 
     // Friday start, Saturday and Sunday off: day 1 Friday, rest on 2 and 3, day 4 Monday.
     QTest::newRow("D67 from a Friday") << FridayMarch6 << "D67" << 3 << "1:0 2:1 3:2 3:3 1:3 2:4 1:4 2:5"
                                        << QStringList{"Sat, March 7, 2026", "Sun, March 8, 2026"};
     // Every seventh day from the start is a rest day.
-    QTest::newRow("S6") << "" << "S6" << 14
+    QTest::newRow("S6") << ""
+                        << "S6" << 14
                         << "1:0 2:1 1:1 2:2 1:2 2:3 1:3 2:4 1:4 2:5 1:5 2:6 3:7 1:7 2:8 1:8 2:9 1:9 2:10 1:10 2:11 "
                            "1:11 2:12 1:12 2:13 3:14 1:14 2:15 1:15 2:16"
                         << QStringList{"", ""};
