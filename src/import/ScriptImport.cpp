@@ -319,13 +319,15 @@ Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImp
     }
     if (ok)
         doc.view().scrollToStrip(1);
-    else
+    // The normal cursor comes back before a message can show.
+    doc.status().setBusy(false);
+    if (!ok)
         doc.prompter().error(QString::fromLatin1(ScriptImportErrorText));
 
+    // Success or not, the document now differs from any file and the board shows it.
     SetModified(doc);
     doc.view().setScrolls();
     doc.view().repaintBoard();
-    doc.status().setBusy(false);
     return ok ? Result::success() : Result::failure(QString::fromLatin1(ScriptImportErrorText));
 }
 

@@ -150,8 +150,8 @@ void TestImportCli::importFinalDraft()
 void TestImportCli::importFinalDraftMissingReport()
 {
     const QString out = TempPath("fd-never.tbf");
-    const Run run = cli(
-        {"import-fd", TempPath("no-scenes.txt"), QDir(DataDir).filePath("fd-script-report.txt"), "-o", out});
+    const Run run =
+        cli({"import-fd", TempPath("no-scenes.txt"), QDir(DataDir).filePath("fd-script-report.txt"), "-o", out});
     QCOMPARE(run.code, 1);
     QVERIFY(run.err.startsWith("Error reading file(s). The files may be of the wrong type, or corrupted. "
                                "Try re-exporting from Final Draft.\n"));
@@ -175,8 +175,8 @@ void TestImportCli::importFinalDraftFailsPartWay()
 
 void TestImportCli::importFinalDraftLengthMessages()
 {
-    const QString script = WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2",
-                                                  "INT. B - DAY", ""});
+    const QString script =
+        WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
     const QString scenes = WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
     const QString out = TempPath("two.tbf");
     const Run run = cli({"import-fd", scenes, script, "-o", out});
