@@ -138,11 +138,9 @@ private Q_SLOTS:
     void wizardFont();
     void wizardWordLists();
     void wizardImports();
-    void wizardImportHeldBack();
     void wizardCancel();
     void finalDraftDialog();
     void finalDraftBrowse();
-    void finalDraftImportFails();
     void menuCommandFinalDraft_data();
     void menuCommandFinalDraft();
     void menuCommandScript();
@@ -387,26 +385,6 @@ void TestImportDialogs::wizardImports()
     QVERIFY(prompter.prompts.isEmpty());
 }
 
-void TestImportDialogs::wizardImportHeldBack()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    AddScene(doc, QStringLiteral("99"), QStringLiteral("3"));
-    TfrmImportScript wizard(doc);
-    wizard.beforeImport = [] { return false; };
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "kitchen.txt");
-    for (int k = 0; k < 4; ++k)
-        Click(&wizard, "NextBut");
-    QVERIFY(wizard.isVisible());
-    QCOMPARE(wizard.currentStep(), 4);
-    QCOMPARE(child<QPushButton>(&wizard, "NextBut")->text(), QStringLiteral("Import!"));
-    QCOMPARE(doc.strips.count(), 1);
-    QCOMPARE(doc.strips[1][StripField::SceneNumber], QStringLiteral("99"));
-}
-
 void TestImportDialogs::wizardCancel()
 {
     ScriptFolder folder;
@@ -486,22 +464,6 @@ void TestImportDialogs::finalDraftBrowse()
     QCOMPARE(child<QLineEdit>(&dialog, "SceneEdit")->text(), QStringLiteral("/reports/scenes.txt"));
     QCOMPARE(child<QLineEdit>(&dialog, "ScriptEdit")->text(), QStringLiteral("/reports/script.txt"));
     QVERIFY(child<QPushButton>(&dialog, "ImportBut")->isEnabled());
-}
-
-void TestImportDialogs::finalDraftImportFails()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmFDImport dialog(doc);
-    dialog.show();
-    child<QLineEdit>(&dialog, "SceneEdit")->setText(TempPath("no-scenes.txt"));
-    child<QLineEdit>(&dialog, "ScriptEdit")->setText(QDir(DataDir).filePath("fd-script-report.txt"));
-    QTest::mouseClick(child<QPushButton>(&dialog, "ImportBut"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(prompter.texts(), QStringList{FinalDraftReadErrorText});
-    QCOMPARE(doc.strips.count(), 5);
-    QVERIFY(!doc.Modified);
 }
 
 void TestImportDialogs::menuCommandFinalDraft_data()
