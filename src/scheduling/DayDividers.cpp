@@ -114,59 +114,82 @@ Result AutoDayDividers(ScheduleDocument &doc, const AutoPagesOptions &options)
         RemoveStripsOfKind(doc, StripKinds::AutoRestDay);
     }
 
-    StripTable &strips = doc.strips;
+    // The board is rebuilt in one pass into a new table rather than by inserting
+    // dividers in place, which would move the rest of the board at every divider.
+    const StripTable source = doc.strips;
+    StripTable board;
     AutoPagesMode mode = options.mode;
     float p = 0.0f; // the day's pages, in single precision like every page total
     int c = 0;      // scenes in the day
     bool full = false;
 
-    for (int i = 1; i <= strips.count(); ++i) {
-        if (!strips[i].isScene())
-            continue;
-        p = float(double(p) + PageLengthOf(strips[i]));
-        ++c;
-        if (!(double(p) > max))
-            continue;
+    auto addDividers = [&](int n) {
+        for (int k = 0; k < n && !full; ++k)
+            full = !board.append(autoDividerRow());
+    };
 
-        const bool alone = c == 1; // one scene is longer than a whole day
-        if (alone) {
+    for (int j = 1; j <= source.count() && !full; ++j) {
+        const StripRecord &strip = source[j];
+        if (!strip.isScene()) {
+            full = !board.append(strip);
+            continue;
+        }
+        const double pages = PageLengthOf(strip);
+        // A scene may be counted twice: a day that overflowed because of a further
+        // scene gets its divider before that scene, which then starts the new day.
+        for (;;) {
+            p = float(double(p) + pages);
+            ++c;
+            if (!(double(p) > max)) {
+                full = !board.append(strip);
+                break;
+            }
+            if (c > 1) {
+                addDividers(1);
+                p = 0.0f;
+                c = 0;
+                if (full)
+                    break;
+                continue;
+            }
+
+            // One scene is longer than a whole day: its dividers go after it.
             if (options.mode == AutoPagesMode::Ask) {
-                doc.view().scrollToStrip(i);
-                doc.SelStart = i;
-                doc.SelEnd = i;
+                // The board shows the dividers placed so far, with this scene first
+                // and selected, while the user decides.
+                const int row = board.count() + 1;
+                StripTable shown = board;
+                for (int k = j; k <= source.count(); ++k) {
+                    if (!shown.append(source[k]))
+                        break;
+                }
+                doc.strips = shown;
+                doc.view().scrollToStrip(row);
+                doc.SelStart = row;
+                doc.SelEnd = row;
                 doc.view().repaintBoard();
-                const QString question = QStringLiteral("Scene ") + strips[i][StripField::SceneNumber] +
+                const QString question = QStringLiteral("Scene ") + strip[StripField::SceneNumber] +
                                          QStringLiteral(" is longer than ") + QString::number(max) +
                                          QStringLiteral(" pages. \r\rWould you like Torvanbridge to add dividers "
                                                         "and / or allow for the additional pages in the next day?\r\r");
                 mode = doc.prompter().confirm(question) ? AutoPagesMode::Split : AutoPagesMode::Keep;
             }
-            ++i; // the dividers go after the long scene
-        }
-
-        const bool split = alone && mode == AutoPagesMode::Split;
-        // Whole days the long scene fills, rounded half to even: 12 pages at 5 a day
-        // give two dividers.
-        const int n = split ? int(std::nearbyint(double(p) / max)) : 1;
-        if (!strips.insertRows(i, n)) {
-            full = true;
+            full = !board.append(strip);
+            const bool split = mode == AutoPagesMode::Split;
+            // Whole days the scene fills, rounded half to even: 12 pages at 5 a day
+            // give two dividers. What a split scene leaves over is shot the next day,
+            // which may make that day overflow at once; otherwise it starts empty.
+            addDividers(split ? int(std::nearbyint(double(p) / max)) : 1);
+            p = split ? float(double(p) - max) : 0.0f;
+            c = 0;
             break;
         }
-        for (int row = i; row < i + n; ++row)
-            strips[row] = autoDividerRow();
-
-        // A split scene leaves what it did not shoot for the next day, which may make
-        // that day overflow at once; otherwise the next day starts empty. A day that
-        // overflowed because of a further scene got its divider before that scene,
-        // which the loop now counts again at the start of the new day.
-        p = split ? float(double(p) - max) : 0.0f;
-        c = 0;
     }
 
     // The last day is closed when it holds pages and fits; pages carried beyond the
     // maximum stay open.
     if (!full && p > 0.0f && double(p) <= max)
-        full = !strips.append(autoDividerRow());
+        addDividers(1);
 
     if (full) {
         doc.strips = before;
@@ -178,6 +201,7 @@ Result AutoDayDividers(ScheduleDocument &doc, const AutoPagesOptions &options)
                                QStringLiteral("\r\rThe day dividers do not fit; the schedule is unchanged."));
     }
 
+    doc.strips = board;
     SetModified(doc);
     clearSelection(doc);
     // The commands and the pages panel follow the cleared selection.
