@@ -58,7 +58,6 @@ private Q_SLOTS:
     void autoPagesUndoes();
     void autoPagesAtCapacity_data();
     void autoPagesAtCapacity();
-    void heading();
 };
 
 void TestDayDividers::addAtEnd()
@@ -311,12 +310,6 @@ void TestDayDividers::autoPagesAtCapacity()
             QVERIFY(f.doc.strips[i] == before[i]);
         QCOMPARE(f.doc.SelStart, 7);
     }
-}
-
-void TestDayDividers::heading()
-{
-    QCOMPARE(AutoPagesHeading(5), "If a single scene is longer than 5 pages...");
-    QCOMPARE(AutoPagesHeading(20), "If a single scene is longer than 20 pages...");
 }
 
 QTEST_GUILESS_MAIN(TestDayDividers)
