@@ -20,6 +20,7 @@ CommandList allCommands()
     CommandList commands;
     AddDocumentCommands(commands);
     AddImportCommands(commands);
+    AddSchedulingCommands(commands);
     return commands;
 }
 
