@@ -33,7 +33,7 @@ struct ProductionDetails
     QString costumeCall;
     QString makeupCall;
     QString wrapTime;
-    QString logoFile; // full path; blank = no logo
+    QString logoFile;     // full path; blank = no logo
     QList<CrewLine> crew; // always CrewRowCount lines
 };
 

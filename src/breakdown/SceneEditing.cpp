@@ -38,7 +38,7 @@ void sortPickList(QStringList &list)
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::stable_sort(list.begin(), list.end(),
-              [&collator](const QString &a, const QString &b) { return collator.compare(a, b) < 0; });
+                     [&collator](const QString &a, const QString &b) { return collator.compare(a, b) < 0; });
 }
 
 bool occursInList(const QStringList &list, const QString &value)
@@ -101,8 +101,8 @@ ScenePage ScenePageFromStrip(const StripRecord &strip, int linesPerPage)
 QString SceneCaption(const ScheduleDocument &doc, int mode, int current)
 {
     if (mode == SceneMode::Edit) {
-        const QString id = current >= 1 && current <= doc.strips.count() ? doc.strips[current][StripField::StripId]
-                                                                         : QString();
+        const QString id =
+            current >= 1 && current <= doc.strips.count() ? doc.strips[current][StripField::StripId] : QString();
         return QStringLiteral("Edit scene breakdown #") + id;
     }
     return QStringLiteral("New scene breakdown #") + QString::number(doc.values.NextStripId + 1);
