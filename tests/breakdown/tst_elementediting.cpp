@@ -144,10 +144,12 @@ void TestElementEditing::validation_data()
     QTest::addColumn<QString>("description");
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no description") << "" << "1"
+    QTest::newRow("no description") << ""
+                                    << "1"
                                     << "You need to enter a description for the element, or else click Cancel if you "
                                        "do not wish to change anything.";
-    QTest::newRow("no id") << "Anna" << ""
+    QTest::newRow("no id") << "Anna"
+                           << ""
                            << "You need to enter an identifier for the element, or else click Cancel if you do not "
                               "wish to change anything.";
 }

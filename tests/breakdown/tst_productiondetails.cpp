@@ -145,8 +145,7 @@ void TestProductionDetails::invalidChosenFile()
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
     QVERIFY(LoadLogo(doc, path, LogoSource::Chosen).isNull());
-    QCOMPARE(prompter.texts(),
-             QStringList{"Error opening logo image file. Make sure this is a valid graphic file."});
+    QCOMPARE(prompter.texts(), QStringList{"Error opening logo image file. Make sure this is a valid graphic file."});
 }
 
 QTEST_MAIN(TestProductionDetails)

@@ -98,8 +98,8 @@ void TestStripOrder::sortByColumn_data()
     QTest::newRow("scene numbers are numbers") << SortColumn::Scene << QStringList{"10", "2", "1"} << "1 2 10";
     QTest::newRow("12A sorts with 12, board order kept")
         << SortColumn::Scene << QStringList{"12A", "3", "12", "A"} << "A 3 12A 12";
-    QTest::newRow("locale order of text") << SortColumn::Location << QStringList{"Zoo", "bar", "Apple"}
-                                          << "Apple bar Zoo";
+    QTest::newRow("locale order of text")
+        << SortColumn::Location << QStringList{"Zoo", "bar", "Apple"} << "Apple bar Zoo";
     QTest::newRow("case counts") << SortColumn::Location << QStringList{"Bar", "bar"} << "bar Bar";
     QTest::newRow("equal text keeps order") << SortColumn::Synopsis << QStringList{"x", "", "x"} << " x x";
 }
