@@ -41,6 +41,28 @@ void sortPickList(QStringList &list)
                      [&collator](const QString &a, const QString &b) { return collator.compare(a, b) < 0; });
 }
 
+// The recalculation that follows every change removes and re-inserts the automatic
+// rest days, which can move a strip. Counting the other strips up to it finds it again.
+int stripsBefore(const ScheduleDocument &doc, int row)
+{
+    int n = 0;
+    for (int i = 1; i <= row && i <= doc.strips.count(); ++i) {
+        if (!doc.strips[i].isAutoRestDay())
+            ++n;
+    }
+    return n;
+}
+
+int rowOf(const ScheduleDocument &doc, int position)
+{
+    int n = 0;
+    for (int i = 1; i <= doc.strips.count(); ++i) {
+        if (!doc.strips[i].isAutoRestDay() && ++n == position)
+            return i;
+    }
+    return doc.strips.count();
+}
+
 bool occursInList(const QStringList &list, const QString &value)
 {
     // The test is made on the whole text of the list, items joined by line breaks,
@@ -208,7 +230,9 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
     }
 
     doc.SelElement = -1;
+    const int position = stripsBefore(doc, row);
     SetModified(doc);
+    row = rowOf(doc, position);
     doc.view().setScrolls();
     doc.view().repaintBoard();
 

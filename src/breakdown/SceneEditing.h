@@ -72,7 +72,8 @@ bool AddToPickList(QStringList &list, const QString &value);
 // Rebuilds the location and set pick lists from every strip of the document.
 void RebuildPickLists(ScheduleDocument &doc);
 
-// Saves the page as a scene strip and returns its row: the current strip in the edit
+// Saves the page as a scene strip and returns its row (where it stands after the day
+// recalculation has put the automatic rest days back): the current strip in the edit
 // mode, a new strip at the current row in the insert mode (which starts as a copy of
 // the strip that stood there), a new last strip otherwise. New strips get the next
 // sheet number. The assignment list is rebuilt from the flags in ascending element

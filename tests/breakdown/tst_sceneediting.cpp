@@ -3,6 +3,7 @@
 #include "breakdown/SceneEditing.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
+#include "document/ScheduleFile.h"
 
 #include <QTest>
 
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void okLabelsAndScroll();
     void applyInAddModeAppendsEachTime();
     void fullTableIsRefused();
+    void rowFoundAfterRestDaysMove();
     void pickListSubstringRule();
     void pickListsFromStrips();
     void stepToScene_data();
@@ -319,6 +321,22 @@ void TestSceneEditing::fullTableIsRefused()
     QCOMPARE(doc.strips.count(), MaxStrips);
     QCOMPARE(doc.values.NextStripId, next);
     QCOMPARE(prompter.prompts.size(), 2);
+}
+
+void TestSceneEditing::rowFoundAfterRestDaysMove()
+{
+    // The example's rest day rule puts rest days after its last divider as soon as a
+    // scene starts a new day there, which moves the appended strip.
+    ScheduleDocument doc;
+    QVERIFY(OpenDocument(doc, qEnvironmentVariable("TB_SOURCE_DIR") + "/examples/harbour-lights.tbf").ok());
+    const int before = doc.strips.count();
+    ScenePage page = BlankScenePage();
+    page.scene = "61";
+    const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, {});
+    QVERIFY(row.ok());
+    QVERIFY(doc.strips.count() > before + 1);
+    QCOMPARE(doc.strips[row.value()][StripField::SceneNumber], "61");
+    QCOMPARE(doc.strips[row.value()][StripField::StripId], QString::number(doc.values.NextStripId));
 }
 
 void TestSceneEditing::pickListSubstringRule()
