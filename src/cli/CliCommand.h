@@ -78,6 +78,8 @@ using CommandList = QList<CliCommand>;
 
 // Each subsystem adds its commands in one function of its own.
 void AddDocumentCommands(CommandList &commands);
+void AddImportCommands(CommandList &commands);
+void AddSchedulingCommands(CommandList &commands);
 void AddBreakdownCommands(CommandList &commands);
 
 // Shared by commands that read a schedule, change it and write it elsewhere.

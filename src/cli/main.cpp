@@ -19,6 +19,8 @@ CommandList allCommands()
 {
     CommandList commands;
     AddDocumentCommands(commands);
+    AddImportCommands(commands);
+    AddSchedulingCommands(commands);
     AddBreakdownCommands(commands);
     return commands;
 }

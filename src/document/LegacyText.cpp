@@ -567,6 +567,18 @@ QDate SerialToDate(double serial)
     return serialZero().addDays(qint64(days));
 }
 
+// The first character of the locale's short date format that is not a letter or a
+// quote: "/" in the United States, "." in Germany, "-" in the Netherlands.
+QString dateSeparator(const QLocale &locale)
+{
+    const QString format = locale.dateFormat(QLocale::ShortFormat);
+    for (QChar c : format) {
+        if (!c.isLetter() && c != u'\'' && c != u'"')
+            return QString(c);
+    }
+    return QStringLiteral("/");
+}
+
 QString FormatDate(const QDate &date, const QString &pattern, const QLocale &locale)
 {
     if (!date.isValid())
@@ -585,6 +597,12 @@ QString FormatDate(const QDate &date, const QString &pattern, const QLocale &loc
             out.append(QStringView(from, p));
             if (p != end)
                 ++p;
+            continue;
+        }
+        if (c == u'/') {
+            // As in the earlier edition, "/" stands for the locale's date separator.
+            out.append(dateSeparator(locale));
+            ++p;
             continue;
         }
         const char16_t letter = (c >= u'A' && c <= u'Z') ? char16_t(c + (u'a' - u'A')) : c;

@@ -37,6 +37,7 @@ private slots:
     void serialToDate();
     void formatDate_data();
     void formatDate();
+    void formatDateSeparator();
     void shortDateFormat_data();
     void shortDateFormat();
     void parseShortDate_data();
@@ -421,6 +422,15 @@ void TestLegacyText::formatDate()
     QFETCH(QString, pattern);
     QFETCH(QString, text);
     QCOMPARE(FormatDate(date, pattern, QLocale(QLocale::English, QLocale::UnitedStates)), text);
+}
+
+void TestLegacyText::formatDateSeparator()
+{
+    // "/" in a pattern is the locale's date separator, as the earlier edition had it.
+    const QDate friday(2026, 3, 6);
+    QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::German, QLocale::Germany)), "6.3");
+    QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::English, QLocale::UnitedKingdom)), "6/3");
+    QCOMPARE(FormatDate(friday, "'a/b' d/m", QLocale(QLocale::German, QLocale::Germany)), "a/b 6.3");
 }
 
 void TestLegacyText::shortDateFormat_data()
