@@ -80,6 +80,7 @@ using CommandList = QList<CliCommand>;
 void AddDocumentCommands(CommandList &commands);
 void AddImportCommands(CommandList &commands);
 void AddSchedulingCommands(CommandList &commands);
+void AddBreakdownCommands(CommandList &commands);
 
 // Shared by commands that read a schedule, change it and write it elsewhere.
 // Opens IN (exit 1 on failure, nothing written), runs the change with questions

@@ -21,6 +21,7 @@ CommandList allCommands()
     AddDocumentCommands(commands);
     AddImportCommands(commands);
     AddSchedulingCommands(commands);
+    AddBreakdownCommands(commands);
     return commands;
 }
 
