@@ -138,6 +138,9 @@ BoardView::BoardView(ScheduleDocument &doc, QWidget *parent)
     connect(m_lTimer, &QTimer::timeout, this, &BoardView::LTimerTimer);
     connect(m_rTimer, &QTimer::timeout, this, &BoardView::RTimerTimer);
     setMinimumSize(120, 120);
+    // Hit testing reads the header height of the last drawing; until the first paint
+    // it is that of the current scale.
+    m_drawState.headerHeight = BoardGeometry(m_scale).headerH;
     SetScrolls();
     ReScalePB();
 }
@@ -168,6 +171,7 @@ void BoardView::setScenePopups(bool on)
 void BoardView::setBoardScale(double scale)
 {
     m_scale = SnapBoardScale(scale);
+    m_drawState.headerHeight = BoardGeometry(m_scale).headerH;
     SetScrolls();
     ReScalePB();
     repaintBoard();

@@ -4,9 +4,11 @@
 #include "document/LegacyText.h"
 
 #include <QFontMetrics>
+#include <QHash>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QStaticText>
 #include <QVarLengthArray>
 
 namespace tb {
@@ -24,14 +26,59 @@ QColor colourFromName(const QString &name, const QColor &fallback)
     return colour.isValid() ? colour : fallback;
 }
 
+} // namespace
+
+// Texts of one font as earlier drawings laid them out: width and glyph layout, and
+// the shortened form of description lines.
+struct FontTexts
+{
+    struct Entry
+    {
+        int width = 0;
+        QStaticText text;
+    };
+    QHash<QString, Entry> entries;
+    QHash<QString, QString> shortened;
+    int shortenLimit = -1;
+};
+
+class BoardTextCache
+{
+public:
+    // Fonts are told apart by their full description and the device resolution;
+    // rotated text is kept apart from upright text, as its layout differs.
+    FontTexts &forFont(const QFont &font, int dpi, bool rotated)
+    {
+        const QString key =
+            font.toString() + (rotated ? QStringLiteral("@r") : QStringLiteral("@")) + QString::number(dpi);
+        auto it = m_fonts.find(key);
+        if (it == m_fonts.end()) {
+            if (m_fonts.size() > 64) // zooming and printing make a few dozen at most
+                m_fonts.clear();
+            it = m_fonts.insert(key, std::make_shared<FontTexts>());
+        }
+        return **it;
+    }
+
+private:
+    QHash<QString, std::shared_ptr<FontTexts>> m_fonts;
+};
+
+namespace {
+
+// Bounds the memory of one font's texts; a board has far fewer different texts.
+constexpr qsizetype MaxTextsPerFont = 20000;
+
 // The classic canvas calls the board was laid out with, on a QPainter: a rectangle
 // from (x1, y1) up to but not including (x2, y2), text placed by the top-left corner
 // of its cell and drawn on an opaque background, lines that leave out their end point.
 class Canvas
 {
 public:
-    explicit Canvas(QPainter &p)
+    Canvas(QPainter &p, BoardTextCache *cache)
         : m_p(p)
+        , m_cache(cache)
+        , m_dpi(p.device()->logicalDpiY())
     {}
 
     QPainter &painter() { return m_p; }
@@ -55,45 +102,131 @@ public:
     void hline(int x1, int x2, int y, const QColor &pen) { fill(x1, y, x2, y + 1, pen); }
     void vline(int x, int y1, int y2, const QColor &pen) { fill(x, y1, x + 1, y2, pen); }
 
-    void setFont(const QFont &font)
+    void setFont(const QFont &font, bool rotated = false)
     {
         m_p.setFont(font);
         m_metrics = QFontMetrics(font, m_p.device());
+        m_ascent = QFontMetricsF(font, m_p.device()).ascent();
+        m_texts = m_cache ? &m_cache->forFont(font, m_dpi, rotated) : nullptr;
     }
     const QFontMetrics &metrics() const { return m_metrics; }
-    int width(const QString &text) const { return m_metrics.horizontalAdvance(text); }
+    int width(const QString &text) { return m_texts ? entry(text).width : m_metrics.horizontalAdvance(text); }
+
+    // Draws a text whose cell's top-left corner is at (x, y) in the painter's current
+    // coordinates (turned ones included).
+    void drawAt(int x, int y, const QString &text, const QColor &fore)
+    {
+        m_p.setPen(fore);
+        if (m_texts)
+            m_p.drawStaticText(QPointF(x, y + m_metrics.ascent() - m_ascent), entry(text).text);
+        else
+            m_p.drawText(x, y + m_metrics.ascent(), text);
+    }
 
     void textOut(int x, int y, const QString &text, const QColor &fore, const QColor &back)
     {
         if (text.isEmpty())
             return;
         m_p.fillRect(QRect(x, y, width(text), m_metrics.height()), back);
-        m_p.setPen(fore);
-        m_p.drawText(x, y + m_metrics.ascent(), text);
+        drawAt(x, y, text, fore);
+    }
+    // Text on a part of a strip column already painted in one colour (the interior
+    // `under`, in `underColour`): its opaque background is painted only where it would
+    // change something, which on a board is almost never.
+    void textOver(int x, int y, const QString &text, const QColor &fore, const QColor &back, const QRect &under,
+                  const QColor &underColour)
+    {
+        if (text.isEmpty())
+            return;
+        const QRect cell(x, y, width(text), m_metrics.height());
+        if (back != underColour || !under.contains(cell))
+            m_p.fillRect(cell, back);
+        drawAt(x, y, text, fore);
     }
     // Text clipped to a rectangle; the background is painted only inside it.
     void textRect(const QRect &clip, int x, int y, const QString &text, const QColor &fore, const QColor &back)
     {
         if (text.isEmpty() || clip.isEmpty())
             return;
-        const QRect cell = QRect(x, y, width(text), m_metrics.height()) & clip;
+        const int w = width(text);
+        const QRect cell = QRect(x, y, w, m_metrics.height()) & clip;
         m_p.fillRect(cell, back);
-        if (cell.width() >= width(text) && cell.height() >= m_metrics.height()) {
-            m_p.setPen(fore);
-            m_p.drawText(x, y + m_metrics.ascent(), text);
+        if (cell.width() >= w && cell.height() >= m_metrics.height()) {
+            drawAt(x, y, text, fore);
             return;
         }
         m_p.save();
         m_p.setClipRect(clip, Qt::IntersectClip);
-        m_p.setPen(fore);
-        m_p.drawText(x, y + m_metrics.ascent(), text);
+        drawAt(x, y, text, fore);
         m_p.restore();
     }
 
+    // Shortens a text from its end, a character at a time, until it is no wider than
+    // the limit. Widths grow with every character added, so the longest prefix that
+    // fits is found by halving instead of by trying each length in turn.
+    QString shortened(const QString &text, int limit)
+    {
+        if (m_texts) {
+            if (m_texts->shortenLimit != limit) {
+                m_texts->shortened.clear();
+                m_texts->shortenLimit = limit;
+            }
+            auto it = m_texts->shortened.constFind(text);
+            if (it != m_texts->shortened.cend())
+                return *it;
+            if (m_texts->shortened.size() > MaxTextsPerFont)
+                m_texts->shortened.clear();
+            const QString result = shorten(text, limit);
+            m_texts->shortened.insert(text, result);
+            return result;
+        }
+        return shorten(text, limit);
+    }
+
 private:
+    const FontTexts::Entry &entry(const QString &text)
+    {
+        auto it = m_texts->entries.constFind(text);
+        if (it != m_texts->entries.cend())
+            return *it;
+        if (m_texts->entries.size() > MaxTextsPerFont)
+            m_texts->entries.clear();
+        FontTexts::Entry e;
+        e.width = m_metrics.horizontalAdvance(text);
+        e.text = QStaticText(text);
+        e.text.setTextFormat(Qt::PlainText);
+        e.text.prepare(QTransform(), m_p.font());
+        return *m_texts->entries.insert(text, e);
+    }
+    QString shorten(const QString &text, int limit) const
+    {
+        if (m_metrics.horizontalAdvance(text) <= limit)
+            return text;
+        qsizetype fits = 0;
+        qsizetype tooWide = text.size();
+        while (tooWide - fits > 1) {
+            const qsizetype mid = (fits + tooWide) / 2;
+            if (m_metrics.horizontalAdvance(text.left(mid)) <= limit)
+                fits = mid;
+            else
+                tooWide = mid;
+        }
+        return text.left(fits);
+    }
+
     QPainter &m_p;
+    BoardTextCache *m_cache;
+    int m_dpi;
+    FontTexts *m_texts = nullptr;
     QFontMetrics m_metrics{QFont()};
+    qreal m_ascent = 0; // where a laid-out text's baseline lies below its top
 };
+
+// The inside of a rectangle drawn from (x1, y1) to (x2, y2) with a one-pixel outline.
+QRect interiorOf(int x1, int y1, int x2, int y2)
+{
+    return QRect(x1 + 1, y1 + 1, x2 - x1 - 2, y2 - y1 - 2);
+}
 
 // The drawing area: the painter's clip rectangle, or the whole device.
 QRect canvasExtent(const QPainter &p)
@@ -124,25 +257,6 @@ QVarLengthArray<int, 32> assignmentNumbers(const StripRecord &strip)
         start = comma + 1;
     }
     return numbers;
-}
-
-// Shortens a text from its end, a character at a time, until it is no wider than the
-// limit. Widths grow with every character added, so the longest prefix that fits is
-// found by halving instead of by trying each length in turn.
-QString shortenToWidth(const QString &text, const QFontMetrics &metrics, int limit)
-{
-    if (metrics.horizontalAdvance(text) <= limit)
-        return text;
-    qsizetype fits = 0;
-    qsizetype tooWide = text.size();
-    while (tooWide - fits > 1) {
-        const qsizetype mid = (fits + tooWide) / 2;
-        if (metrics.horizontalAdvance(text.left(mid)) <= limit)
-            fits = mid;
-        else
-            tooWide = mid;
-    }
-    return text.left(fits);
 }
 
 } // namespace
@@ -338,10 +452,27 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
     canvas.setRenderHint(QPainter::TextAntialiasing, true);
     canvas.setCompositionMode(QPainter::CompositionMode_SourceOver);
     canvas.setBrush(Qt::NoBrush);
-    Canvas c(canvas);
+    if (state && !state->texts)
+        state->texts = std::make_shared<BoardTextCache>();
+    Canvas c(canvas, state ? state->texts.get() : nullptr);
 
-    // The whole extent white.
-    c.fill(extent.x(), extent.y(), right, bottom, Qt::white);
+    // The whole extent white. The strip columns below cover their part of it from the
+    // board's top to the bottom, so only the rest is filled here: the same picture with
+    // a third of the memory traffic.
+    const int stripLimit = right - (forPrinting ? stripW : 0);
+    const int firstX = withElementColumn ? left + colW : left + 1;
+    int columnsEnd = firstX;
+    if (stripCount >= 1) {
+        for (int i = firstStrip; columnsEnd < stripLimit && i <= lastStrip && i <= stripCount; ++i)
+            columnsEnd += stripW;
+    }
+    if (columnsEnd > firstX) {
+        c.fill(extent.x(), extent.y(), firstX, bottom, Qt::white);
+        c.fill(columnsEnd, extent.y(), right, bottom, Qt::white);
+        c.fill(firstX, extent.y(), columnsEnd, top, Qt::white);
+    } else {
+        c.fill(extent.x(), extent.y(), right, bottom, Qt::white);
+    }
 
     // Header corner: the labels of the six header lines, then the production details.
     if (withHeader && withElementColumn) {
@@ -396,8 +527,6 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
         markRowsEnd += rowH;
     }
 
-    const int stripLimit = right - (forPrinting ? stripW : 0);
-    const int firstX = withElementColumn ? left + colW : left + 1;
     int endX = firstX;   // the right edge of the last column drawn
     int stripsDrawn = 0; // columns drawn
 
@@ -426,10 +555,13 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
             c.rectangle(x, top, x + stripW, bottom, Silver, back);
             QColor headBack = back;
             QColor headFore = fore;
+            const QRect interior = interiorOf(x, top, x + stripW, bottom);
+            QRect headInterior = interior;
             if (selected(i)) {
                 headBack = SelectionRed;
                 headFore = Qt::white;
                 c.rectangle(x, 1, x + stripW, headerH, Silver, SelectionRed);
+                headInterior = interiorOf(x, 1, x + stripW, headerH);
             }
             if (withHeader) {
                 if (strip.isScene()) {
@@ -449,7 +581,7 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
                             c.setFont(underlined);
                             w = c.width(lines[k]);
                         }
-                        c.textOut(x + stripW / 2 - w / 2, y, lines[k], headFore, headBack);
+                        c.textOver(x + stripW / 2 - w / 2, y, lines[k], headFore, headBack, headInterior, headBack);
                         if (overflows)
                             c.setFont(stripFont);
                     }
@@ -466,7 +598,7 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
                         if (!used.contains(mark.row))
                             continue;
                         const QString &id = elements[mark.row][ElementField::BoardId];
-                        c.textOut(x + stripW / 2 - c.width(id) / 2, mark.y, id, fore, back);
+                        c.textOver(x + stripW / 2 - c.width(id) / 2, mark.y, id, fore, back, interior, back);
                     }
                 }
             }
@@ -482,8 +614,8 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
 
     // The rotated description lines, running upward from the bottom of the header.
     if (withHeader && stripsDrawn > 0) {
-        c.setFont(stripFont);
-        const QFontMetrics &fm = c.metrics();
+        c.setFont(stripFont, true);
+        const int cellH = c.metrics().height();
         const int limit = BoardRound(9.5 * rowH);
         const int baseY = top + headerH - m;
         struct Line
@@ -498,23 +630,34 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
             const StripRecord &strip = strips[i];
             QColor back, fore;
             colours(strip, &back, &fore);
-            if (selected(i) && inColour) {
-                back = SelectionRed;
-                fore = Qt::white;
+            // What the header of this column was painted with above.
+            QColor underColour = back;
+            QRect under = interiorOf(x, top, x + stripW, bottom);
+            if (selected(i)) {
+                underColour = SelectionRed;
+                under = interiorOf(x, 1, x + stripW, headerH);
+                if (inColour) {
+                    back = SelectionRed;
+                    fore = Qt::white;
+                }
             }
             QString first = FirstDescriptionText(strip, style);
             QString second = SecondDescriptionText(strip, style);
+            // Only scene lines are cut to the header; the cut is per character, with
+            // no ellipsis.
             if (strip.isScene()) {
-                first = shortenToWidth(first, fm, limit);
-                second = shortenToWidth(second, fm, limit);
+                first = c.shortened(first, limit);
+                second = c.shortened(second, limit);
             }
-            // Opaque text: the background of each line first, upright.
-            const int w1 = fm.horizontalAdvance(first);
-            const int w2 = fm.horizontalAdvance(second);
-            if (w1 > 0)
-                c.fill(x + m, baseY - w1, x + m + fm.height(), baseY, back);
-            if (w2 > 0)
-                c.fill(x + 7 * m, baseY - w2, x + 7 * m + fm.height(), baseY, back);
+            // Opaque text: the background of each line first, upright, where it changes
+            // anything.
+            for (const auto &[lineX, text] : {std::pair<int, const QString &>{x + m, first}, {x + 7 * m, second}}) {
+                if (text.isEmpty())
+                    continue;
+                const QRect cell(lineX, baseY - c.width(text), cellH, c.width(text));
+                if (back != underColour || !under.contains(cell))
+                    canvas.fillRect(cell, back);
+            }
             lines.append({x + m, first, fore});
             lines.append({x + 7 * m, second, fore});
         }
@@ -523,10 +666,8 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
         canvas.save();
         canvas.rotate(-90);
         for (const Line &line : lines) {
-            if (line.text.isEmpty())
-                continue;
-            canvas.setPen(line.fore);
-            canvas.drawText(-baseY, line.x + fm.ascent(), line.text);
+            if (!line.text.isEmpty())
+                c.drawAt(-baseY, line.x, line.text, line.fore);
         }
         canvas.restore();
     }

@@ -8,9 +8,13 @@
 #include <QColor>
 #include <QString>
 
+#include <memory>
+
 class QPainter;
 
 namespace tb {
+
+class BoardTextCache;
 
 // What a DrawBoard call leaves behind for its caller.
 struct BoardDrawState
@@ -21,6 +25,10 @@ struct BoardDrawState
     // last element row drawn (the printed extent).
     int printedRight = 0;
     int printedBottom = 0;
+    // Texts laid out by earlier drawings, reused by the next (created by DrawBoard).
+    // A board is redrawn with the same texts on every paint; shaping them anew each
+    // time would cost more than all the rest of the drawing.
+    std::shared_ptr<BoardTextCache> texts;
 };
 
 // The colour slot a strip is drawn with: day/night by interior/exterior for scenes
