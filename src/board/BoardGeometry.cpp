@@ -73,11 +73,15 @@ QFont BoardFont(const QString &family, int cellHeight, bool bold)
 
 int GetStripNum(const BoardGeometry &g, int x, int firstStrip)
 {
+    if (g.stripW <= 0)
+        return firstStrip;
     return (x - g.colW) / g.stripW + firstStrip;
 }
 
 int GetElementNum(const BoardGeometry &g, int headerH, int y, int firstElement)
 {
+    if (g.rowH <= 0)
+        return firstElement;
     return (y - headerH) / g.rowH + firstElement;
 }
 

@@ -102,12 +102,21 @@ public:
     void hline(int x1, int x2, int y, const QColor &pen) { fill(x1, y, x2, y + 1, pen); }
     void vline(int x, int y1, int y2, const QColor &pen) { fill(x, y1, x + 1, y2, pen); }
 
+    // The fonts of one drawing are a handful of objects used over and over: their
+    // metrics and texts are looked up once per object.
     void setFont(const QFont &font, bool rotated = false)
     {
         m_p.setFont(font);
-        m_metrics = QFontMetrics(font, m_p.device());
-        m_ascent = QFontMetricsF(font, m_p.device()).ascent();
-        m_texts = m_cache ? &m_cache->forFont(font, m_dpi, rotated) : nullptr;
+        const std::pair<const QFont *, bool> key(&font, rotated);
+        auto it = m_fonts.find(key);
+        if (it == m_fonts.end()) {
+            FontUse use{QFontMetrics(font, m_p.device()), QFontMetricsF(font, m_p.device()).ascent(),
+                        m_cache ? &m_cache->forFont(font, m_dpi, rotated) : nullptr};
+            it = m_fonts.insert(key, use);
+        }
+        m_metrics = it->metrics;
+        m_ascent = it->ascent;
+        m_texts = it->texts;
     }
     const QFontMetrics &metrics() const { return m_metrics; }
     int width(const QString &text) { return m_texts ? entry(text).width : m_metrics.horizontalAdvance(text); }
@@ -214,9 +223,17 @@ private:
         return text.left(fits);
     }
 
+    struct FontUse
+    {
+        QFontMetrics metrics;
+        qreal ascent;
+        FontTexts *texts;
+    };
+
     QPainter &m_p;
     BoardTextCache *m_cache;
     int m_dpi;
+    QHash<std::pair<const QFont *, bool>, FontUse> m_fonts;
     FontTexts *m_texts = nullptr;
     QFontMetrics m_metrics{QFont()};
     qreal m_ascent = 0; // where a laid-out text's baseline lies below its top
