@@ -39,6 +39,22 @@ void BM_RepaintBoard(benchmark::State &state)
 }
 BENCHMARK(BM_RepaintBoard)->Arg(60)->Arg(100)->Arg(140)->ArgNames({"zoom%"})->Unit(benchmark::kMillisecond);
 
+// The drawing alone, without the copy to the window: what the board itself costs.
+void BM_DrawBoard(benchmark::State &state)
+{
+    ScheduleDocument doc;
+    bench::FillToCapacity(doc);
+    const BoardStyle style = ClassicBoardStyle();
+    QImage image(1920, 1080, QImage::Format_RGB32);
+    BoardDrawState drawState;
+    for (auto _ : state) {
+        QPainter p(&image);
+        const QString last = DrawBoard(doc, style, 1, 1, -1, true, true, false, true, 1.0, 0, 0, p, &drawState);
+        benchmark::DoNotOptimize(last);
+    }
+}
+BENCHMARK(BM_DrawBoard)->Unit(benchmark::kMillisecond);
+
 // A drop of 100 strips, alternately far right and back: undo snapshot, the move itself
 // and the day recalculation that marking the document modified runs.
 void BM_MoveStrips(benchmark::State &state)
