@@ -22,6 +22,7 @@ CommandList allCommands()
     AddImportCommands(commands);
     AddSchedulingCommands(commands);
     AddBreakdownCommands(commands);
+    AddBoardCommands(commands);
     return commands;
 }
 
