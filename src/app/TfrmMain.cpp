@@ -621,7 +621,6 @@ void TfrmMain::closeEvent(QCloseEvent *event)
     if (!m_recent->save())
         m_doc.prompter().error(QStringLiteral("Error saving MRU list to the registry..."));
     if (!mayClose) {
-        m_closingOnPurpose = false;
         event->ignore();
         return;
     }
@@ -699,7 +698,7 @@ void TfrmMain::WMDROPFILES(const QStringList &paths)
 
 void TfrmMain::Exit1Click()
 {
-    m_closingOnPurpose = true;
+    // Closing by the menu runs the same close question as any other way of closing.
     close();
 }
 

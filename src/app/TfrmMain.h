@@ -175,7 +175,6 @@ private:
     int m_firstShowPause = 1200;
     bool m_firstShowStarted = false;
     bool m_firstShowDone = false;
-    bool m_closingOnPurpose = false;
 };
 
 } // namespace tb

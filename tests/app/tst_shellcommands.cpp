@@ -61,10 +61,8 @@ private slots:
     void newWithChanges();
     void newUnchangedAsksNothing();
     void openDialogSetUp();
-    void openCancelledInDialog();
     void saveUntitledGoesThroughSaveAs();
     void saveToMissingFileGoesThroughSaveAs();
-    void saveToExistingFileAsksNothing();
     void recentFileQuestion();
     void droppedFilesOpenFirstOnly();
     void closeQuery_data();
@@ -161,24 +159,6 @@ void TestShellCommands::openDialogSetUp()
     QCOMPARE(doc.FileName, path);
 }
 
-void TestShellCommands::openCancelledInDialog()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    changed(doc);
-    prompter.answers = {Answer::No};
-    ScriptedFiles files; // cancels
-    OpenCommand(doc, files);
-    QCOMPARE(doc.strips.count(), 1);
-    QVERIFY(doc.Modified);
-
-    // Cancel on the question: no dialog at all.
-    prompter.answers = {Answer::Cancel};
-    OpenCommand(doc, files);
-    QCOMPARE(files.specs.size(), 1);
-}
-
 void TestShellCommands::saveUntitledGoesThroughSaveAs()
 {
     ScheduleDocument doc;
@@ -210,25 +190,6 @@ void TestShellCommands::saveToMissingFileGoesThroughSaveAs()
     QCOMPARE(files.specs.size(), 1);
     QCOMPARE(doc.FileName, other);
     QVERIFY(!QFile::exists(TempPath("deleted-meanwhile.tbf")));
-}
-
-void TestShellCommands::saveToExistingFileAsksNothing()
-{
-    const QString path = saved("existing.tbf", "Old");
-    ScheduleDocument doc;
-    RecordingView view;
-    doc.setView(&view);
-    QVERIFY(OpenDocument(doc, path).ok());
-    doc.values.PictureTitle = "New";
-    SetModified(doc);
-    ScriptedFiles files;
-    QVERIFY(SaveCommand(doc, files));
-    QVERIFY(files.specs.isEmpty());
-    QVERIFY(!doc.Modified);
-    QCOMPARE(view.recent.last(), path);
-    ScheduleDocument reopened;
-    QVERIFY(OpenDocument(reopened, path).ok());
-    QCOMPARE(reopened.values.PictureTitle, "New");
 }
 
 void TestShellCommands::recentFileQuestion()
