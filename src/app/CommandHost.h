@@ -24,6 +24,9 @@ public:
     virtual QWidget *window() = 0;
     // The menu entry (or pop-up entry) with this object name; never null for the
     // names in MenuActions.h.
+    // Asking for an entry tells the main window that the caller serves it: until some
+    // subsystem has asked, an entry of a later subsystem stays disabled; from then on
+    // it is enabled by the state of the document and the selection.
     virtual QAction *action(const char *objectName) = 0;
     // The preferences and remembered answers.
     virtual Settings &settings() = 0;

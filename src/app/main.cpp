@@ -1,26 +1,43 @@
 // torvanbridge: the desktop program.
 
-#include "document/DocumentSummary.h"
+#include "app/TfrmMain.h"
+#include "app/TfrmTBSplash.h"
 #include "document/ScheduleDocument.h"
-#include "document/ScheduleFile.h"
+#include "document/Settings.h"
 #include "widgets/MessageBoxPrompter.h"
 
 #include <QApplication>
-#include <QTextStream>
 
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
+
+    // 1. The splash window, painted before anything else is made.
+    tb::TfrmTBSplash splash;
+    splash.show();
+    app.processEvents();
+
+    // 2. The application and its title.
     QApplication::setApplicationName(QStringLiteral("Torvanbridge"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Torvanbridge"));
     QApplication::setOrganizationName(QStringLiteral("Brenholt"));
     QApplication::setApplicationVersion(QStringLiteral(TB_VERSION));
 
+    // 3. The forms, the main window first. The dialogs are made on first use and
+    //    kept until the program ends.
     tb::ScheduleDocument doc;
-    tb::MessageBoxPrompter prompter;
+    tb::Settings settings;
+    tb::TfrmMain main(doc, settings);
+    tb::MessageBoxPrompter prompter(&main);
     doc.setPrompter(&prompter);
-    const QStringList args = app.arguments();
+    const QStringList args = QApplication::arguments();
     if (args.size() > 1)
-        (void)tb::OpenDocument(doc, args.at(1));
-    QTextStream(stdout) << tb::DocumentSummary(doc) << Qt::flush;
-    return 0;
+        main.setCommandLineFile(args.at(1));
+
+    // 4. The splash goes; the main window shows and the message loop runs.
+    splash.close();
+    main.show();
+    const int code = app.exec();
+    doc.setPrompter(nullptr);
+    return code;
 }

@@ -267,7 +267,10 @@ Result SaveDocument(ScheduleDocument &doc, const QString &path)
 
     ClearModified(doc);
     doc.view().setTitle(UpdateTitle(doc));
-    doc.view().addRecentFile(path);
+    // The list gets the document's own name, not the path written: an autosave writes
+    // elsewhere and must not put its file on the list (it hands a blank name for an
+    // untitled document, which the list ignores).
+    doc.view().addRecentFile(doc.FileName);
     status.setProgress(0);
     status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saved OK."));
     status.setBusy(false);

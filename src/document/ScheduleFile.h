@@ -15,9 +15,9 @@ inline constexpr const char *ScheduleFileHeader = "Torvanbridge data file. DO NO
 inline constexpr const char *ScheduleFileFilter = "Torvanbridge file (*.tbf);;All files (*)";
 inline constexpr const char *ScheduleFileExtension = "tbf";
 
-// Writes the document to the path. On success the document is marked saved and the
-// path goes to the recent-files list. On failure the user is shown the error, the
-// earlier file at the path is left whole, and Modified is left as it was.
+// Writes the document to the path. On success the document is marked saved and its
+// FileName (which Save As sets to the path first) goes to the recent-files list. On failure the user is shown the
+// error, the earlier file at the path is left whole, and Modified is left as it was.
 Result SaveDocument(ScheduleDocument &doc, const QString &path);
 
 // Replaces the document with the file's content. The document is emptied first, so a

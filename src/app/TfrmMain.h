@@ -1,0 +1,180 @@
+#pragma once
+
+#include "app/CommandHost.h"
+#include "app/ShellCommands.h"
+#include "document/DocumentView.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QSet>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+class QActionGroup;
+class QComboBox;
+class QMenu;
+class QToolBar;
+
+namespace tb {
+
+class BoardView;
+class HelpWindow;
+class PanelStatusBar;
+class RecentFilesList;
+class ScheduleDocument;
+class Settings;
+class TfrmAbout;
+class TfrmPref;
+
+// The main window: menus, tool bar, the board, the status bar, the recent-files list,
+// the autosave timer and the document commands. It is the document's view and the
+// host through which the other subsystems serve their menu entries.
+class TfrmMain : public QMainWindow, public DocumentView, public CommandHost, private FileChooser
+{
+    Q_OBJECT
+
+public:
+    TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent = nullptr);
+    ~TfrmMain() override;
+
+    // ---- CommandHost
+    ScheduleDocument &document() override { return m_doc; }
+    QWidget *window() override { return this; }
+    // Asking for an entry tells the window that a subsystem serves it: from then on
+    // the entry is enabled by the state of the document instead of staying disabled.
+    QAction *action(const char *objectName) override;
+    Settings &settings() override { return m_settings; }
+    void repaintBoard() override;
+    void showHelp(const QString &page) override;
+
+    // ---- DocumentView
+    void setTitle(const QString &title) override;
+    void updateCommands(const ScheduleDocument &doc) override;
+    void setScrolls() override;
+    void scrollToStrip(int row) override;
+    void resetBoard() override;
+    void zoomChanged(double zoom) override;
+    void addRecentFile(const QString &path) override;
+    void setAutosaveInterval(int milliseconds) override;
+    int horizontalScroll() const override;
+    int verticalScroll() const override;
+    void setScrollPositions(int horizontal, int vertical) override;
+    void setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled,
+                         const QString &redoCaption) override;
+
+    // ---- The window's parts
+    BoardView *board() const { return m_board; }
+    PanelStatusBar *statusPanels() const { return m_statusBar; }
+    RecentFilesList *recentFiles() const { return m_recent; }
+    QComboBox *zoomCombo() const { return m_zoomCombo; }
+    QMenu *boardPopup() const { return m_popup; }
+    QToolBar *toolBar() const { return m_toolBar; }
+    QTimer &autosaveTimer() { return m_autosaveTimer; }
+    HelpWindow *helpWindow() const { return m_help.get(); }
+    // The entry (main menu, pop-up or zoom item) without marking it served.
+    QAction *findAction(const QString &objectName) const { return m_actions.value(objectName); }
+    bool isServed(const QAction *action) const;
+
+    // ---- Start-up
+    // The file named on the command line, opened on first show.
+    void setCommandLineFile(const QString &path) { m_commandLineFile = path; }
+    // The pause before the first-show steps (1200 ms; tests shorten it).
+    void setFirstShowPause(int milliseconds) { m_firstShowPause = milliseconds; }
+    bool firstShowDone() const { return m_firstShowDone; }
+    // Whether a printer is installed (the print system by default; tests replace it).
+    std::function<bool()> hasPrinter;
+
+    // ---- Files
+    // The file dialogs (the window's own by default; tests hand in a script).
+    void setFileChooser(FileChooser *files) { m_files = files ? files : this; }
+    const QString &programFolder() const { return m_programFolder; }
+    const QString &autosavePath() const { return m_autosavePath; }
+    void setAutosavePath(const QString &path) { m_autosavePath = path; }
+
+    // ---- Commands, named as the menu entries they serve
+    void New1Click();
+    void Openfile1Click();
+    void Save1Click();
+    void SaveAs1Click();
+    void MRUClick(const QString &path);
+    void Exit1Click();
+    void Undo1Click();
+    void Redo1Click();
+    void Cut1Click();
+    void Copy1Click();
+    void Paste1Click();
+    void Delete1Click();
+    void Preferences1Click();
+    void Fullscreen1Click(bool on);
+    void Contents1Click();
+    void Index1Click();
+    void About1Click();
+    void N1001Click(QAction *item);
+    void ZoomComboChange(int index);
+    void SetZoomCombo();
+    void SetZoomMenu();
+    void AutoSaveTimerTimer();
+    void WMDROPFILES(const QStringList &paths);
+
+signals:
+    // The first-show steps are done (settings read, document emptied, file opened).
+    void firstShowFinished();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    // FileChooser: the window's own file dialogs.
+    QString chooseOpenFile(const FileDialogSpec &spec) override;
+    QString chooseSaveFile(const FileDialogSpec &spec) override;
+
+    void buildMenus();
+    void buildPopup();
+    void buildToolBar();
+    void connectShellCommands();
+    void installSubsystemCommands();
+    QAction *addEntry(QMenu *menu, const char *name, const QString &caption, const QString &shortcut = {});
+    QAction *addPopupEntry(const char *name, const QString &caption, const QString &shortcut, const char *twin);
+    void enableIf(const char *name, bool state);
+    void applySettings();
+    void FormShow();
+
+    ScheduleDocument &m_doc;
+    Settings &m_settings;
+    FileChooser *m_files;
+
+    BoardView *m_board = nullptr;
+    PanelStatusBar *m_statusBar = nullptr;
+    RecentFilesList *m_recent = nullptr;
+    QToolBar *m_toolBar = nullptr;
+    QComboBox *m_zoomCombo = nullptr;
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_popup = nullptr;
+    QActionGroup *m_zoomGroup = nullptr;
+    QList<QAction *> m_zoomItems;
+    QTimer m_autosaveTimer;
+
+    QHash<QString, QAction *> m_actions;
+    QSet<const QAction *> m_served;
+    // Shortcut keys already claimed by an earlier entry of the main menu.
+    QHash<QString, QAction *> m_claimedKeys;
+
+    TfrmPref *m_pref = nullptr;
+    TfrmAbout *m_about = nullptr;
+    std::unique_ptr<HelpWindow> m_help;
+
+    QString m_programFolder;
+    QString m_autosavePath;
+    QString m_commandLineFile;
+    int m_firstShowPause = 1200;
+    bool m_firstShowStarted = false;
+    bool m_firstShowDone = false;
+};
+
+} // namespace tb
