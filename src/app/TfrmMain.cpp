@@ -5,12 +5,17 @@
 #include "app/TfrmAbout.h"
 #include "app/TfrmPref.h"
 #include "board/BoardView.h"
+#include "breakdown/InstallBreakdown.h"
+#include "breakdown/TfrmStrip.h"
 #include "document/Clipboard.h"
 #include "document/DocumentOperations.h"
+#include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "document/UndoStore.h"
+#include "import/InstallImportCommands.h"
+#include "scheduling/SchedulingMenu.h"
 #include "widgets/HelpWindow.h"
 #include "widgets/PanelStatusBar.h"
 #include "widgets/RecentFilesList.h"
@@ -107,7 +112,6 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_doc.setStatusSink(m_statusBar);
     m_doc.setView(this);
 
-    installSubsystemCommands();
     updateCommands(m_doc);
 }
 
@@ -120,12 +124,22 @@ TfrmMain::~TfrmMain()
 
 // ---- Subsystem commands ----------------------------------------------------------
 // Every subsystem that serves menu entries connects them here, each through its
-// Install<Area>Commands(CommandHost &) function, e.g.:
-//     InstallSchedulingCommands(*this);
-//     InstallBreakdownCommands(*this);
-//     InstallImportCommands(*this);
-//     InstallReportCommands(*this);
-void TfrmMain::installSubsystemCommands() {}
+// Install<Area>Commands(CommandHost &) function.
+
+void TfrmMain::installSubsystemCommands()
+{
+    InstallImportCommands(*this);
+    InstallSchedulingCommands(*this);
+    InstallBreakdownCommands(*this);
+
+    // The scene editor's remembered answer to its unsaved-changes warning.
+    if (auto *strip = findChild<TfrmStrip *>()) {
+        strip->skipSceneChangeWarning = [this] { return m_settings.skipWarning(RememberedWarning::SceneChange); };
+        strip->setSkipSceneChangeWarning = [this](bool skip) {
+            (void)m_settings.setSkipWarning(RememberedWarning::SceneChange, skip);
+        };
+    }
+}
 
 // ---- Menus ------------------------------------------------------------------------
 
@@ -590,6 +604,10 @@ void TfrmMain::applySettings()
 {
     m_doc.autosaveMinutes = m_settings.autosaveMinutes;
     m_board->setStyle(StyleFromSettings(m_settings));
+    // New banners and converted rest days take the "Banner" colour pair.
+    if (SchedulingCommands *scheduling = FindSchedulingCommands(*this))
+        scheduling->setBannerColours({legacy::ColorValueToString(m_settings.stripBackground[9]),
+                                      legacy::ColorValueToString(m_settings.stripText[9])});
 }
 
 void TfrmMain::FormShow()

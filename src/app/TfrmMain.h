@@ -39,6 +39,11 @@ public:
     TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent = nullptr);
     ~TfrmMain() override;
 
+    // Connects the menu entries of the other subsystems (scenes, elements, days,
+    // banners, import, reports) to their dialogs. The program calls it once after
+    // creating the window; the shell's own tests leave it out.
+    void installSubsystemCommands();
+
     // ---- CommandHost
     ScheduleDocument &document() override { return m_doc; }
     QWidget *window() override { return this; }
@@ -138,7 +143,6 @@ private:
     void buildPopup();
     void buildToolBar();
     void connectShellCommands();
-    void installSubsystemCommands();
     QAction *addEntry(QMenu *menu, const char *name, const QString &caption, const QString &shortcut = {});
     QAction *addPopupEntry(const char *name, const QString &caption, const QString &shortcut, const char *twin);
     void enableIf(const char *name, bool state);

@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     tb::ScheduleDocument doc;
     tb::Settings settings;
     tb::TfrmMain main(doc, settings);
+    main.installSubsystemCommands();
     tb::MessageBoxPrompter prompter(&main);
     doc.setPrompter(&prompter);
     const QStringList args = QApplication::arguments();
