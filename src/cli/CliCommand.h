@@ -70,6 +70,7 @@ using CommandList = QList<CliCommand>;
 
 // Each subsystem adds its commands in one function of its own.
 void AddDocumentCommands(CommandList &commands);
+void AddReportCommands(CommandList &commands);
 
 // Shared by commands that read a schedule, change it and write it elsewhere.
 // Opens IN (exit 1 on failure, nothing written), runs the change with questions

@@ -19,6 +19,7 @@ CommandList allCommands()
 {
     CommandList commands;
     AddDocumentCommands(commands);
+    AddReportCommands(commands);
     return commands;
 }
 
