@@ -447,7 +447,7 @@ object CallSheetForm: TForm
     object ScenesSCENEHeading: TAlLabel
       Left = 6
       Top = 29
-      Width = 50
+      Width = 44
       Height = 12
       AutoSize = False
       Caption = 'SCENE'
@@ -459,9 +459,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object ScenesIEHeading: TAlLabel
-      Left = 60
+      Left = 54
       Top = 29
-      Width = 34
+      Width = 30
       Height = 12
       AutoSize = False
       Caption = 'I/E'
@@ -472,13 +472,27 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object ScenesSETLOCATIONHeading: TAlLabel
-      Left = 98
+    object ScenesSETHeading: TAlLabel
+      Left = 88
       Top = 29
-      Width = 200
+      Width = 130
       Height = 12
       AutoSize = False
-      Caption = 'SET / LOCATION'
+      Caption = 'SET'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object ScenesLOCATIONHeading: TAlLabel
+      Left = 222
+      Top = 29
+      Width = 120
+      Height = 12
+      AutoSize = False
+      Caption = 'LOCATION'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -487,9 +501,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object ScenesDNHeading: TAlLabel
-      Left = 302
+      Left = 346
       Top = 29
-      Width = 36
+      Width = 32
       Height = 12
       AutoSize = False
       Caption = 'D/N'
@@ -501,9 +515,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object ScenesPAGESHeading: TAlLabel
-      Left = 342
+      Left = 382
       Top = 29
-      Width = 50
+      Width = 44
       Height = 12
       AutoSize = False
       Caption = 'PAGES'
@@ -515,9 +529,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object ScenesSYNOPSISHeading: TAlLabel
-      Left = 396
+      Left = 430
       Top = 29
-      Width = 300
+      Width = 266
       Height = 12
       AutoSize = False
       Caption = 'SYNOPSIS'
@@ -540,7 +554,7 @@ object CallSheetForm: TForm
     object SceneField: TAlField
       Left = 6
       Top = 3
-      Width = 50
+      Width = 44
       Height = 14
       AutoSize = False
       Caption = 'SceneField'
@@ -552,9 +566,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object IEField: TAlField
-      Left = 60
+      Left = 54
       Top = 3
-      Width = 34
+      Width = 30
       Height = 14
       AutoSize = False
       Caption = 'IEField'
@@ -565,10 +579,25 @@ object CallSheetForm: TForm
       Font.Style = []
       ParentFont = False
     end
-    object LocationField: TAlField
-      Left = 98
+    object SetField: TAlField
+      Left = 88
       Top = 3
-      Width = 200
+      Width = 130
+      Height = 14
+      AutoSize = False
+      Caption = 'SetField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object LocationField: TAlField
+      Left = 222
+      Top = 3
+      Width = 120
       Height = 14
       AutoSize = False
       Caption = 'LocationField'
@@ -581,9 +610,9 @@ object CallSheetForm: TForm
       WordWrap = True
     end
     object DNField: TAlField
-      Left = 302
+      Left = 346
       Top = 3
-      Width = 36
+      Width = 32
       Height = 14
       AutoSize = False
       Caption = 'DNField'
@@ -595,9 +624,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object PagesField: TAlField
-      Left = 342
+      Left = 382
       Top = 3
-      Width = 50
+      Width = 44
       Height = 14
       AutoSize = False
       Caption = 'PagesField'
@@ -609,9 +638,9 @@ object CallSheetForm: TForm
       ParentFont = False
     end
     object SynopsisField: TAlField
-      Left = 396
+      Left = 430
       Top = 3
-      Width = 300
+      Width = 266
       Height = 14
       AutoSize = False
       Caption = 'SynopsisField'

@@ -315,6 +315,12 @@ bool isObjectKeyword(const Token &t)
     return isKeyword(t, "object") || isKeyword(t, "inherited") || isKeyword(t, "inline");
 }
 
+// Words of the syntax: never a name, a class or a value.
+bool isReserved(const Token &t)
+{
+    return isKeyword(t, "end") || isObjectKeyword(t) || isKeyword(t, "item");
+}
+
 bool isSymbol(const Token &t, char16_t c)
 {
     return t.kind == Token::Symbol && t.symbol == QChar(c);
@@ -360,13 +366,13 @@ private:
         object.keyword = m_tok.text.toLower();
         object.line = m_tok.line;
         advance();
-        if (m_tok.kind != Token::Name || m_tok.text.contains(u'.'))
+        if (m_tok.kind != Token::Name || m_tok.text.contains(u'.') || isReserved(m_tok))
             fail(QStringLiteral("a component name or class name after \"%1\"").arg(object.keyword));
         const QString first = m_tok.text;
         advance();
         if (isSymbol(m_tok, u':')) {
             advance();
-            if (m_tok.kind != Token::Name || m_tok.text.contains(u'.'))
+            if (m_tok.kind != Token::Name || m_tok.text.contains(u'.') || isReserved(m_tok))
                 fail(QStringLiteral("a class name after \"%1:\"").arg(first));
             object.name = first;
             object.className = m_tok.text;
@@ -438,6 +444,8 @@ private:
             }
             return v;
         case Token::Name:
+            if (isReserved(m_tok))
+                fail(QStringLiteral("a value for \"%1\"").arg(property));
             v.kind = DfmValue::Identifier;
             v.text = m_tok.text;
             advance();
