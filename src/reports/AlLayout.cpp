@@ -30,11 +30,11 @@ int lineHeight(const QFontMetricsF &metrics)
     return int(std::ceil(metrics.lineSpacing()));
 }
 
-int textWidth(const QStringList &lines, const QFontMetricsF &metrics)
+int textWidth(const QList<double> &widths)
 {
     double width = 0;
-    for (const QString &line : lines)
-        width = std::max(width, metrics.horizontalAdvance(line));
+    for (double w : widths)
+        width = std::max(width, w);
     return int(std::ceil(width));
 }
 
@@ -269,12 +269,14 @@ private:
                 const auto &label = static_cast<const TAlLabel &>(*control);
                 const QFontMetricsF &metrics = label.metrics();
                 pc.text = textOf(label);
-                pc.lines = BreakTextLines(pc.text, metrics, label.WordWrap ? r.width() : 0);
+                pc.lines = BreakTextLines(
+                    pc.text, [&label](const QString &t) { return label.advance(t); }, label.WordWrap ? r.width() : 0,
+                    &pc.widths);
                 const int lh = lineHeight(metrics);
                 const int textHeight = int(pc.lines.size()) * lh;
                 if (label.AutoSize) {
                     if (!label.WordWrap) {
-                        const int w = textWidth(pc.lines, metrics);
+                        const int w = textWidth(pc.widths);
                         if (label.Alignment == TAlignment::taRightJustify)
                             r.setLeft(r.left() + r.width() - w);
                         else if (label.Alignment == TAlignment::taCenter)
@@ -313,7 +315,7 @@ private:
                 if (isLabel(pc.control)) {
                     const auto &label = static_cast<const TAlLabel &>(*pc.control);
                     const QFontMetricsF &metrics = label.metrics();
-                    const int w = textWidth(pc.lines, metrics);
+                    const int w = textWidth(pc.widths);
                     const int left = int(std::floor(lineLeft(pc.rect, label.Alignment, w)));
                     extent = QRect(left, pc.rect.top(), w, int(pc.lines.size()) * lineHeight(metrics));
                     if (!label.Transparent)
@@ -564,13 +566,20 @@ ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page)
 
 QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, double width)
 {
+    return BreakTextLines(
+        text, [&metrics](const QString &t) { return metrics.horizontalAdvance(t); }, width);
+}
+
+QStringList BreakTextLines(const QString &text, const std::function<double(const QString &)> &advance, double width,
+                           QList<double> *widths)
+{
     QStringList lines;
-    if (text.isEmpty())
-        return lines;
-    QString paragraph;
+    QList<double> lineWidths;
     auto flush = [&](const QString &p) {
-        if (width <= 0 || !p.contains(u' ') || metrics.horizontalAdvance(p) <= width) {
+        const double whole = advance(p);
+        if (width <= 0 || whole <= width || !p.contains(u' ')) {
             lines.append(p);
+            lineWidths.append(whole);
             return;
         }
         // Greedy word wrap; the blanks that indent the paragraph indent each of its lines.
@@ -579,6 +588,7 @@ QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, do
             ++start;
         const QString indent = p.left(start);
         QString line = indent;
+        double lineWidth = advance(indent);
         bool lineHasWord = false;
         qsizetype i = start;
         while (i < p.size()) {
@@ -588,17 +598,22 @@ QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, do
             const QString word = p.mid(i, end - i);
             if (!word.isEmpty()) {
                 const QString candidate = lineHasWord ? QString(line + u' ' + word) : QString(line + word);
-                if (lineHasWord && metrics.horizontalAdvance(candidate) > width) {
+                const double candidateWidth = advance(candidate);
+                if (lineHasWord && candidateWidth > width) {
                     lines.append(line);
+                    lineWidths.append(lineWidth);
                     line = indent + word;
+                    lineWidth = advance(line);
                 } else {
                     line = candidate;
+                    lineWidth = candidateWidth;
                 }
                 lineHasWord = true;
             }
             i = end + 1;
         }
         lines.append(line);
+        lineWidths.append(lineWidth);
     };
     const qsizetype n = text.size();
     qsizetype begin = 0;
@@ -614,8 +629,12 @@ QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, do
     if (begin < n)
         flush(text.mid(begin));
     // Blank lines at the end take no room.
-    while (!lines.isEmpty() && lines.last().trimmed().isEmpty())
+    while (!lines.isEmpty() && lines.last().trimmed().isEmpty()) {
         lines.removeLast();
+        lineWidths.removeLast();
+    }
+    if (widths)
+        *widths = lineWidths;
     return lines;
 }
 
@@ -645,10 +664,9 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.setPen(label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128));
                 const double lh = lineHeight(metrics);
                 double baseline = pc.rect.top() + metrics.ascent();
-                for (const QString &line : pc.lines) {
-                    const double w =
-                        label.Alignment == TAlignment::taLeftJustify ? 0.0 : metrics.horizontalAdvance(line);
-                    painter.drawText(QPointF(lineLeft(pc.rect, label.Alignment, w), baseline), line);
+                for (qsizetype i = 0; i < pc.lines.size(); ++i) {
+                    painter.drawText(QPointF(lineLeft(pc.rect, label.Alignment, pc.widths.at(i)), baseline),
+                                     pc.lines.at(i));
                     baseline += lh;
                 }
                 break;

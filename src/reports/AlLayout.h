@@ -11,6 +11,8 @@
 #include <QRect>
 #include <QStringList>
 
+#include <functional>
+
 class QPainter;
 
 namespace tb {
@@ -30,9 +32,10 @@ struct PlacedControl
     const tAlControl *control = nullptr;
     QRect rect; // where it is drawn, in output units on the page
     bool clipped = false;
-    QRect clip;        // when clipped: the part of the page it may draw on
-    QString text;      // labels and fields: the text shown
-    QStringList lines; // the text broken into the lines drawn
+    QRect clip;           // when clipped: the part of the page it may draw on
+    QString text;         // labels and fields: the text shown
+    QStringList lines;    // the text broken into the lines drawn
+    QList<double> widths; // the advance of each line
 };
 
 struct PlacedBand
@@ -65,6 +68,10 @@ ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page);
 // each line fits the width. The blanks that indent a line indent its wrapped parts too;
 // blank lines at the end are dropped.
 QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, double width);
+// The same with the advance of a text given by the caller; the lines' advances go to
+// widths when given.
+QStringList BreakTextLines(const QString &text, const std::function<double(const QString &)> &advance, double width,
+                           QList<double> *widths = nullptr);
 
 // Draws a laid-out page; the painter works in output units.
 void PaintPage(QPainter &painter, const LaidOutPage &page);

@@ -47,6 +47,18 @@ const QFontMetricsF &TAlLabel::metrics() const
     return *m_metrics;
 }
 
+double TAlLabel::advance(const QString &text) const
+{
+    if (text.isEmpty())
+        return 0.0;
+    auto it = m_advances.constFind(text);
+    if (it != m_advances.cend())
+        return *it;
+    if (m_advances.size() > 8192)
+        m_advances.clear();
+    return *m_advances.insert(text, metrics().horizontalAdvance(text));
+}
+
 // ---- Named values and pictures ----
 
 void TAlReport::AddNamedValue(const QString &fieldName, const QString &value)

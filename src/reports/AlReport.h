@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QString>
@@ -146,9 +147,13 @@ public:
     // The font the label is drawn in, in output units (set when the template loads).
     QFont outputFont;
     const QFontMetricsF &metrics() const;
+    // The advance of a text in the output font. Reports print the same texts again and
+    // again (names, headings, categories), so advances are kept per label.
+    double advance(const QString &text) const;
 
 private:
     mutable std::optional<QFontMetricsF> m_metrics;
+    mutable QHash<QString, double> m_advances;
 };
 
 // A data field: each printing of its band shows the value at the current row.
