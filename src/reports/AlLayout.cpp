@@ -435,6 +435,11 @@ private:
                 int needed = placed.rect.height();
                 if (groupStarts && link->GroupHeader)
                     needed += prepare(*link->GroupHeader, -1).rect.height();
+                // The last row of a group keeps its group footer on its page.
+                const QString current = groupStarts ? link->DataSource->value() : link ? link->lastValue : QString();
+                if (link && link->GroupFooter && link->GroupFooter->Enabled &&
+                    link->DataSource->valueAt(link->DataSource->row + 1) != current)
+                    needed += prepare(*link->GroupFooter, -1).rect.height();
                 if (!fits(needed)) {
                     newPageForDetail(detail, groupStarts);
                     if (m_stop)

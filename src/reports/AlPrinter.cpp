@@ -280,4 +280,33 @@ Result TAlReport::PreparePreview(QList<TDrawMetaFile *> &pages, const PrinterGeo
     return Result::success();
 }
 
+bool PrintRecordedPages(const QList<TDrawMetaFile *> &pages, QPagedPaintDevice &device, int first, int last)
+{
+    first = std::max(first, 1);
+    last = std::min<int>(last, int(pages.size()));
+    if (first > last)
+        return true;
+    const PrinterGeometry g = PrinterGeometry::fromDevice(device);
+    // A recorded page covers the printable area and the offsets: it is drawn shifted back
+    // by them, into (-left, -top) .. (printable width - 1, printable height - 1).
+    const QRectF target(QPointF(-g.offsetLeft, -g.offsetTop), QPointF(g.printableWidth - 1, g.printableHeight - 1));
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int p = first; p <= last; ++p) {
+        if (p > first && !device.newPage()) {
+            painter.end();
+            return false;
+        }
+        const TDrawMetaFile &page = *pages.at(p - 1);
+        painter.save();
+        painter.translate(target.topLeft());
+        painter.scale(target.width() / std::max(1, page.Width), target.height() / std::max(1, page.Height));
+        painter.drawPicture(0, 0, page.picture());
+        painter.restore();
+    }
+    return painter.end();
+}
+
 } // namespace tb

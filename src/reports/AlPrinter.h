@@ -122,4 +122,9 @@ private:
     int m_devicePages = 0;
 };
 
+// Prints recorded preview pages a..b (1-based) onto a device: each page is stretched
+// over the printable area and the printing offsets, so it lands where a direct print
+// would have put it. Starts and ends the job. False when the device fails.
+bool PrintRecordedPages(const QList<TDrawMetaFile *> &pages, QPagedPaintDevice &device, int first, int last);
+
 } // namespace tb

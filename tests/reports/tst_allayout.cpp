@@ -114,6 +114,7 @@ private Q_SLOTS:
     void columnsFillLeftToRight();
     void groupBreaksThroughADetailLink();
     void groupHeaderRepeatsOnANewPage();
+    void lastRowKeepsItsGroupFooter();
     void firstAndLaterPageHeaders();
     void newPageBand();
     void tooTallBandStillPrints();
@@ -305,6 +306,25 @@ void TestAlLayout::groupHeaderRepeatsOnANewPage()
     QCOMPARE(bandNames(layout), QStringLiteral("Col GH D D | Col GH D D | Col GH D"));
     QCOMPARE(controlOf(layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
     QCOMPARE(controlOf(layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
+}
+
+void TestAlLayout::lastRowKeepsItsGroupFooter()
+{
+    auto form =
+        makeForm(band("Col", 0, 10, "alr_DetailHeader") + band("D", 10, 30, "alr_Detail", {}, fieldOn("N")) +
+                 band("GH", 100, 10, "alr_GroupHeader", {}, fieldOn("Day")) + band("GF", 110, 10, "alr_GroupFooter") +
+                 QStringLiteral("  object L: TAlDetailLink\n    GroupHeader = GH\n    GroupFooter = GF\n"
+                                "    GroupBand = D\n    DataSource = Day\n  end\n"));
+    QVERIFY(form);
+    TAlReport &report = *form->report;
+    for (int i = 0; i < 2; ++i) {
+        report.AddNamedValue("N", QString::number(i + 1));
+        report.AddNamedValue("Day", "Day 1");
+    }
+    // Room for two rows but not for the footer after the second: the second row goes to
+    // the next page with its footer, rather than leave a footer alone there.
+    const int height = H10 + H10 + 2 * H30 + 1;
+    QCOMPARE(bandNames(LayOutReport(report, pageOf(height))), QStringLiteral("Col GH D | Col GH D GF"));
 }
 
 void TestAlLayout::firstAndLaterPageHeaders()
