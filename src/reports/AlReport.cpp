@@ -66,7 +66,8 @@ void TAlReport::AddNamedValue(const QString &fieldName, const QString &value)
     if (m_form) {
         for (const auto &component : m_form->components) {
             if (component->kind() == Kind::Field && component->Name.compare(fieldName, Qt::CaseInsensitive) == 0) {
-                AddFieldValue(static_cast<TAlField &>(*component), value);
+                static_cast<TAlField &>(*component).values.append(value);
+                trace(QStringLiteral("AddNamedValue(") + fieldName + QStringLiteral(") = ") + value);
                 return;
             }
         }

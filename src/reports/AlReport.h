@@ -300,7 +300,8 @@ public:
     // the given one ignoring case. A name without a field is ignored: report code may
     // push values for fields that a template leaves out.
     void AddNamedValue(const QString &fieldName, const QString &value);
-    // Appends the value to one field directly (traced like AddNamedValue).
+    // Appends the value to one field directly (traced like AddNamedValue, under the
+    // field's own name).
     void AddFieldValue(TAlField &field, const QString &value);
 
     // Gives every image of the template the picture, in component order.

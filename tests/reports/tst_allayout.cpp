@@ -237,7 +237,7 @@ void TestAlLayout::sameNameFieldsOnlyFirstReceives()
     report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("lost"));
     report.DebugTrace = false;
     report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("silent"));
-    QCOMPARE(trace, QStringList({"AddNamedValue(Name) = first", "AlField Missing = not found for value: lost"}));
+    QCOMPARE(trace, QStringList({"AddNamedValue(name) = first", "AlField Missing = not found for value: lost"}));
     const auto fields = form->fields();
     QCOMPARE(fields[0]->values, QStringList{"first"});
     QVERIFY(fields[1]->values.isEmpty());
