@@ -82,6 +82,7 @@ void AddImportCommands(CommandList &commands);
 void AddSchedulingCommands(CommandList &commands);
 void AddBreakdownCommands(CommandList &commands);
 void AddBoardCommands(CommandList &commands);
+void AddReportCommands(CommandList &commands);
 
 // Shared by commands that read a schedule, change it and write it elsewhere.
 // Opens IN (exit 1 on failure, nothing written), runs the change with questions

@@ -23,6 +23,7 @@ CommandList allCommands()
     AddSchedulingCommands(commands);
     AddBreakdownCommands(commands);
     AddBoardCommands(commands);
+    AddReportCommands(commands);
     return commands;
 }
 

@@ -1,0 +1,191 @@
+// The report command: a schedule's reports as PDF files.
+
+#include "CliCommand.h"
+
+#include "document/ScheduleFile.h"
+#include "reports/ReportBuilders.h"
+#include "reports/ReportOutput.h"
+
+#include <QSet>
+
+namespace tb::cli {
+
+namespace {
+
+const QStringList Kinds = {QStringLiteral("schedule"), QStringLiteral("oneline"), QStringLiteral("breakdown"),
+                           QStringLiteral("elements")};
+
+// "1,4,12" as numbers; false for anything else.
+bool numberList(const QString &text, QList<int> *numbers)
+{
+    const QStringList items = text.split(u',', Qt::SkipEmptyParts);
+    if (items.isEmpty())
+        return false;
+    for (const QString &item : items) {
+        bool ok = false;
+        const int n = item.trimmed().toInt(&ok);
+        if (!ok)
+            return false;
+        numbers->append(n);
+    }
+    return true;
+}
+
+// A trace line on one output line: its line breaks are written as \r and \n.
+QString oneLine(QString text)
+{
+    text.replace(u'\\', QLatin1String("\\\\"));
+    text.replace(u'\r', QLatin1String("\\r"));
+    text.replace(u'\n', QLatin1String("\\n"));
+    return text;
+}
+
+int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
+{
+    ArgParser parser;
+    parser.valueOption(QStringLiteral("-o"))
+        .valueOption(QStringLiteral("--from"))
+        .valueOption(QStringLiteral("--to"))
+        .valueOption(QStringLiteral("--sheets"))
+        .valueOption(QStringLiteral("--categories"))
+        .valueOption(QStringLiteral("--paper"))
+        .flag(QStringLiteral("--all-days"))
+        .flag(QStringLiteral("--trace"));
+    QString error;
+    if (!parser.parse(args, &error))
+        return UsageError(ctx, self, error);
+    if (parser.positional().size() != 2 || !parser.has(QStringLiteral("-o")))
+        return UsageError(ctx, self, QStringLiteral("expected KIND, an input file and -o OUT.pdf"));
+    const QString kind = parser.positional().at(0);
+    if (!Kinds.contains(kind))
+        return UsageError(ctx, self,
+                          QStringLiteral("unknown report %1 (schedule, oneline, breakdown or elements)").arg(kind));
+    const bool isSchedule = kind == QLatin1String("schedule") || kind == QLatin1String("oneline");
+    const bool hasRange = parser.has(QStringLiteral("--from")) || parser.has(QStringLiteral("--to"));
+    if (!isSchedule && (hasRange || parser.has(QStringLiteral("--all-days"))))
+        return UsageError(ctx, self, QStringLiteral("--from, --to and --all-days are for schedule and oneline"));
+    if (parser.has(QStringLiteral("--sheets")) && kind != QLatin1String("breakdown"))
+        return UsageError(ctx, self, QStringLiteral("--sheets is for breakdown"));
+    if (parser.has(QStringLiteral("--categories")) && kind != QLatin1String("elements"))
+        return UsageError(ctx, self, QStringLiteral("--categories is for elements"));
+    std::optional<tPapersize> paper;
+    if (parser.has(QStringLiteral("--paper"))) {
+        const QString name = parser.value(QStringLiteral("--paper")).toLower();
+        if (name == QLatin1String("a4"))
+            paper = tPapersize::alr_A4;
+        else if (name == QLatin1String("letter"))
+            paper = tPapersize::alr_Letter;
+        else
+            return UsageError(ctx, self, QStringLiteral("--paper is a4 or letter"));
+    }
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, parser.positional().at(1)))
+        return ExitUserError;
+
+    ReportBuildContext context;
+    if (parser.has(QStringLiteral("--trace")))
+        context.trace = [&ctx](const QString &line) { ctx.out << oneLine(line) << '\n'; };
+
+    ResultOf<BuiltReport> built = Result::failure(QString());
+    if (isSchedule) {
+        ScheduleReportOptions options;
+        options.oneLine = kind == QLatin1String("oneline");
+        options.shootingDaysOnly = !parser.has(QStringLiteral("--all-days"));
+        if (hasRange) {
+            const int days = ScheduleDayCount(doc);
+            bool fromOk = true;
+            bool toOk = true;
+            options.allDays = false;
+            options.fromDay = parser.value(QStringLiteral("--from"), QStringLiteral("1")).toInt(&fromOk);
+            options.toDay = parser.value(QStringLiteral("--to"), QString::number(days)).toInt(&toOk);
+            if (!fromOk || !toOk)
+                return UsageError(ctx, self, QStringLiteral("--from and --to take day numbers"));
+            if (options.fromDay < 1 || options.toDay > days || options.fromDay > options.toDay) {
+                ctx.err << QStringLiteral(
+                               "The day range %1 to %2 is not within the schedule's production days 1 to %3.")
+                               .arg(options.fromDay)
+                               .arg(options.toDay)
+                               .arg(days)
+                        << Qt::endl;
+                return ExitUserError;
+            }
+        }
+        built = CreateSchedulePages(doc, options, context);
+    } else if (kind == QLatin1String("breakdown")) {
+        BreakdownReportOptions options;
+        if (parser.has(QStringLiteral("--sheets"))) {
+            QList<int> ids;
+            if (!numberList(parser.value(QStringLiteral("--sheets")), &ids))
+                return UsageError(ctx, self, QStringLiteral("--sheets takes breakdown sheet numbers such as 3,12"));
+            const QSet<int> wanted(ids.begin(), ids.end());
+            QSet<int> found;
+            options.all = false;
+            // The chosen sheets print in the order of the list, which is board order.
+            for (const BreakdownListItem &item : BreakdownListItems(doc)) {
+                const int id = doc.strips[item.row][StripField::StripId].toInt();
+                if (wanted.contains(id)) {
+                    options.rows.append(item.row);
+                    found.insert(id);
+                }
+            }
+            for (int id : ids) {
+                if (!found.contains(id)) {
+                    ctx.err << QStringLiteral("No scene has the breakdown sheet number %1.").arg(id) << Qt::endl;
+                    return ExitUserError;
+                }
+            }
+        }
+        built = CreateBreakdownPages(doc, options, context);
+    } else {
+        ElementSummaryOptions options;
+        if (parser.has(QStringLiteral("--categories"))) {
+            QList<int> categories;
+            if (!numberList(parser.value(QStringLiteral("--categories")), &categories))
+                return UsageError(ctx, self, QStringLiteral("--categories takes category numbers such as 1,2,5"));
+            options.categories.clear();
+            for (int c : categories) {
+                if (c < 1 || c > doc.categoryCount()) {
+                    ctx.err << QStringLiteral("There is no category %1: categories are numbered 1 to %2.")
+                                   .arg(c)
+                                   .arg(doc.categoryCount())
+                            << Qt::endl;
+                    return ExitUserError;
+                }
+                options.categories.insert(c);
+            }
+        }
+        built = CreateElementSummaryPages(doc, options, context);
+    }
+    if (!built)
+        return ExitUserError; // the prompter has shown the message
+    if (built->nothingToPrint) {
+        ctx.err << "Nothing to print: no strip falls within the days or sheets chosen." << Qt::endl;
+        return ExitUserError;
+    }
+    Result written = WriteReportPdf(built->report(), parser.value(QStringLiteral("-o")), paper);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
+} // namespace
+
+void AddReportCommands(CommandList &commands)
+{
+    CliCommand report{
+        QStringLiteral("report"),
+        QStringLiteral("report KIND IN -o OUT.pdf [--trace] [--paper a4|letter] [--from N --to N] [--all-days] "
+                       "[--sheets ID,...] [--categories N,...]"),
+        QStringLiteral("Write a report as PDF: KIND is schedule, oneline (--from/--to days, --all-days for rest "
+                       "days too), breakdown (--sheets) or elements (--categories, default 1). --trace prints "
+                       "every value pushed into the template."),
+        {}};
+    report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
+    commands.append(report);
+}
+
+} // namespace tb::cli
