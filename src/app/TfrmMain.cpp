@@ -15,6 +15,7 @@
 #include "document/Settings.h"
 #include "document/UndoStore.h"
 #include "import/InstallImportCommands.h"
+#include "reports/ReportCommands.h"
 #include "scheduling/SchedulingMenu.h"
 #include "widgets/HelpWindow.h"
 #include "widgets/PanelStatusBar.h"
@@ -131,6 +132,7 @@ void TfrmMain::installSubsystemCommands()
     InstallImportCommands(*this);
     InstallSchedulingCommands(*this);
     InstallBreakdownCommands(*this);
+    InstallReportCommands(*this);
 
     // The scene editor's remembered answer to its unsaved-changes warning.
     if (auto *strip = findChild<TfrmStrip *>()) {

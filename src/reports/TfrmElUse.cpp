@@ -41,7 +41,7 @@ void TfrmElUse::showEvent(QShowEvent *event)
 void TfrmElUse::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F1 && showHelp) {
-        showHelp(QStringLiteral("TfrmElUse.html"));
+        showHelp(QStringLiteral("element-summary.html"));
         return;
     }
     QDialog::keyPressEvent(event);

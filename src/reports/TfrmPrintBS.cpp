@@ -46,7 +46,7 @@ void TfrmPrintBS::showEvent(QShowEvent *event)
 void TfrmPrintBS::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F1 && showHelp) {
-        showHelp(QStringLiteral("TfrmPrintBS.html"));
+        showHelp(QStringLiteral("breakdown-sheets.html"));
         return;
     }
     QDialog::keyPressEvent(event);

@@ -43,7 +43,7 @@ void TfrmShootSch::showEvent(QShowEvent *event)
 void TfrmShootSch::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F1 && showHelp) {
-        showHelp(QStringLiteral("TfrmShootSch.html"));
+        showHelp(QStringLiteral("shooting-schedule.html"));
         return;
     }
     QDialog::keyPressEvent(event);

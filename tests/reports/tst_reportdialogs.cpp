@@ -466,7 +466,7 @@ void TestReportDialogs::menuEntriesOpenTheirDialogs()
         host.action(action)->trigger();
         QCOMPARE(shown, QString::fromLatin1(dialogClass));
     }
-    QCOMPARE(host.helpPages, QStringList({"TfrmPrintBS.html", "TfrmElUse.html", "TfrmShootSch.html"}));
+    QCOMPARE(host.helpPages, QStringList({"breakdown-sheets.html", "element-summary.html", "shooting-schedule.html"}));
 }
 
 QTEST_MAIN(TestReportDialogs)
