@@ -12,10 +12,10 @@ namespace tb {
 
 namespace {
 
-FileDialogSpec scheduleSpec(const QString &title)
+FileDialogSetup scheduleSpec(const QString &title)
 {
-    return FileDialogSpec{title, QString::fromLatin1(ScheduleFileFilter), QString::fromLatin1(ScheduleFileExtension),
-                          QStringLiteral("*.tbf")};
+    return FileDialogSetup{title, QString::fromLatin1(ScheduleFileFilter), QString::fromLatin1(ScheduleFileExtension),
+                           QStringLiteral("*.tbf")};
 }
 
 // Yes, No or Cancel on a question about unsaved changes; Yes saves. False = stop.
@@ -31,12 +31,12 @@ bool saveChangesAnswer(ScheduleDocument &doc, FileChooser &files, const QString 
 
 } // namespace
 
-FileDialogSpec OpenFileSpec()
+FileDialogSetup OpenFileSetup()
 {
     return scheduleSpec(QStringLiteral("Open file"));
 }
 
-FileDialogSpec SaveFileSpec()
+FileDialogSetup SaveFileSetup()
 {
     return scheduleSpec(QStringLiteral("Save file"));
 }
@@ -60,7 +60,7 @@ void OpenCommand(ScheduleDocument &doc, FileChooser &files)
 {
     if (!AskToSaveChanges(doc, files, /*beep=*/true))
         return;
-    const QString path = files.chooseOpenFile(OpenFileSpec());
+    const QString path = files.chooseOpenFile(OpenFileSetup());
     if (path.isEmpty())
         return;
     (void)OpenDocument(doc, path);
@@ -75,7 +75,7 @@ bool SaveCommand(ScheduleDocument &doc, FileChooser &files)
 
 bool SaveAsCommand(ScheduleDocument &doc, FileChooser &files)
 {
-    const QString path = files.chooseSaveFile(SaveFileSpec());
+    const QString path = files.chooseSaveFile(SaveFileSetup());
     if (path.isEmpty())
         return false;
     doc.FileName = path;

@@ -15,7 +15,7 @@ class ScheduleDocument;
 // them its file dialogs through a FileChooser.
 
 // How a file dialog is set up; each use sets it up anew.
-struct FileDialogSpec
+struct FileDialogSetup
 {
     QString title;
     QString filter;
@@ -24,16 +24,16 @@ struct FileDialogSpec
 };
 
 // "Open file" and "Save file": the schedule filter, extension "tbf", name "*.tbf".
-FileDialogSpec OpenFileSpec();
-FileDialogSpec SaveFileSpec();
+FileDialogSetup OpenFileSetup();
+FileDialogSetup SaveFileSetup();
 
 class FileChooser
 {
 public:
     virtual ~FileChooser() = default;
     // The chosen path, or an empty text when the dialog was cancelled.
-    virtual QString chooseOpenFile(const FileDialogSpec &spec) = 0;
-    virtual QString chooseSaveFile(const FileDialogSpec &spec) = 0;
+    virtual QString chooseOpenFile(const FileDialogSetup &setup) = 0;
+    virtual QString chooseSaveFile(const FileDialogSetup &setup) = 0;
 };
 
 inline constexpr const char *SaveChangesQuestion =

@@ -654,30 +654,30 @@ void TfrmMain::closeEvent(QCloseEvent *event)
 
 namespace {
 
-QFileDialog *makeFileDialog(QWidget *parent, const FileDialogSpec &spec, QFileDialog::AcceptMode mode)
+QFileDialog *makeFileDialog(QWidget *parent, const FileDialogSetup &setup, QFileDialog::AcceptMode mode)
 {
-    auto *dialog = new QFileDialog(parent, spec.title);
+    auto *dialog = new QFileDialog(parent, setup.title);
     dialog->setAttribute(Qt::WA_DeleteOnClose, false);
     dialog->setAcceptMode(mode);
     dialog->setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    dialog->setNameFilter(spec.filter);
-    dialog->setDefaultSuffix(spec.defaultSuffix);
+    dialog->setNameFilter(setup.filter);
+    dialog->setDefaultSuffix(setup.defaultSuffix);
     return dialog;
 }
 
 } // namespace
 
-QString TfrmMain::chooseOpenFile(const FileDialogSpec &spec)
+QString TfrmMain::chooseOpenFile(const FileDialogSetup &setup)
 {
-    std::unique_ptr<QFileDialog> dialog(makeFileDialog(this, spec, QFileDialog::AcceptOpen));
+    std::unique_ptr<QFileDialog> dialog(makeFileDialog(this, setup, QFileDialog::AcceptOpen));
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
         return {};
     return dialog->selectedFiles().constFirst();
 }
 
-QString TfrmMain::chooseSaveFile(const FileDialogSpec &spec)
+QString TfrmMain::chooseSaveFile(const FileDialogSetup &setup)
 {
-    std::unique_ptr<QFileDialog> dialog(makeFileDialog(this, spec, QFileDialog::AcceptSave));
+    std::unique_ptr<QFileDialog> dialog(makeFileDialog(this, setup, QFileDialog::AcceptSave));
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
         return {};
     return dialog->selectedFiles().constFirst();

@@ -136,8 +136,8 @@ protected:
 
 private:
     // FileChooser: the window's own file dialogs.
-    QString chooseOpenFile(const FileDialogSpec &spec) override;
-    QString chooseSaveFile(const FileDialogSpec &spec) override;
+    QString chooseOpenFile(const FileDialogSetup &setup) override;
+    QString chooseSaveFile(const FileDialogSetup &setup) override;
 
     void buildMenus();
     void buildPopup();

@@ -40,18 +40,18 @@ namespace {
 class ScriptedFiles : public FileChooser
 {
 public:
-    QString chooseOpenFile(const FileDialogSpec &spec) override
+    QString chooseOpenFile(const FileDialogSetup &setup) override
     {
-        specs.append(spec);
+        setups.append(setup);
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
-    QString chooseSaveFile(const FileDialogSpec &spec) override
+    QString chooseSaveFile(const FileDialogSetup &setup) override
     {
-        specs.append(spec);
+        setups.append(setup);
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
     QStringList answers;
-    QList<FileDialogSpec> specs;
+    QList<FileDialogSetup> setups;
 };
 
 // A main window on its own document, prompter, settings file and file dialogs.

@@ -18,18 +18,18 @@ namespace {
 class ScriptedFiles : public FileChooser
 {
 public:
-    QString chooseOpenFile(const FileDialogSpec &spec) override
+    QString chooseOpenFile(const FileDialogSetup &setup) override
     {
-        specs.append(spec);
+        setups.append(setup);
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
-    QString chooseSaveFile(const FileDialogSpec &spec) override
+    QString chooseSaveFile(const FileDialogSetup &setup) override
     {
-        specs.append(spec);
+        setups.append(setup);
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
     QStringList answers;
-    QList<FileDialogSpec> specs;
+    QList<FileDialogSetup> setups;
 };
 
 QString saved(const QString &name, const QString &title)
@@ -109,9 +109,9 @@ void TestShellCommands::newWithChanges()
     QVERIFY(asked.beep);
     QCOMPARE(doc.strips.count(), emptied ? 0 : 1);
     QCOMPARE(doc.Modified, !emptied);
-    QCOMPARE(files.specs.size(), answer == Answer::Yes ? 1 : 0);
+    QCOMPARE(files.setups.size(), answer == Answer::Yes ? 1 : 0);
     if (answer == Answer::Yes)
-        QCOMPARE(files.specs.first().title, "Save file");
+        QCOMPARE(files.setups.first().title, "Save file");
     QCOMPARE(!path.isEmpty() && QFile::exists(path), written);
     if (written) {
         ScheduleDocument reopened;
@@ -147,14 +147,14 @@ void TestShellCommands::openDialogSetUp()
 
     QCOMPARE(prompter.prompts.size(), 1);
     QVERIFY(prompter.prompts.first().beep);
-    QCOMPARE(files.specs.size(), 1);
-    const FileDialogSpec spec = files.specs.first();
-    QCOMPARE(spec.title, "Open file");
-    QCOMPARE(spec.defaultSuffix, "tbf");
-    QCOMPARE(spec.fileName, "*.tbf");
-    QVERIFY(spec.filter.startsWith("Torvanbridge file (*.tbf)"));
-    QCOMPARE(SaveFileSpec().title, "Save file");
-    QCOMPARE(SaveFileSpec().filter, spec.filter);
+    QCOMPARE(files.setups.size(), 1);
+    const FileDialogSetup setup = files.setups.first();
+    QCOMPARE(setup.title, "Open file");
+    QCOMPARE(setup.defaultSuffix, "tbf");
+    QCOMPARE(setup.fileName, "*.tbf");
+    QVERIFY(setup.filter.startsWith("Torvanbridge file (*.tbf)"));
+    QCOMPARE(SaveFileSetup().title, "Save file");
+    QCOMPARE(SaveFileSetup().filter, setup.filter);
     QCOMPARE(doc.values.PictureTitle, "Rain");
     QCOMPARE(doc.FileName, path);
 }
@@ -165,8 +165,8 @@ void TestShellCommands::saveUntitledGoesThroughSaveAs()
     changed(doc);
     ScriptedFiles files; // cancels
     QVERIFY(!SaveCommand(doc, files));
-    QCOMPARE(files.specs.size(), 1);
-    QCOMPARE(files.specs.first().title, "Save file");
+    QCOMPARE(files.setups.size(), 1);
+    QCOMPARE(files.setups.first().title, "Save file");
     QVERIFY(doc.Modified);
     QVERIFY(doc.FileName.isEmpty());
 
@@ -187,7 +187,7 @@ void TestShellCommands::saveToMissingFileGoesThroughSaveAs()
     const QString other = TempPath("saved-elsewhere.tbf");
     files.answers = {other};
     QVERIFY(SaveCommand(doc, files));
-    QCOMPARE(files.specs.size(), 1);
+    QCOMPARE(files.setups.size(), 1);
     QCOMPARE(doc.FileName, other);
     QVERIFY(!QFile::exists(TempPath("deleted-meanwhile.tbf")));
 }
@@ -270,7 +270,7 @@ void TestShellCommands::closeQuery()
     QCOMPARE(prompter.prompts.size(), modified ? 1 : 0);
     if (modified)
         QVERIFY(!prompter.prompts.first().beep); // closing does not beep
-    QCOMPARE(files.specs.size(), dialogs);
+    QCOMPARE(files.setups.size(), dialogs);
 }
 
 void TestShellCommands::autosaveClearsCloseQuestion()
