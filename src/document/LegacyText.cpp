@@ -341,6 +341,40 @@ double FloatFromText(const QString &text, bool *ok)
     while (end != p && end[-1] <= u' ')
         --end;
 
+    // Page lengths and day totals are short plain decimals read on every change of the
+    // board. With at most 15 digits and no exponent, the digits as an integer divided by
+    // a power of ten (both exact in a double) is the correctly rounded value.
+    {
+        const char16_t *q = p;
+        const bool negative = q != end && *q == u'-';
+        if (q != end && (*q == u'+' || *q == u'-'))
+            ++q;
+        quint64 digits = 0;
+        int count = 0;
+        int fraction = 0;
+        bool separator = false;
+        bool plain = q != end;
+        for (; q != end && plain; ++q) {
+            if (isAsciiDigit(*q)) {
+                digits = digits * 10 + quint64(*q - u'0');
+                ++count;
+                if (separator)
+                    ++fraction;
+            } else if ((*q == u'.' || *q == u',') && !separator) {
+                separator = true;
+            } else {
+                plain = false;
+            }
+        }
+        if (plain && count > 0 && count <= 15) {
+            static constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+            const double value = double(digits) / powers[fraction];
+            setOk(ok, true);
+            return negative ? -value : value;
+        }
+    }
+
     // The number is checked here and copied in the form std::from_chars reads: no "+"
     // before the number and "." as the separator.
     QVarLengthArray<char, 64> ascii;
