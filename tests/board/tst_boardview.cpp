@@ -53,14 +53,12 @@ private Q_SLOTS:
     void scrollBarsFollowTheTables();
     void clickSelectsAStrip();
     void shiftClickWidens();
-    void shiftClickWithoutSelection();
     void clickPastTheLastStrip();
     void clickOnARestDay();
-    void clickOnARestDayRemembered();
     void clickSelectsAnElement();
     void dragThreeToFiveBeforeNine();
-    void dropPastTheEnd();
-    void dropInsideTheSelection();
+    void drop_data();
+    void drop();
     void smallMovesDoNotDrag();
     void autoScrollNearTheEdges();
     void wheel_data();
@@ -184,6 +182,18 @@ void TestBoardView::clickSelectsAStrip()
 
 void TestBoardView::shiftClickWidens()
 {
+    // Without a selection, Shift selects from strip 1, and the highlight runs from there.
+    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(5));
+    QCOMPARE(doc->SelStart, 0);
+    QCOMPARE(doc->SelEnd, 5);
+    board->paintBox()->repaint();
+    const QImage shown = board->displayBuffer();
+    const BoardGeometry g = board->boardGeometry();
+    const int y = 7 * g.rowH + 4;
+    QCOMPARE(shown.pixelColor(stripPoint(1, y).x() + g.stripW / 2 - 3, y), QColor(255, 0, 0));
+    QCOMPARE(shown.pixelColor(stripPoint(5, y).x() + g.stripW / 2 - 3, y), QColor(255, 0, 0));
+    QVERIFY(shown.pixelColor(stripPoint(6, y).x() + g.stripW / 2 - 3, y) != QColor(255, 0, 0));
+    // Widening runs either way, and a click inside keeps the range.
     QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(4));
     QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(7));
     QCOMPARE(doc->SelStart, 4);
@@ -194,21 +204,6 @@ void TestBoardView::shiftClickWidens()
     QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(5));
     QCOMPARE(doc->SelStart, 2);
     QCOMPARE(doc->SelEnd, 7);
-}
-
-void TestBoardView::shiftClickWithoutSelection()
-{
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(5));
-    QCOMPARE(doc->SelStart, 0);
-    QCOMPARE(doc->SelEnd, 5);
-    // The highlight runs from strip 1.
-    board->paintBox()->repaint();
-    const QImage shown = board->displayBuffer();
-    const BoardGeometry g = board->boardGeometry();
-    const int y = 7 * g.rowH + 4;
-    QCOMPARE(shown.pixelColor(stripPoint(1, y).x() + g.stripW / 2 - 3, y), QColor(255, 0, 0));
-    QCOMPARE(shown.pixelColor(stripPoint(5, y).x() + g.stripW / 2 - 3, y), QColor(255, 0, 0));
-    QVERIFY(shown.pixelColor(stripPoint(6, y).x() + g.stripW / 2 - 3, y) != QColor(255, 0, 0));
 }
 
 void TestBoardView::clickPastTheLastStrip()
@@ -228,6 +223,9 @@ void TestBoardView::clickOnARestDay()
     rest.set(StripField::StripKind, StripKinds::AutoRestDay);
     QVERIFY(doc->strips.insert(6, rest).ok());
     board->SetScrolls();
+    bool skip = false;
+    board->skipAutoRestWarning = [&] { return skip; };
+    board->setSkipAutoRestWarning = [&](bool on) { skip = on; };
     doc->SelStart = 2;
     doc->SelEnd = 3;
     QSignalSpy changed(board, &BoardView::selectionChanged);
@@ -243,34 +241,20 @@ void TestBoardView::clickOnARestDay()
     QCOMPARE(doc->SelStart, 0);
     QCOMPARE(doc->SelEnd, 0);
     QCOMPARE(changed.count(), 1);
+    QVERIFY(!skip);
     // The day recalculation has run: the rest day, placed by hand, is gone again.
     QCOMPARE(doc->strips.count(), 20);
-}
 
-void TestBoardView::clickOnARestDayRemembered()
-{
-    StripRecord rest;
-    rest.set(StripField::StripKind, StripKinds::AutoRestDay);
-    QVERIFY(doc->strips.insert(3, rest).ok());
-    board->SetScrolls();
-    bool skip = false;
-    int remembered = 0;
-    board->skipAutoRestWarning = [&] { return skip; };
-    board->setSkipAutoRestWarning = [&](bool on) {
-        skip = on;
-        ++remembered;
-    };
-    prompter->tick = true;
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(3));
-    QCOMPARE(prompter->prompts.size(), 1);
-    QCOMPARE(remembered, 1);
-    QVERIFY(skip);
     // Answered once with the box ticked: no more warnings, the selection still clears.
-    QVERIFY(doc->strips.insert(3, rest).ok());
-    doc->SelStart = doc->SelEnd = 1;
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(3));
-    QCOMPARE(prompter->prompts.size(), 1);
-    QCOMPARE(doc->SelStart, 0);
+    prompter->tick = true;
+    for (int asked : {2, 2}) {
+        QVERIFY(doc->strips.insert(3, rest).ok());
+        doc->SelStart = doc->SelEnd = 1;
+        QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(3));
+        QCOMPARE(prompter->prompts.size(), asked);
+        QCOMPARE(doc->SelStart, 0);
+        QVERIFY(skip);
+    }
 }
 
 void TestBoardView::clickSelectsAnElement()
@@ -315,27 +299,37 @@ void TestBoardView::dragThreeToFiveBeforeNine()
     QCOMPARE(board->paintBox()->cursor().shape(), Qt::ArrowCursor);
 }
 
-void TestBoardView::dropPastTheEnd()
+void TestBoardView::drop_data()
 {
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(2));
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(3));
-    drag(stripPoint(2), stripPoint(23));
-    QCOMPARE(Order(*doc), "1 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 2 3");
-    QCOMPARE(doc->SelStart, 19);
-    QCOMPARE(doc->SelEnd, 20);
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<bool>("onBoundary");
+    QTest::addColumn<QString>("order");
+    QTest::addColumn<int>("newStart");
+    QTest::addColumn<int>("newEnd");
+    QTest::newRow("2..3 past the end") << 2 << 23 << false << "1 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 2 3" << 19
+                                       << 20;
+    QTest::newRow("3..5 inside the selection")
+        << 3 << 5 << true << "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20" << 3 << 5;
 }
 
-void TestBoardView::dropInsideTheSelection()
+void TestBoardView::drop()
 {
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(bool, onBoundary);
+    QFETCH(QString, order);
     QSignalSpy changed(board, &BoardView::documentChanged);
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(3));
-    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(5));
-    drag(stripPoint(3), boundaryBefore(5));
-    QCOMPARE(Order(*doc), "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20");
-    QCOMPARE(doc->SelStart, 3);
-    QCOMPARE(doc->SelEnd, 5);
-    QCOMPARE(doc->undo.UndoDepth, 0);
-    QCOMPARE(changed.count(), 0);
+    const int last = onBoundary ? to : from + 1;
+    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(from));
+    QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::ShiftModifier, stripPoint(last));
+    drag(stripPoint(from), onBoundary ? boundaryBefore(to) : stripPoint(to));
+    QCOMPARE(Order(*doc), order);
+    QTEST(doc->SelStart, "newStart");
+    QTEST(doc->SelEnd, "newEnd");
+    const bool moved = order.startsWith("1 2 3") == false;
+    QCOMPARE(doc->undo.UndoDepth, moved ? 1 : 0);
+    QCOMPARE(changed.count(), moved ? 1 : 0);
     QVERIFY(!board->dropArrow()->isVisible());
     QVERIFY(!board->isDragging());
 }
@@ -467,17 +461,17 @@ void TestBoardView::doubleClicks()
     QSignalSpy banner(board, &BoardView::editBannerRequested);
     QSignalSpy element(board, &BoardView::editElementRequested);
     QWidget *box = board->paintBox();
-    for (int strip : {2, 21, 22}) {
-        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, stripPoint(strip));
-        QTest::mouseDClick(box, Qt::LeftButton, Qt::NoModifier, stripPoint(strip));
-        QTest::mouseRelease(box, Qt::LeftButton, Qt::NoModifier, stripPoint(strip));
-    }
+    auto doubleClick = [box](const QPoint &at) {
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, at);
+        QTest::mouseDClick(box, Qt::LeftButton, Qt::NoModifier, at);
+        QTest::mouseRelease(box, Qt::LeftButton, Qt::NoModifier, at);
+    };
+    for (int strip : {2, 21, 22})
+        doubleClick(stripPoint(strip));
     QCOMPARE(scene.count(), 1);
     QCOMPARE(banner.count(), 1);
     QCOMPARE(element.count(), 0);
-    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, rowPoint(4));
-    QTest::mouseDClick(box, Qt::LeftButton, Qt::NoModifier, rowPoint(4));
-    QTest::mouseRelease(box, Qt::LeftButton, Qt::NoModifier, rowPoint(4));
+    doubleClick(rowPoint(4));
     QCOMPARE(element.count(), 1);
     QCOMPARE(doc->SelElement, 4);
     QCOMPARE(scene.count(), 1);

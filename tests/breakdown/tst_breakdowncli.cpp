@@ -31,9 +31,22 @@ Run cli(const QStringList &args)
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
 
-bool open(ScheduleDocument &doc, const QString &path)
+// Runs COMMAND IN -o <temp OUT> ARGS..., expects success and opens the result.
+void runAndOpen(ScheduleDocument &doc, const QString &command, const QString &in, const QString &out,
+                const QStringList &args = {})
 {
-    return OpenDocument(doc, path).ok();
+    const Run run = cli(QStringList{command, in, "-o", out} + args);
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QVERIFY(OpenDocument(doc, out).ok());
+}
+
+// The leading number of a scene number ("12A" is 12).
+int leadingNumber(const QString &text)
+{
+    qsizetype digits = 0;
+    while (digits < text.size() && text.at(digits).isDigit())
+        ++digits;
+    return text.left(digits).toInt();
 }
 
 } // namespace
@@ -43,72 +56,59 @@ class TestBreakdownCli : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sortDefaultKeys();
-    void sortByScene();
+    void sortThenRenumber();
     void usageErrors_data();
     void usageErrors();
     void conform();
-    void conformWithNothingAccepted();
-    void renumber();
     void elementsCommands();
     void buildAScheduleFromScratch();
-    void refusedSceneWritesNothing_data();
-    void refusedSceneWritesNothing();
+    void refusedCommandsWriteNothing_data();
+    void refusedCommandsWriteNothing();
 };
 
-void TestBreakdownCli::sortDefaultKeys()
+void TestBreakdownCli::sortThenRenumber()
 {
-    const QString out = TempPath("sorted.tbf");
-    const Run run = cli({"sort", Example, "-o", out});
+    // The default keys start with the location, in the locale's order.
+    ScheduleDocument doc;
+    const QString sorted = TempPath("sorted.tbf");
+    const Run run = cli({"sort", Example, "-o", sorted});
     QCOMPARE(run.code, 0);
     QVERIFY(run.err.contains("[answered Yes]"));
-    ScheduleDocument doc;
-    QVERIFY(open(doc, out));
+    QVERIFY(OpenDocument(doc, sorted).ok());
     QCOMPARE(doc.strips.count(), 60);
     QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
     for (int i = 2; i <= doc.strips.count(); ++i) {
         QVERIFY(doc.strips[i].isScene());
-        const int order =
-            collator.compare(doc.strips[i - 1][StripField::Location], doc.strips[i][StripField::Location]);
-        QVERIFY2(order <= 0, qPrintable(QString::number(i)));
+        QVERIFY2(collator.compare(doc.strips[i - 1][StripField::Location], doc.strips[i][StripField::Location]) <= 0,
+                 qPrintable(QString::number(i)));
     }
-}
+    ScheduleDocument renumbered;
+    runAndOpen(renumbered, "renumber", sorted, TempPath("renumbered.tbf"));
+    for (int i = 1; i <= renumbered.strips.count(); ++i)
+        QCOMPARE(renumbered.strips[i][StripField::StripId], QString::number(i));
+    QCOMPARE(renumbered.values.NextStripId, renumbered.strips.count());
 
-void TestBreakdownCli::sortByScene()
-{
-    const QString out = TempPath("sorted-by-scene.tbf");
-    QCOMPARE(cli({"sort", Example, "-o", out, "--keys", "scene"}).code, 0);
-    ScheduleDocument doc;
-    QVERIFY(open(doc, out));
-    int last = -1;
-    for (int i = 1; i <= doc.strips.count(); ++i) {
-        const QString &text = doc.strips[i][StripField::SceneNumber];
-        qsizetype digits = 0;
-        while (digits < text.size() && text.at(digits).isDigit())
-            ++digits;
-        const int scene = text.left(digits).toInt();
-        QVERIFY(scene >= last);
-        last = scene;
-    }
+    ScheduleDocument byScene;
+    runAndOpen(byScene, "sort", Example, TempPath("sorted-by-scene.tbf"), {"--keys", "scene"});
+    for (int i = 2; i <= byScene.strips.count(); ++i)
+        QVERIFY(leadingNumber(byScene.strips[i - 1][StripField::SceneNumber]) <=
+                leadingNumber(byScene.strips[i][StripField::SceneNumber]));
 }
 
 void TestBreakdownCli::usageErrors_data()
 {
     QTest::addColumn<QStringList>("args");
+    const QStringList scene{"add-scene", Example, "-o", "x.tbf", "--scene", "1", "--int-ext", "I"};
+    const QStringList element{"add-element", Example, "-o", "x.tbf", "--description", "X", "--category"};
     QTest::newRow("sort unknown key") << QStringList{"sort", Example, "-o", "x.tbf", "--keys", "colour"};
     QTest::newRow("sort four keys") << QStringList{"sort", Example, "-o", "x.tbf", "--keys", "scene,scene,scene,scene"};
     QTest::newRow("conform without entries") << QStringList{"conform", Example, "-o", "x.tbf"};
     QTest::newRow("renumber without -o") << QStringList{"renumber", Example};
-    QTest::newRow("add-scene missing pages")
-        << QStringList{"add-scene", Example, "-o", "x.tbf", "--scene", "1", "--int-ext", "I", "--day-night", "D"};
-    QTest::newRow("add-scene bad pages") << QStringList{"add-scene", Example, "-o",        "x.tbf", "--scene",     "1",
-                                                        "--pages",   "1 9/8", "--int-ext", "I",     "--day-night", "D"};
-    QTest::newRow("add-scene bad time") << QStringList{
-        "add-scene", Example, "-o", "x.tbf", "--scene", "1", "--pages", "1", "--int-ext", "I", "--day-night", "NOON"};
-    QTest::newRow("add-element bad category")
-        << QStringList{"add-element", Example, "-o", "x.tbf", "--description", "X", "--category", "16"};
-    QTest::newRow("add-element long id") << QStringList{"add-element", Example,      "-o", "x.tbf", "--description",
-                                                        "X",           "--category", "1",  "--id",  "12345"};
+    QTest::newRow("add-scene missing pages") << scene + QStringList{"--day-night", "D"};
+    QTest::newRow("add-scene bad pages") << scene + QStringList{"--pages", "1 9/8", "--day-night", "D"};
+    QTest::newRow("add-scene bad time") << scene + QStringList{"--pages", "1", "--day-night", "NOON"};
+    QTest::newRow("add-element bad category") << element + QStringList{"16"};
+    QTest::newRow("add-element long id") << element + QStringList{"1", "--id", "12345"};
 }
 
 void TestBreakdownCli::usageErrors()
@@ -127,52 +127,25 @@ void TestBreakdownCli::conform()
     QVERIFY(run.err.contains("No strip was found with that number. Please try again."));
     QVERIFY(run.err.contains("You have entered less strips than exist in the current schedule."));
     ScheduleDocument doc;
-    QVERIFY(open(doc, out));
+    QVERIFY(OpenDocument(doc, out).ok());
     QCOMPARE(Kinds(doc), "1 2 1 4");
     QCOMPARE(doc.strips[1][StripField::StripId], "3");
     QCOMPARE(doc.strips[3][StripField::StripId], "1");
     QCOMPARE(doc.strips[4][StripField::Synopsis], "Travel");
 }
 
-void TestBreakdownCli::conformWithNothingAccepted()
-{
-    const QString out = TempPath("never-conformed.tbf");
-    const Run run = cli({"conform", Example, "-o", out, "--", "999"});
-    QCOMPARE(run.code, 1);
-    QVERIFY(!QFile::exists(out));
-}
-
-void TestBreakdownCli::renumber()
-{
-    const QString sorted = TempPath("to-renumber.tbf");
-    QCOMPARE(cli({"sort", Example, "-o", sorted}).code, 0);
-    const QString out = TempPath("renumbered.tbf");
-    QCOMPARE(cli({"renumber", sorted, "-o", out}).code, 0);
-    ScheduleDocument doc;
-    QVERIFY(open(doc, out));
-    for (int i = 1; i <= doc.strips.count(); ++i)
-        QCOMPARE(doc.strips[i][StripField::StripId], QString::number(i));
-    QCOMPARE(doc.values.NextStripId, doc.strips.count());
-}
-
 void TestBreakdownCli::elementsCommands()
 {
-    const QString sorted = TempPath("elements-sorted.tbf");
-    QCOMPARE(cli({"sort-elements", Example, "-o", sorted}).code, 0);
     ScheduleDocument doc;
-    QVERIFY(open(doc, sorted));
-    int last = 0;
-    for (int i = 1; i <= doc.elements.count(); ++i) {
-        const int category = doc.elements[i][ElementField::CategoryNumber].toInt();
-        QVERIFY(category >= last);
-        last = category;
-    }
-    const QString reset = TempPath("cast-reset.tbf");
-    QCOMPARE(cli({"reset-cast", sorted, "-o", reset}).code, 0);
-    ScheduleDocument again;
-    QVERIFY(open(again, reset));
-    QCOMPARE(again.elements[1][ElementField::BoardId], "1");
-    QCOMPARE(again.elements[25][ElementField::BoardId], "25");
+    const QString sorted = TempPath("elements-sorted.tbf");
+    runAndOpen(doc, "sort-elements", Example, sorted);
+    for (int i = 2; i <= doc.elements.count(); ++i)
+        QVERIFY(doc.elements[i - 1][ElementField::CategoryNumber].toInt() <=
+                doc.elements[i][ElementField::CategoryNumber].toInt());
+    ScheduleDocument reset;
+    runAndOpen(reset, "reset-cast", sorted, TempPath("cast-reset.tbf"));
+    QCOMPARE(reset.elements[1][ElementField::BoardId], "1");
+    QCOMPARE(reset.elements[25][ElementField::BoardId], "25");
 }
 
 void TestBreakdownCli::buildAScheduleFromScratch()
@@ -183,70 +156,61 @@ void TestBreakdownCli::buildAScheduleFromScratch()
         NewDocument(empty);
         QVERIFY(SaveDocument(empty, path).ok());
     }
-    auto step = [&path](int n, QStringList args) {
-        const QString next = TempPath(QStringLiteral("scratch-%1.tbf").arg(n));
-        args.insert(1, path);
-        args.insert(2, "-o");
-        args.insert(3, next);
-        const Run run = cli(args);
+    int n = 0;
+    auto step = [&](QStringList args) {
+        const QString next = TempPath(QStringLiteral("scratch-%1.tbf").arg(++n));
+        const Run run = cli(QStringList{args.takeFirst(), path, "-o", next} + args);
         path = next;
         return run;
     };
-    QCOMPARE(
-        step(1, {"add-element", "--description", "ANNA", "--category", "1", "--name", "Mara Quint", "--hold"}).code, 0);
-    QCOMPARE(step(2, {"add-element", "--description", "LAMP", "--category", "5"}).code, 0);
-    const Run duplicate = step(3, {"add-element", "--description", "BEN", "--category", "1", "--id", "1"});
+    QCOMPARE(step({"add-element", "--description", "ANNA", "--category", "1", "--name", "Mara Quint", "--hold"}).code,
+             0);
+    QCOMPARE(step({"add-element", "--description", "LAMP", "--category", "5"}).code, 0);
+    const Run duplicate = step({"add-element", "--description", "BEN", "--category", "1", "--id", "1"});
     QCOMPARE(duplicate.code, 0);
     QVERIFY(duplicate.err.contains("already being used by another cast element"));
-    const Run scene = step(4, {"add-scene", "--scene", "12A", "--pages", "1 3/8", "--int-ext", "I/E", "--day-night",
-                               "DSK", "--location", "HARBOUR", "--set", "Quay", "--synopsis", "Anna arrives, late",
-                               "--page", "7", "--elements", "3,1"});
+    const Run scene =
+        step({"add-scene", "--scene", "12A", "--pages", "1 3/8", "--int-ext", "I/E", "--day-night", "DSK", "--location",
+              "HARBOUR", "--set", "Quay", "--synopsis", "Anna arrives, late", "--page", "7", "--elements", "3,1"});
     QCOMPARE(scene.code, 0);
     QCOMPARE(scene.out, "Added scene 12A as strip 1, breakdown sheet 1\n");
-    QCOMPARE(step(5, {"add-scene", "--scene", "13", "--pages", "0.5", "--int-ext", "E", "--day-night", "N"}).code, 0);
+    QCOMPARE(step({"add-scene", "--scene", "13", "--pages", "0.5", "--int-ext", "E", "--day-night", "N"}).code, 0);
 
     ScheduleDocument doc;
-    QVERIFY(open(doc, path));
+    QVERIFY(OpenDocument(doc, path).ok());
+    auto fields = [](const auto &record, auto... f) { return QStringList{record[f]...}.join(u'|'); };
+    using E = ElementField;
+    using S = StripField;
     QCOMPARE(doc.elements.count(), 3);
-    QCOMPARE(doc.elements[1][ElementField::BoardId], "1");
-    QCOMPARE(doc.elements[1][ElementField::PrintOnBoard], "1");
-    QCOMPARE(doc.elements[1][ElementField::HoldRule], "SAG");
-    QCOMPARE(doc.elements[1][ElementField::PersonName], "Mara Quint");
-    QCOMPARE(doc.elements[2][ElementField::BoardId], "Prp");
-    QCOMPARE(doc.elements[2][ElementField::PrintOnBoard], "");
-    QCOMPARE(doc.elements[3][ElementField::BoardId], "1");
+    QCOMPARE(fields(doc.elements[1], E::BoardId, E::PrintOnBoard, E::HoldRule, E::PersonName), "1|1|SAG|Mara Quint");
+    QCOMPARE(fields(doc.elements[2], E::BoardId, E::PrintOnBoard), "Prp|");
+    QCOMPARE(doc.elements[3][E::BoardId], "1");
     QCOMPARE(doc.strips.count(), 2);
-    const StripRecord &s = doc.strips[1];
-    QCOMPARE(s[StripField::SceneNumber], "12A");
-    QCOMPARE(s[StripField::PageLength], "1.375");
-    QCOMPARE(s[StripField::IntExt], "I/E");
-    QCOMPARE(s[StripField::DayNight], "DSK");
-    QCOMPARE(s[StripField::Location], "HARBOUR");
-    QCOMPARE(s[StripField::SetName], "Quay");
-    QCOMPARE(s[StripField::ScriptPage], "7");
-    QCOMPARE(s[StripField::Synopsis], "Anna arrives, late");
-    QCOMPARE(s[StripField::Assignments], "1,3");
-    QCOMPARE(doc.strips[2][StripField::PageLength], "0.5");
-    QCOMPARE(doc.strips[2][StripField::StripId], "2");
+    QCOMPARE(fields(doc.strips[1], S::SceneNumber, S::PageLength, S::IntExt, S::DayNight, S::Location, S::SetName,
+                    S::ScriptPage, S::Synopsis, S::Assignments),
+             "12A|1.375|I/E|DSK|HARBOUR|Quay|7|Anna arrives, late|1,3");
+    QCOMPARE(fields(doc.strips[2], S::PageLength, S::StripId), "0.5|2");
     QCOMPARE(doc.values.NextStripId, 2);
 }
 
-void TestBreakdownCli::refusedSceneWritesNothing_data()
+void TestBreakdownCli::refusedCommandsWriteNothing_data()
 {
-    QTest::addColumn<QStringList>("extra");
+    QTest::addColumn<QStringList>("args");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no length") << QStringList{"--pages", "0"} << "Oops! Scene must be a minimum of 1/8ths";
-    QTest::newRow("no such element") << QStringList{"--pages", "1", "--elements", "1,99"}
+    const QStringList scene{"add-scene", "--scene", "1", "--int-ext", "I", "--day-night", "D", "--pages"};
+    QTest::newRow("no length") << scene + QStringList{"0"} << "Oops! Scene must be a minimum of 1/8ths";
+    QTest::newRow("no such element") << scene + QStringList{"1", "--elements", "1,99"}
                                      << "There is no element 99 in this schedule (it has 65).";
+    QTest::newRow("conform with nothing accepted")
+        << QStringList{"conform", "--", "999"} << "No strip was found with that number.";
 }
 
-void TestBreakdownCli::refusedSceneWritesNothing()
+void TestBreakdownCli::refusedCommandsWriteNothing()
 {
-    QFETCH(QStringList, extra);
+    QFETCH(QStringList, args);
     QFETCH(QString, message);
-    const QString out = TempPath("refused-scene.tbf");
-    const Run run =
-        cli(QStringList{"add-scene", Example, "-o", out, "--scene", "1", "--int-ext", "I", "--day-night", "D"} + extra);
+    const QString out = TempPath("refused.tbf");
+    const Run run = cli(QStringList{args.takeFirst(), Example, "-o", out} + args);
     QCOMPARE(run.code, 1);
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
     QVERIFY(!QFile::exists(out));

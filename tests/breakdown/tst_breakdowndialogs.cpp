@@ -23,6 +23,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <memory>
+
 using namespace tb;
 using namespace tb::test;
 
@@ -119,14 +121,45 @@ class TestBreakdownDialogs : public QObject
 {
     Q_OBJECT
 
+    // Every test starts from a fresh document answered by a fresh prompter.
+    std::unique_ptr<ScheduleDocument> docp;
+    std::unique_ptr<RememberingPrompter> prompterp;
+    std::unique_ptr<TfrmStrip> sceneDialog;
+
+    ScheduleDocument &small()
+    {
+        SmallSchedule(*docp);
+        return *docp;
+    }
+
+    // Shows the scene editor in the mode on the strip.
+    TfrmStrip &openScene(int mode, int current)
+    {
+        sceneDialog = std::make_unique<TfrmStrip>(*docp);
+        docp->stripEditMode = mode;
+        sceneDialog->currentStrip = current;
+        sceneDialog->show();
+        return *sceneDialog;
+    }
+
 private Q_SLOTS:
+    void init()
+    {
+        docp = std::make_unique<ScheduleDocument>();
+        prompterp = std::make_unique<RememberingPrompter>();
+        docp->setPrompter(prompterp.get());
+    }
+    void cleanup()
+    {
+        sceneDialog.reset();
+        docp.reset();
+    }
     void sceneEditorShowsTheStrip();
     void popupToggleIsLostOnNext();
     void popupToggleSavedByOk();
     void popupBreaksIntoColumns();
     void editedFieldWarnsOnNext_data();
     void editedFieldWarnsOnNext();
-    void rememberedAnswerSkipsTheWarning();
     void nextStopsAtTheLastStrip();
     void insertModeDisablesApplyAndStepping();
     void applyInAddModeAppendsAgain();
@@ -146,13 +179,9 @@ private Q_SLOTS:
 
 void TestBreakdownDialogs::sceneEditorShowsTheStrip()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     doc.strips[2].set(StripField::StripId, "17");
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 2;
-    dialog.show();
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
     QCOMPARE(dialog.windowTitle(), "Edit scene breakdown #17");
     QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
     QCOMPARE(child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
@@ -171,14 +200,9 @@ void TestBreakdownDialogs::sceneEditorShowsTheStrip()
 
 void TestBreakdownDialogs::popupToggleIsLostOnNext()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 2;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    RememberingPrompter &prompter = *prompterp;
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
 
     QMenu *menu = openPopup(dialog, 0);
     QVERIFY(menu->isVisible());
@@ -199,12 +223,8 @@ void TestBreakdownDialogs::popupToggleIsLostOnNext()
 
 void TestBreakdownDialogs::popupToggleSavedByOk()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 2;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
     QTest::mouseClick(popupItem(openPopup(dialog, 0), "CORA"), Qt::LeftButton);
     QTest::mouseClick(popupItem(openPopup(dialog, 4), "LAMP"), Qt::LeftButton); // off again
     click(dialog, "OKBut");
@@ -215,14 +235,11 @@ void TestBreakdownDialogs::popupToggleSavedByOk()
 
 void TestBreakdownDialogs::popupBreaksIntoColumns()
 {
-    ScheduleDocument doc;
+    ScheduleDocument &doc = *docp;
     AddScene(doc, "1", "1");
     for (int i = 1; i <= 30; ++i)
         AddElement(doc, QStringLiteral("PROP %1").arg(i), 5, "Prp");
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 1;
-    dialog.show();
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
     QMenu *menu = openPopup(dialog, 4);
     const QPoint first = popupItem(menu, "PROP 1")->pos();
     const QPoint last = popupItem(menu, "PROP 25")->pos();
@@ -244,74 +261,51 @@ void TestBreakdownDialogs::popupBreaksIntoColumns()
 void TestBreakdownDialogs::editedFieldWarnsOnNext_data()
 {
     QTest::addColumn<Answer>("answer");
+    QTest::addColumn<bool>("remember");
     QTest::addColumn<QString>("synopsis");
-    QTest::newRow("Yes saves") << Answer::Yes << "Changed";
-    QTest::newRow("No drops") << Answer::No << "";
+    QTest::newRow("Yes saves") << Answer::Yes << false << "Changed";
+    QTest::newRow("No drops") << Answer::No << false << "";
+    // Remembered, the question is asked no more and the answer saves as Yes did.
+    QTest::newRow("remembered") << Answer::Yes << true << "Changed";
 }
 
 void TestBreakdownDialogs::editedFieldWarnsOnNext()
 {
     QFETCH(Answer, answer);
-    QFETCH(QString, synopsis);
-    ScheduleDocument doc;
-    RememberingPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    bool remembered = false;
-    dialog.setSkipSceneChangeWarning = [&remembered](bool skip) { remembered = skip; };
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 1;
-    dialog.show();
+    QFETCH(bool, remember);
+    ScheduleDocument &doc = small();
+    RememberingPrompter &prompter = *prompterp;
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
+    bool skip = false;
+    dialog.skipSceneChangeWarning = [&skip] { return skip; };
+    dialog.setSkipSceneChangeWarning = [&skip](bool value) { skip = value; };
     QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Changed");
     QVERIFY(dialog.isChanged());
     prompter.answers = {answer};
+    prompter.tickRemember = remember;
     click(dialog, "NextBut");
     QCOMPARE(prompter.prompts.size(), 1);
     QCOMPARE(prompter.prompts[0].text,
              "You have made changes to this scene. Do you wish to save them before you proceed?");
     QCOMPARE(prompter.prompts[0].checkBoxText, "&Remember my choice and don't ask again.");
     QCOMPARE(prompter.prompts[0].buttons, Buttons::YesNo);
-    QCOMPARE(doc.strips[1][StripField::Synopsis], synopsis);
+    QTEST(doc.strips[1][StripField::Synopsis], "synopsis");
     QCOMPARE(dialog.currentStrip, 2);
     QVERIFY(!dialog.isChanged());
-    QVERIFY(!remembered);
-}
-
-void TestBreakdownDialogs::rememberedAnswerSkipsTheWarning()
-{
-    ScheduleDocument doc;
-    RememberingPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    bool skip = false;
-    dialog.skipSceneChangeWarning = [&skip] { return skip; };
-    dialog.setSkipSceneChangeWarning = [&skip](bool value) { skip = value; };
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 1;
-    dialog.show();
-    QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "One");
-    prompter.tickRemember = true;
-    click(dialog, "NextBut");
-    QVERIFY(skip);
-    QCOMPARE(prompter.prompts.size(), 1);
-    // Asked no more: the remembered answer saves as Yes did.
-    QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Two");
-    click(dialog, "NextBut");
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
+    QCOMPARE(skip, remember);
+    if (remember) {
+        QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Two");
+        click(dialog, "NextBut");
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
+    }
 }
 
 void TestBreakdownDialogs::nextStopsAtTheLastStrip()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     AddDivider(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 3;
-    dialog.show();
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 3);
     click(dialog, "NextBut");
     QCOMPARE(dialog.currentStrip, 5);
     QCOMPARE(doc.SelStart, 5);
@@ -325,12 +319,8 @@ void TestBreakdownDialogs::nextStopsAtTheLastStrip()
 
 void TestBreakdownDialogs::insertModeDisablesApplyAndStepping()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Insert;
-    dialog.currentStrip = 2;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    TfrmStrip &dialog = openScene(SceneMode::Insert, 2);
     QCOMPARE(dialog.windowTitle(), "New scene breakdown #4");
     QVERIFY(!child<QPushButton>(dialog, "AddContBut")->isEnabled());
     QVERIFY(!child<QPushButton>(dialog, "PrevBut")->isEnabled());
@@ -345,12 +335,8 @@ void TestBreakdownDialogs::insertModeDisablesApplyAndStepping()
 
 void TestBreakdownDialogs::applyInAddModeAppendsAgain()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Add;
-    dialog.currentStrip = 0;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    TfrmStrip &dialog = openScene(SceneMode::Add, 0);
     QTest::keyClicks(child<QLineEdit>(dialog, "SceneEdit"), "9");
     child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
     click(dialog, "AddContBut");
@@ -373,13 +359,9 @@ void TestBreakdownDialogs::applyInAddModeAppendsAgain()
 
 void TestBreakdownDialogs::zeroLengthStillCloses()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Add;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    RememberingPrompter &prompter = *prompterp;
+    TfrmStrip &dialog = openScene(SceneMode::Add, 0);
     child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
     click(dialog, "OKBut");
     QVERIFY(!dialog.isVisible());
@@ -390,12 +372,8 @@ void TestBreakdownDialogs::zeroLengthStillCloses()
 
 void TestBreakdownDialogs::addNewThenCancelFlagsTheLastElement()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
-    TfrmStrip dialog(doc);
-    doc.stripEditMode = SceneMode::Edit;
-    dialog.currentStrip = 1;
-    dialog.show();
+    ScheduleDocument &doc = small();
+    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
     QMenu *menu = openPopup(dialog, 0); // the cast column
     pressInNextModal("CancelBut");
     QTest::mouseClick(menu->findChild<QPushButton *>("ElPopupAddNew"), Qt::LeftButton);
@@ -410,8 +388,7 @@ void TestBreakdownDialogs::addNewThenCancelFlagsTheLastElement()
 
 void TestBreakdownDialogs::applyNextTwice()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     TfrmAddElement dialog(doc);
     dialog.editIndex = -1;
     dialog.currentCategory = 1;
@@ -444,8 +421,7 @@ void TestBreakdownDialogs::applyNextTwice()
 
 void TestBreakdownDialogs::categoryChangeGivesCastNumber()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     TfrmAddElement dialog(doc);
     dialog.editIndex = 4; // LAMP, a prop
     dialog.show();
@@ -470,10 +446,8 @@ void TestBreakdownDialogs::categoryChangeGivesCastNumber()
 
 void TestBreakdownDialogs::duplicateIdDeclinedKeepsTheDialogOpen()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
+    RememberingPrompter &prompter = *prompterp;
     TfrmAddElement dialog(doc);
     dialog.editIndex = 5; // VASE, a prop
     dialog.show();
@@ -492,8 +466,7 @@ void TestBreakdownDialogs::duplicateIdDeclinedKeepsTheDialogOpen()
 
 void TestBreakdownDialogs::holdRuleIsKeptForTheNextElement()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     TfrmAddElement dialog(doc);
     dialog.editIndex = -1;
     dialog.show();
@@ -507,8 +480,7 @@ void TestBreakdownDialogs::holdRuleIsKeptForTheNextElement()
 
 void TestBreakdownDialogs::editElementAssignments()
 {
-    ScheduleDocument doc;
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
     TfrmAddElement dialog(doc);
     dialog.editIndex = 1; // ANNA, in scene 2
     dialog.show();
@@ -525,7 +497,7 @@ void TestBreakdownDialogs::editElementAssignments()
 
 void TestBreakdownDialogs::sortDialog()
 {
-    ScheduleDocument doc;
+    ScheduleDocument &doc = *docp;
     for (const char *loc : {"PIER", "BARN", "ATTIC"}) {
         const int row = AddScene(doc, loc, "1");
         doc.strips[row].set(StripField::Location, loc);
@@ -556,9 +528,8 @@ void TestBreakdownDialogs::sortDialog()
 
 void TestBreakdownDialogs::sortAbortStillSorts()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
+    ScheduleDocument &doc = *docp;
+    RememberingPrompter &prompter = *prompterp;
     AddScene(doc, "10", "1");
     AddDivider(doc);
     AddScene(doc, "2", "1");
@@ -576,10 +547,8 @@ void TestBreakdownDialogs::sortAbortStillSorts()
 
 void TestBreakdownDialogs::conformDialog()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    SmallSchedule(doc);
+    ScheduleDocument &doc = small();
+    RememberingPrompter &prompter = *prompterp;
     TfrmConform dialog(doc);
     dialog.show();
     auto *entry = child<QLineEdit>(dialog, "ConformEdit");
@@ -618,7 +587,7 @@ void TestBreakdownDialogs::conformDialog()
 
 void TestBreakdownDialogs::productionDetails()
 {
-    ScheduleDocument doc;
+    ScheduleDocument &doc = *docp;
     RecordingView view;
     doc.setView(&view);
     doc.values.PictureTitle = "Rain";
@@ -658,9 +627,8 @@ void TestBreakdownDialogs::productionDetails()
 
 void TestBreakdownDialogs::productionDetailsBrokenLogo()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
+    ScheduleDocument &doc = *docp;
+    RememberingPrompter &prompter = *prompterp;
     doc.values.LogoFile = TempPath("gone.png");
     doc.values.Company = "Brenholt";
     TfrmProdInfo dialog(doc);

@@ -47,10 +47,8 @@ private Q_SLOTS:
     void duplicateCastId();
     void duplicateQuestion();
     void resetCastNumbering();
-    void resetCastNumberingDeclined();
     void sortByCategory();
     void sortKeepsUnknownCategoryRows();
-    void sortDeclined();
 };
 
 void TestElementEditing::highestCast_data()
@@ -279,24 +277,18 @@ void TestElementEditing::resetCastNumbering()
     AddElement(doc, "Cora", 1, "7");
     AddElement(doc, "Dov", 1, "A");
     QCOMPARE(DoID(doc, 0).id, "8");
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
+    prompter.answers = {Answer::No, Answer::Yes};
+    QVERIFY(!ResetCastNumbering(doc));
+    QCOMPARE(Column(doc, ElementField::BoardId), "1 Prp 2 7 A");
+    QCOMPARE(doc.undo.UndoDepth, 0);
+    QCOMPARE(prompter.prompts.first().kind, MessageKind::Confirmation);
+    QVERIFY(prompter.prompts.first().text.startsWith("You are about to re-order all Cast numbering"));
     QVERIFY(ResetCastNumbering(doc));
     QCOMPARE(Column(doc, ElementField::BoardId), "1 Prp 2 3 4");
     QCOMPARE(doc.undo.levels[1].label, "re-order elements");
     QVERIFY(doc.Modified);
-}
-
-void TestElementEditing::resetCastNumberingDeclined()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    AddElement(doc, "Anna", 1, "5");
-    prompter.answers = {Answer::No};
-    QVERIFY(!ResetCastNumbering(doc));
-    QCOMPARE(Column(doc, ElementField::BoardId), "5");
-    QCOMPARE(doc.undo.UndoDepth, 0);
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Confirmation);
-    QVERIFY(prompter.prompts.first().text.startsWith("You are about to re-order all Cast numbering"));
 }
 
 void TestElementEditing::sortByCategory()
@@ -313,6 +305,12 @@ void TestElementEditing::sortByCategory()
     doc.strips[1].set(StripField::Assignments, "1,2,3,4");
     doc.strips[2].set(StripField::Assignments, "3,3");
     doc.strips[4].set(StripField::Assignments, "4,9");
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
+    prompter.answers = {Answer::No, Answer::Yes};
+    QVERIFY(!SortElementsByCategory(doc));
+    QCOMPARE(Column(doc, ElementField::Description), "Lamp Anna Vase Crowd");
+    QVERIFY(prompter.prompts.first().text.startsWith("You are about to sort the elements by category."));
     QVERIFY(SortElementsByCategory(doc));
     QCOMPARE(Column(doc, ElementField::Description), "Anna Crowd Lamp Vase");
     QCOMPARE(Lists(doc), "[1,2,3,4] [4] [] [2]");
@@ -333,19 +331,6 @@ void TestElementEditing::sortKeepsUnknownCategoryRows()
     // Two rows carried over; row 3 keeps its old content, a copy of the moved Anna.
     QCOMPARE(Column(doc, ElementField::Description), "Anna Lamp Anna");
     QCOMPARE(Lists(doc), "[1]");
-}
-
-void TestElementEditing::sortDeclined()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    AddElement(doc, "Lamp", 5, "Prp");
-    AddElement(doc, "Anna", 1, "1");
-    prompter.answers = {Answer::No};
-    QVERIFY(!SortElementsByCategory(doc));
-    QCOMPARE(Column(doc, ElementField::Description), "Lamp Anna");
-    QVERIFY(prompter.prompts.first().text.startsWith("You are about to sort the elements by category."));
 }
 
 QTEST_GUILESS_MAIN(TestElementEditing)

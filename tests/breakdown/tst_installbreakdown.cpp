@@ -80,7 +80,6 @@ private Q_SLOTS:
     void addSceneFromMenuAndPopup_data();
     void addSceneFromMenuAndPopup();
     void editSceneOpensOnlyOnScenes();
-    void insertScene();
     void elementCommands();
     void wholeTableCommands();
     void dialogsAreKeptAndHelpReachesTheHost();
@@ -89,25 +88,36 @@ private Q_SLOTS:
 void TestInstallBreakdown::addSceneFromMenuAndPopup_data()
 {
     QTest::addColumn<QString>("action");
-    QTest::newRow("menu") << QString::fromLatin1(actions::Addscene1);
-    QTest::newRow("pop-up") << QString::fromLatin1(actions::PopAddscene1);
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("order");
+    QTest::newRow("menu") << QString::fromLatin1(actions::Addscene1) << 0 << int(SceneMode::Add) << "1 3 2";
+    QTest::newRow("pop-up") << QString::fromLatin1(actions::PopAddscene1) << 0 << int(SceneMode::Add) << "1 3 2";
+    QTest::newRow("insert") << QString::fromLatin1(actions::PopInsertscene1) << 2 << int(SceneMode::Insert) << "1 2 3";
 }
 
 void TestInstallBreakdown::addSceneFromMenuAndPopup()
 {
     QFETCH(QString, action);
+    QFETCH(int, selected);
     FakeHost host;
     AddScene(host.doc, "1", "1");
+    AddScene(host.doc, "3", "1");
     InstallBreakdownCommands(host);
+    host.action(actions::Insertscene1)->trigger(); // no selection: nothing to insert before
+    QCOMPARE(host.doc.strips.count(), 2);
+    host.doc.SelStart = host.doc.SelEnd = selected;
     QString *caption = onNextModal([](QWidget *dialog) {
         QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "2");
         press(dialog, "OKBut");
     });
     host.action(action.toLatin1().constData())->trigger();
-    QCOMPARE(*caption, "New scene breakdown #2");
-    QCOMPARE(host.doc.stripEditMode, int(SceneMode::Add));
-    QCOMPARE(host.doc.strips.count(), 2);
-    QCOMPARE(host.doc.strips[2][StripField::SceneNumber], "2");
+    QCOMPARE(*caption, "New scene breakdown #3");
+    QTEST(host.doc.stripEditMode, "mode");
+    QStringList order;
+    for (int i = 1; i <= host.doc.strips.count(); ++i)
+        order.append(host.doc.strips[i][StripField::SceneNumber]);
+    QTEST(order.join(u' '), "order");
     QVERIFY(host.repaints > 0);
 }
 
@@ -133,25 +143,6 @@ void TestInstallBreakdown::editSceneOpensOnlyOnScenes()
     host.action(actions::PopEditscene1)->trigger();
     QCOMPARE(*caption, "Edit scene breakdown #1");
     QCOMPARE(host.doc.stripEditMode, int(SceneMode::Edit));
-}
-
-void TestInstallBreakdown::insertScene()
-{
-    FakeHost host;
-    AddScene(host.doc, "1", "1");
-    AddScene(host.doc, "3", "1");
-    InstallBreakdownCommands(host);
-    host.action(actions::Insertscene1)->trigger(); // no selection: nothing to insert before
-    QCOMPARE(host.doc.strips.count(), 2);
-    host.doc.SelStart = host.doc.SelEnd = 2;
-    onNextModal([](QWidget *dialog) {
-        QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "2");
-        press(dialog, "OKBut");
-    });
-    host.action(actions::PopInsertscene1)->trigger();
-    QCOMPARE(host.doc.stripEditMode, int(SceneMode::Insert));
-    QCOMPARE(Kinds(host.doc), "1 1 1");
-    QCOMPARE(host.doc.strips[2][StripField::SceneNumber], "2");
 }
 
 void TestInstallBreakdown::elementCommands()

@@ -63,9 +63,7 @@ private Q_SLOTS:
     void conformRefusals();
     void conformDeleteFreesTheSheet();
     void conformDeclined();
-    void conformSameCountAsksNothing();
     void renumber();
-    void renumberWithoutScenes();
     void renumberDeclined();
 };
 
@@ -178,16 +176,6 @@ void TestStripOrder::sortDeletesDividersWhateverTheAnswer()
     QCOMPARE(prompter.prompts.size(), 1);
     QCOMPARE(prompter.prompts[0].buttons, Buttons::YesAbort);
     QVERIFY(prompter.prompts[0].text.contains("the dividers will be deleted if you continue. \r\rAre you sure"));
-
-    // The whole command sorts after either answer too.
-    ScheduleDocument again;
-    again.setPrompter(&prompter);
-    Scene(again, "1", "PIER");
-    AddDivider(again);
-    Scene(again, "2", "BARN");
-    prompter.answers = {answer};
-    SortStrips(again, SortColumn::Location, SortColumn::None, SortColumn::None);
-    QCOMPARE(Board(again), "2 1");
 }
 
 void TestStripOrder::conformEntries()
@@ -323,22 +311,6 @@ void TestStripOrder::conformDeclined()
     QCOMPARE(Board(doc), "3 | | |");
 }
 
-void TestStripOrder::conformSameCountAsksNothing()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Scene(doc, "1", "A");
-    AddDivider(doc);
-    ConformList list;
-    list.reset(doc);
-    QVERIFY(list.enter(prompter, "+"));
-    QVERIFY(list.enter(prompter, "1"));
-    QVERIFY(list.apply(doc));
-    QVERIFY(prompter.prompts.isEmpty());
-    QCOMPARE(Board(doc), "| 1");
-}
-
 void TestStripOrder::renumber()
 {
     ScheduleDocument doc;
@@ -355,15 +327,12 @@ void TestStripOrder::renumber()
     QCOMPARE(doc.strips[3][StripField::StripId], "2");
     QCOMPARE(doc.values.NextStripId, 2);
     QCOMPARE(doc.undo.levels[1].label, "reset breakdown numbering");
-}
-
-void TestStripOrder::renumberWithoutScenes()
-{
-    ScheduleDocument doc;
-    AddDivider(doc);
-    doc.values.NextStripId = 9;
-    QVERIFY(ResetBreakdownNumbering(doc));
-    QCOMPARE(doc.values.NextStripId, 0);
+    // Without scenes the next number starts again from nothing.
+    ScheduleDocument dividers;
+    AddDivider(dividers);
+    dividers.values.NextStripId = 9;
+    QVERIFY(ResetBreakdownNumbering(dividers));
+    QCOMPARE(dividers.values.NextStripId, 0);
 }
 
 void TestStripOrder::renumberDeclined()
