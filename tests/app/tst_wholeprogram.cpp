@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
 using namespace tb;
 using namespace tb::test;
 
@@ -48,21 +50,18 @@ struct Program
         main->show();
         return QTest::qWaitFor([&] { return main->firstShowDone(); }, 5000);
     }
-    // Triggers an entry whose dialog is modal and returns that dialog's caption; the
-    // dialog is cancelled.
-    QString dialogOf(const char *name)
+    // Runs the trigger of a modal dialog and returns that dialog's caption; the dialog
+    // is cancelled.
+    QString dialogOf(const std::function<void()> &trigger)
     {
         QString caption;
         QTimer::singleShot(0, [&] {
-            if (QWidget *modal = QApplication::activeModalWidget()) {
-                caption = modal->windowTitle();
-                if (auto *dialog = qobject_cast<QDialog *>(modal))
-                    dialog->reject();
-                else
-                    modal->close();
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+                caption = dialog->windowTitle();
+                dialog->reject();
             }
         });
-        main->findAction(QLatin1String(name))->trigger();
+        trigger();
         return caption;
     }
 
@@ -115,24 +114,15 @@ void TestWholeProgram::entriesOpenTheirDialogs_data()
 {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("caption");
-    QTest::newRow("edit scene") << "Editscene1"
-                                << "Edit scene breakdown #11";
-    QTest::newRow("add element") << "Addelement1"
-                                 << "Add new element";
-    QTest::newRow("production details") << "Maindetails1"
-                                        << "Production details";
-    QTest::newRow("auto pages") << "Automaticdaydividers1"
-                                << "Automatic day dividers";
-    QTest::newRow("rest days") << "Autorestdays1"
-                               << "Defualt rest days";
-    QTest::newRow("start date") << "Startdate1"
-                                << "Start date";
-    QTest::newRow("sort strips") << "Sortstrips1"
-                                 << "Sort strips";
-    QTest::newRow("shooting schedule") << "Shootingschedule1"
-                                       << "Print schedule";
-    QTest::newRow("import script") << "Importscript1"
-                                   << "Script import (TXT file)";
+    QTest::newRow("edit scene") << "Editscene1" << QString("Edit scene breakdown #11");
+    QTest::newRow("add element") << "Addelement1" << QString("Add new element");
+    QTest::newRow("production details") << "Maindetails1" << QString("Production details");
+    QTest::newRow("auto pages") << "Automaticdaydividers1" << QString("Automatic day dividers");
+    QTest::newRow("rest days") << "Autorestdays1" << QString("Defualt rest days");
+    QTest::newRow("start date") << "Startdate1" << QString("Start date");
+    QTest::newRow("sort strips") << "Sortstrips1" << QString("Sort strips");
+    QTest::newRow("shooting schedule") << "Shootingschedule1" << QString("Print schedule");
+    QTest::newRow("import script") << "Importscript1" << QString("Script import (TXT file)");
 }
 
 void TestWholeProgram::entriesOpenTheirDialogs()
@@ -145,7 +135,7 @@ void TestWholeProgram::entriesOpenTheirDialogs()
     p.doc.SelStart = p.doc.SelEnd = 1;
     SetModified(p.doc);
     ClearModified(p.doc);
-    QCOMPARE(p.dialogOf(entry.toLatin1().constData()), caption);
+    QCOMPARE(p.dialogOf([&] { p.main->findAction(entry)->trigger(); }), caption);
 }
 
 void TestWholeProgram::doubleClickOnABannerEditsIt()
@@ -160,15 +150,7 @@ void TestWholeProgram::doubleClickOnABannerEditsIt()
     QVERIFY(banner > 0);
     p.doc.SelStart = p.doc.SelEnd = banner;
     SetModified(p.doc);
-    QString caption;
-    QTimer::singleShot(0, [&] {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-            caption = dialog->windowTitle();
-            dialog->reject();
-        }
-    });
-    Q_EMIT p.main->board()->editBannerRequested();
-    QCOMPARE(caption, "Banner");
+    QCOMPARE(p.dialogOf([&] { Q_EMIT p.main->board()->editBannerRequested(); }), "Banner");
 }
 
 QTEST_MAIN(TestWholeProgram)

@@ -13,12 +13,8 @@ class TestDocumentOperations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void addAssignment_data();
-    void addAssignment();
-    void isAssigned_data();
-    void isAssigned();
-    void removeAssignment_data();
-    void removeAssignment();
+    void assignments_data();
+    void assignments();
     void badAssignmentItems();
     void formatPageLength_data();
     void formatPageLength();
@@ -30,78 +26,63 @@ private Q_SLOTS:
     void setModifiedRecalculates();
 };
 
-void TestDocumentOperations::addAssignment_data()
+void TestDocumentOperations::assignments_data()
 {
+    QTest::addColumn<QString>("op"); // add, is or remove
     QTest::addColumn<QString>("list");
-    QTest::addColumn<QList<int>>("added");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("to blank") << "" << QList<int>{7} << "7";
-    QTest::newRow("appends in order") << "3,12" << QList<int>{7} << "3,12,7";
+    QTest::addColumn<QList<int>>("elements");
+    QTest::addColumn<QString>("expected"); // the list after, or whether assigned
+    QTest::newRow("add to blank") << "add"
+                                  << "" << QList<int>{7} << "7";
+    QTest::newRow("add appends in order") << "add"
+                                          << "3,12" << QList<int>{7} << "3,12,7";
     // Only three-digit numbers are found by the padded duplicate test.
-    QTest::newRow("small twice duplicates") << "3" << QList<int>{7, 7} << "3,7,7";
-    QTest::newRow("three digits twice once") << "3" << QList<int>{120, 120} << "3,120";
-    QTest::newRow("padded match inside longer") << "1120" << QList<int>{120} << "1120";
+    QTest::newRow("add small twice duplicates") << "add"
+                                                << "3" << QList<int>{7, 7} << "3,7,7";
+    QTest::newRow("add three digits twice once") << "add"
+                                                 << "3" << QList<int>{120, 120} << "3,120";
+    QTest::newRow("add padded match inside longer") << "add"
+                                                    << "1120" << QList<int>{120} << "1120";
+    QTest::newRow("is in blank") << "is"
+                                 << "" << QList<int>{1} << "false";
+    QTest::newRow("is whole numbers not digits") << "is"
+                                                 << "3,12" << QList<int>{1} << "false";
+    QTest::newRow("is found last") << "is"
+                                   << "3,12" << QList<int>{12} << "true";
+    QTest::newRow("is quoted item") << "is"
+                                    << "\"5\",6" << QList<int>{5} << "true";
+    QTest::newRow("remove every entry") << "remove"
+                                        << "7,3,7" << QList<int>{7} << "3";
+    QTest::newRow("remove neighbours of the same number") << "remove"
+                                                          << "7,7,7" << QList<int>{7} << "";
+    QTest::newRow("remove absent") << "remove"
+                                   << "1,2" << QList<int>{9} << "1,2";
+    QTest::newRow("remove from blank") << "remove"
+                                       << "" << QList<int>{9} << "";
 }
 
-void TestDocumentOperations::addAssignment()
+void TestDocumentOperations::assignments()
 {
+    QFETCH(QString, op);
     QFETCH(QString, list);
-    QFETCH(QList<int>, added);
+    QFETCH(QList<int>, elements);
     QFETCH(QString, expected);
-    ScheduleDocument doc;
-    const int row = AddScene(doc, "1", "1");
-    doc.strips[row].set(StripField::Assignments, list);
-    for (int element : added)
-        AddAssignment(doc, row, element);
-    QCOMPARE(doc.strips[row][StripField::Assignments], expected);
-}
-
-void TestDocumentOperations::isAssigned_data()
-{
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("element");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("blank") << "" << 1 << false;
-    QTest::newRow("whole numbers not digits") << "3,12" << 1 << false;
-    QTest::newRow("found last") << "3,12" << 12 << true;
-    QTest::newRow("quoted item") << "\"5\",6" << 5 << true;
-}
-
-void TestDocumentOperations::isAssigned()
-{
-    QFETCH(QString, list);
-    QFETCH(int, element);
-    QFETCH(bool, expected);
     ScheduleDocument doc;
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
     const int row = AddScene(doc, "1", "1");
     doc.strips[row].set(StripField::Assignments, list);
-    QCOMPARE(IsAssigned(doc, row, element), expected);
+    for (int element : elements) {
+        if (op == "add")
+            AddAssignment(doc, row, element);
+        else if (op == "remove")
+            RemoveAssignment(doc, row, element);
+        else
+            QCOMPARE(QString(IsAssigned(doc, row, element) ? "true" : "false"), expected);
+    }
+    if (op != "is")
+        QCOMPARE(doc.strips[row][StripField::Assignments], expected);
     QVERIFY(prompter.prompts.isEmpty());
-}
-
-void TestDocumentOperations::removeAssignment_data()
-{
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("element");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("every entry") << "7,3,7" << 7 << "3";
-    QTest::newRow("neighbours of the same number") << "7,7,7" << 7 << "";
-    QTest::newRow("absent") << "1,2" << 9 << "1,2";
-    QTest::newRow("blank") << "" << 9 << "";
-}
-
-void TestDocumentOperations::removeAssignment()
-{
-    QFETCH(QString, list);
-    QFETCH(int, element);
-    QFETCH(QString, expected);
-    ScheduleDocument doc;
-    const int row = AddScene(doc, "1", "1");
-    doc.strips[row].set(StripField::Assignments, list);
-    RemoveAssignment(doc, row, element);
-    QCOMPARE(doc.strips[row][StripField::Assignments], expected);
 }
 
 void TestDocumentOperations::badAssignmentItems()

@@ -54,7 +54,6 @@ private slots:
     void stringToColor_data();
     void stringToColor();
 
-    void windows1252AllBytes();
     void windows1252Bytes_data();
     void windows1252Bytes();
     void canEncodeWindows1252_data();
@@ -156,7 +155,6 @@ void TestLegacyText::strToInt_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("ok");
     QTest::addColumn<int>("value");
-    QTest::newRow("zero") << "0" << true << 0;
     QTest::newRow("leading zeros") << "00012" << true << 12;
     QTest::newRow("negative") << "-42" << true << -42;
     QTest::newRow("plus") << "+7" << true << 7;
@@ -199,9 +197,7 @@ void TestLegacyText::floatToText_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
-    QTest::newRow("1") << 1.0 << "1";
     QTest::newRow("0.75") << 0.75 << "0.75";
-    QTest::newRow("serial") << 46082.0 << "46082";
     QTest::newRow("serial and half day") << 46082.5 << "46082.5";
     QTest::newRow("1/3") << 1.0 / 3 << "0.333333333333333";
     QTest::newRow("2/3") << 2.0 / 3 << "0.666666666666667";
@@ -236,10 +232,8 @@ void TestLegacyText::singleToText_data()
     QTest::addColumn<float>("value");
     QTest::addColumn<QString>("text");
     QTest::newRow("3.375") << 3.375f << "3.375";
-    QTest::newRow("12") << 12.0f << "12";
     QTest::newRow("0.1") << 0.1f << "0.1";
     QTest::newRow("1.1") << 1.1f << "1.1";
-    QTest::newRow("zero") << 0.0f << "0";
     QTest::newRow("negative zero") << -0.0f << "0";
     QTest::newRow("negative") << -2.5f << "-2.5";
     QTest::newRow("small") << 0.001f << "0.001";
@@ -264,7 +258,6 @@ void TestLegacyText::floatFromText_data()
     QTest::addColumn<bool>("ok");
     QTest::addColumn<double>("value");
     QTest::newRow("comma") << "0,5" << true << 0.5;
-    QTest::newRow("point") << "0.5" << true << 0.5;
     QTest::newRow("blanks") << " \t1.25 " << true << 1.25;
     QTest::newRow("integer") << "-3" << true << -3.0;
     QTest::newRow("plus") << "+3" << true << 3.0;
@@ -327,7 +320,6 @@ void TestLegacyText::dateToSerial_data()
     QTest::newRow("day before") << QDate(1899, 12, 29) << -1.0;
     QTest::newRow("1900-01-01") << QDate(1900, 1, 1) << 2.0;
     QTest::newRow("2000-01-01") << QDate(2000, 1, 1) << 36526.0;
-    QTest::newRow("2026-03-01") << QDate(2026, 3, 1) << 46082.0;
     QTest::newRow("2026-03-06") << QDate(2026, 3, 6) << 46087.0;
 }
 
@@ -364,56 +356,26 @@ void TestLegacyText::formatDate_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("text");
     const QDate friday(2026, 3, 6);
-    QTest::newRow("d") << friday << "d"
-                       << "6";
-    QTest::newRow("dd") << friday << "dd"
-                        << "06";
-    QTest::newRow("ddd") << friday << "ddd"
-                         << "Fri";
-    QTest::newRow("dddd") << friday << "dddd"
-                          << "Friday";
-    QTest::newRow("ddddd") << friday << "ddddd"
-                           << "3/6/2026";
-    QTest::newRow("dddddd") << friday << "dddddd"
-                            << "Friday, March 6, 2026";
-    QTest::newRow("eight d") << friday << "dddddddd"
-                             << "Friday, March 6, 2026";
-    QTest::newRow("m") << friday << "m"
-                       << "3";
-    QTest::newRow("mm") << friday << "mm"
-                        << "03";
-    QTest::newRow("mmm") << friday << "mmm"
-                         << "Mar";
-    QTest::newRow("mmmm") << friday << "mmmm"
-                          << "March";
-    QTest::newRow("yy") << friday << "yy"
-                        << "26";
-    QTest::newRow("yyyy") << friday << "yyyy"
-                          << "2026";
-    QTest::newRow("y") << friday << "y"
-                       << "26";
-    QTest::newRow("yyy") << friday << "yyy"
-                         << "2026";
-    QTest::newRow("yy pads") << QDate(2005, 11, 23) << "yy"
-                             << "05";
-    QTest::newRow("two-digit day and month") << QDate(2005, 11, 23) << "d/m"
-                                             << "23/11";
-    QTest::newRow("upper case") << friday << "DD/MM/YYYY"
-                                << "06/03/2026";
-    QTest::newRow("mixed case are two fields") << friday << "dD"
-                                               << "66";
-    QTest::newRow("day and month") << friday << DayMonthPattern << "6/3";
-    QTest::newRow("day date") << friday << DayDatePattern << "Fri, March 6, 2026";
-    QTest::newRow("double-quoted text") << friday << "\"day\" d"
-                                        << "day 6";
-    QTest::newRow("single-quoted text") << friday << "'m' m"
-                                        << "m 3";
-    QTest::newRow("unclosed quote") << friday << "d 'my"
-                                    << "6 my";
-    QTest::newRow("other characters") << friday << "[d-m]"
-                                      << "[6-3]";
-    QTest::newRow("invalid date") << QDate() << "d/m/yyyy"
-                                  << "";
+    auto row = [](const char *tag, QDate date, const QString &pattern, const QString &text) {
+        QTest::newRow(tag) << date << pattern << text;
+    };
+    row("day fields", friday, "d dd ddd dddd", "6 06 Fri Friday");
+    row("ddddd", friday, "ddddd", "3/6/2026");
+    row("dddddd", friday, "dddddd", "Friday, March 6, 2026");
+    row("eight d", friday, "dddddddd", "Friday, March 6, 2026");
+    row("month fields", friday, "m mm mmm mmmm", "3 03 Mar March");
+    row("year fields", friday, "y yy yyy yyyy", "26 26 2026 2026");
+    row("yy pads", QDate(2005, 11, 23), "yy", "05");
+    row("two-digit day and month", QDate(2005, 11, 23), "d/m", "23/11");
+    row("upper case", friday, "DD/MM/YYYY", "06/03/2026");
+    row("mixed case are two fields", friday, "dD", "66");
+    row("day and month", friday, DayMonthPattern, "6/3");
+    row("day date", friday, DayDatePattern, "Fri, March 6, 2026");
+    row("double-quoted text", friday, "\"day\" d", "day 6");
+    row("single-quoted text", friday, "'m' m", "m 3");
+    row("unclosed quote", friday, "d 'my", "6 my");
+    row("other characters", friday, "[d-m]", "[6-3]");
+    row("invalid date", QDate(), "d/m/yyyy", "");
 }
 
 void TestLegacyText::formatDate()
@@ -435,23 +397,17 @@ void TestLegacyText::formatDateSeparator()
 
 void TestLegacyText::shortDateFormat_data()
 {
-    QTest::addColumn<QString>("localeName");
     QTest::addColumn<QString>("format");
-    QTest::newRow("en_US") << "en_US"
-                           << "M/d/yyyy";
-    QTest::newRow("en_GB") << "en_GB"
-                           << "dd/MM/yyyy";
-    QTest::newRow("de_DE") << "de_DE"
-                           << "dd.MM.yyyy";
-    QTest::newRow("ko_KR") << "ko_KR"
-                           << "yyyy. M. d.";
+    QTest::newRow("en_US") << "M/d/yyyy";
+    QTest::newRow("en_GB") << "dd/MM/yyyy";
+    QTest::newRow("de_DE") << "dd.MM.yyyy";
+    QTest::newRow("ko_KR") << "yyyy. M. d.";
 }
 
 void TestLegacyText::shortDateFormat()
 {
-    QFETCH(QString, localeName);
     QFETCH(QString, format);
-    const QLocale locale(localeName);
+    const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
     QCOMPARE(ShortDateFormat(locale), format);
 
     // The short date written by FormatDate reads back in the same locale.
@@ -466,44 +422,28 @@ void TestLegacyText::parseShortDate_data()
     QTest::addColumn<QString>("localeName");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QDate>("date");
-    QTest::newRow("en_US four-digit year") << "en_US"
-                                           << "3/6/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_US leading zeros") << "en_US"
-                                         << "03/06/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_US two-digit year") << "en_US"
-                                          << "3/6/26" << QDate(2026, 3, 6);
-    QTest::newRow("en_US year 75") << "en_US"
-                                   << "3/6/75" << QDate(1975, 3, 6);
-    QTest::newRow("en_US year 49") << "en_US"
-                                   << "3/6/49" << QDate(2049, 3, 6);
-    QTest::newRow("en_US year 50") << "en_US"
-                                   << "3/6/50" << QDate(1950, 3, 6);
-    QTest::newRow("en_US leap day 00") << "en_US"
-                                       << "2/29/00" << QDate(2000, 2, 29);
-    QTest::newRow("en_US blanks around") << "en_US"
-                                         << " 3/6/2026 " << QDate(2026, 3, 6);
-    QTest::newRow("en_US month 13") << "en_US"
-                                    << "13/6/2026" << QDate();
-    QTest::newRow("en_US no year") << "en_US"
-                                   << "3/6" << QDate();
-    QTest::newRow("en_US three-digit year") << "en_US"
-                                            << "3/6/026" << QDate();
-    QTest::newRow("en_US trailing text") << "en_US"
-                                         << "3/6/2026x" << QDate();
-    QTest::newRow("en_US empty") << "en_US"
-                                 << "" << QDate();
-    QTest::newRow("en_GB") << "en_GB"
-                           << "06/03/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_GB two-digit year") << "en_GB"
-                                          << "6/3/26" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE") << "de_DE"
-                           << "06.03.26" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE without zeros") << "de_DE"
-                                         << "6.3.2026" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE 31 February") << "de_DE"
-                                       << "31.02.2026" << QDate();
-    QTest::newRow("ko_KR") << "ko_KR"
-                           << "26. 3. 6." << QDate(2026, 3, 6);
+    auto row = [](const char *tag, const QString &locale, const QString &text, QDate date) {
+        QTest::newRow(tag) << locale << text << date;
+    };
+    row("en_US four-digit year", "en_US", "3/6/2026", QDate(2026, 3, 6));
+    row("en_US leading zeros", "en_US", "03/06/2026", QDate(2026, 3, 6));
+    row("en_US two-digit year", "en_US", "3/6/26", QDate(2026, 3, 6));
+    row("en_US year 75", "en_US", "3/6/75", QDate(1975, 3, 6));
+    row("en_US year 49", "en_US", "3/6/49", QDate(2049, 3, 6));
+    row("en_US year 50", "en_US", "3/6/50", QDate(1950, 3, 6));
+    row("en_US leap day 00", "en_US", "2/29/00", QDate(2000, 2, 29));
+    row("en_US blanks around", "en_US", " 3/6/2026 ", QDate(2026, 3, 6));
+    row("en_US month 13", "en_US", "13/6/2026", QDate());
+    row("en_US no year", "en_US", "3/6", QDate());
+    row("en_US three-digit year", "en_US", "3/6/026", QDate());
+    row("en_US trailing text", "en_US", "3/6/2026x", QDate());
+    row("en_US empty", "en_US", "", QDate());
+    row("en_GB", "en_GB", "06/03/2026", QDate(2026, 3, 6));
+    row("en_GB two-digit year", "en_GB", "6/3/26", QDate(2026, 3, 6));
+    row("de_DE", "de_DE", "06.03.26", QDate(2026, 3, 6));
+    row("de_DE without zeros", "de_DE", "6.3.2026", QDate(2026, 3, 6));
+    row("de_DE 31 February", "de_DE", "31.02.2026", QDate());
+    row("ko_KR", "ko_KR", "26. 3. 6.", QDate(2026, 3, 6));
 }
 
 void TestLegacyText::parseShortDate()
@@ -540,7 +480,6 @@ void TestLegacyText::colorValueNames_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("clBlack") << 0x000000u << "clBlack";
     QTest::newRow("clRed") << 0x0000FFu << "clRed";
-    QTest::newRow("clBlue") << 0xFF0000u << "clBlue";
     QTest::newRow("clMoneyGreen") << 0xC0DCC0u << "clMoneyGreen";
     QTest::newRow("clMedGray") << 0xA4A0A0u << "clMedGray";
     QTest::newRow("clScrollBar") << 0xFF000000u << "clScrollBar";
@@ -593,7 +532,6 @@ void TestLegacyText::colorToString_data()
     QTest::addColumn<QColor>("color");
     QTest::addColumn<QString>("text");
     QTest::newRow("red") << QColor(255, 0, 0) << "clRed";
-    QTest::newRow("blue") << QColor(0, 0, 255) << "clBlue";
     QTest::newRow("money green") << QColor(192, 220, 192) << "clMoneyGreen";
     QTest::newRow("parts in BGR order") << QColor(0x12, 0x34, 0x56) << "$00563412";
     QTest::newRow("button face is no name") << QColor(212, 208, 200) << "$00C8D0D4";
@@ -617,7 +555,6 @@ void TestLegacyText::stringToColor_data()
     QTest::newRow("hex in BGR order") << "$00563412" << QColor(0x12, 0x34, 0x56);
     QTest::newRow("decimal blue") << "16711680" << QColor(0, 0, 255);
     QTest::newRow("clBtnFace") << "clBtnFace" << QColor(212, 208, 200);
-    QTest::newRow("clWindow") << "clWindow" << QColor(255, 255, 255);
     QTest::newRow("clHighlight") << "clHighlight" << QColor(10, 36, 106);
     QTest::newRow("clInfoBk") << "clInfoBk" << QColor(255, 255, 225);
     QTest::newRow("cl3DDkShadow") << "cl3DDkShadow" << QColor(64, 64, 64);
@@ -636,22 +573,10 @@ void TestLegacyText::stringToColor()
 
 // ---- Text encoding ----------------------------------------------------------
 
-void TestLegacyText::windows1252AllBytes()
-{
-    QByteArray bytes;
-    for (int b = 0; b < 256; ++b)
-        bytes.append(char(b));
-    const QString text = DecodeWindows1252(bytes);
-    QCOMPARE(text.size(), 256);
-    QVERIFY(CanEncodeWindows1252(text));
-    QCOMPARE(EncodeWindows1252(text), bytes);
-}
-
 void TestLegacyText::windows1252Bytes_data()
 {
     QTest::addColumn<int>("byte");
     QTest::addColumn<int>("character");
-    QTest::newRow("A") << 0x41 << 0x41;
     QTest::newRow("euro") << 0x80 << 0x20AC;
     QTest::newRow("undefined 0x81") << 0x81 << 0x81;
     QTest::newRow("undefined 0x8D") << 0x8D << 0x8D;
@@ -672,6 +597,14 @@ void TestLegacyText::windows1252Bytes()
     const QString text{QChar(char16_t(character))};
     QCOMPARE(DecodeWindows1252(bytes), text);
     QCOMPARE(EncodeWindows1252(text), bytes);
+
+    // Every byte decodes to its own character and encodes back.
+    QByteArray all;
+    for (int b = 0; b < 256; ++b)
+        all.append(char(b));
+    QCOMPARE(DecodeWindows1252(all).size(), 256);
+    QVERIFY(CanEncodeWindows1252(DecodeWindows1252(all)));
+    QCOMPARE(EncodeWindows1252(DecodeWindows1252(all)), all);
 }
 
 void TestLegacyText::canEncodeWindows1252_data()
@@ -733,7 +666,6 @@ void TestLegacyText::encodeFileText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("ASCII") << "abc" << QByteArray("abc");
     QTest::newRow("Latin-1 in 1252") << "café" << QByteArray("caf\xE9");
     QTest::newRow("specials in 1252") << "“x” – €" << QByteArray("\x93x\x94 \x96 \x80");
     QTest::newRow("Polish in UTF-8") << "Łódź" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA");

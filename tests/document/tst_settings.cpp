@@ -30,6 +30,12 @@ QString readText(const QString &path)
     return legacy::DecodeFileText(file.readAll());
 }
 
+// Lines joined by "|" become the file's CR LF lines.
+QByteArray crlf(const char *lines)
+{
+    return QByteArray(lines).replace('|', "\r\n");
+}
+
 quint32 colour(const char *name)
 {
     quint32 value = 0;
@@ -45,14 +51,12 @@ class TestSettings : public QObject
 
 private slots:
     void defaultsWithoutFile();
-    void defaultPathIsInConfigFolder();
     void writtenAndReadBack();
     void earlierEditionFileRead();
     void booleanForms_data();
     void booleanForms();
     void unreadableValuesKeepDefaults();
     void writeKeepsOtherLines();
-    void perforatedStock();
     void applyPreferences();
     void descriptionLineItems_data();
     void descriptionLineItems();
@@ -82,10 +86,6 @@ void TestSettings::defaultsWithoutFile()
     for (auto which :
          {RememberedWarning::AutoRestClick, RememberedWarning::SceneChange, RememberedWarning::CallSheetRest})
         QVERIFY(!s.skipWarning(which));
-}
-
-void TestSettings::defaultPathIsInConfigFolder()
-{
     // The test runner points XDG_CONFIG_HOME at a private folder.
     QCOMPARE(Settings::DefaultPath(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini");
 }
@@ -105,6 +105,9 @@ void TestSettings::writtenAndReadBack()
     s.weatherUrl = "https://example.org/weather";
     s.showShootingDays = false;
     QVERIFY(s.WritePreferences().ok());
+    s.perfMargin = 6.25;
+    s.perfWidth = 12;
+    QVERIFY(s.WritePerforatedStock().ok());
 
     Settings back(path);
     QVERIFY(back.LoadSettings().isEmpty());
@@ -117,6 +120,8 @@ void TestSettings::writtenAndReadBack()
     QVERIFY(!back.scenePopups);
     QCOMPARE(back.weatherUrl, "https://example.org/weather");
     QVERIFY(!back.showShootingDays);
+    QCOMPARE(back.perfMargin, 6.25);
+    QCOMPARE(back.perfWidth, 12.0);
 
     // The file reads like the earlier edition's: a literal [General] section, booleans
     // as 1 and 0, colour names, CR LF line ends.
@@ -137,31 +142,10 @@ void TestSettings::earlierEditionFileRead()
     // Written by the earlier edition: Windows-1252, CR LF, key case as it pleased,
     // blanks around "=", system colour names, a comma as the decimal separator.
     const QString path = TempPath("earlier/Torvanbridge.ini");
-    writeBytes(path, "[Files]\r\n"
-                     "autosavetime=10\r\n"
-                     "\r\n"
-                     "[Strips]\r\n"
-                     "CB1=clSkyBlue\r\n"
-                     "CT1=clNavy\r\n"
-                     "CB4=$0080FFFF\r\n"
-                     "CB7=clBlack\r\n"
-                     "CT7=clWhite\r\n"
-                     "CB9=clBtnFace\r\n"
-                     "DescLine1=7\r\n"
-                     "DescLine2=12\r\n"
-                     "Font = Times New Roman \r\n"
-                     "\r\n"
-                     "[GENERAL]\r\n"
-                     "ScenePopups=0\r\n"
-                     "WeatherURL=http://m\xe9t\xe9o.example/\r\n"
-                     "ShowShootingDays=0\r\n"
-                     "\r\n"
-                     "[Printing]\r\n"
-                     "PerfMargin=5,5\r\n"
-                     "PerfWidth=10\r\n"
-                     "\r\n"
-                     "[PBDialog]\r\n"
-                     "AutoRestClick=1\r\n");
+    writeBytes(path, crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
+                          "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
+                          "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
+                          "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|"));
     Settings s(path);
     QVERIFY(s.LoadSettings().isEmpty());
     QCOMPARE(s.autosaveMinutes, 10);
@@ -228,7 +212,7 @@ void TestSettings::booleanForms()
 void TestSettings::unreadableValuesKeepDefaults()
 {
     const QString path = TempPath("bad/Torvanbridge.ini");
-    writeBytes(path, "[Strips]\r\nCB2=clPurpleHaze\r\nCT5=\r\nCB6=clRed\r\n[Printing]\r\nPerfWidth=wide\r\n");
+    writeBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|"));
     Settings s(path);
     const QStringList problems = s.LoadSettings();
     QCOMPARE(problems.size(), 3);
@@ -244,8 +228,7 @@ void TestSettings::unreadableValuesKeepDefaults()
 void TestSettings::writeKeepsOtherLines()
 {
     const QString path = TempPath("keep/x.ini");
-    writeBytes(path, "; comment\r\n[Other]\r\nKey=\"quoted value\"\r\n\r\n[Files]\r\nAutosavetime=3\r\nExtra=1\r\n\r\n"
-                     "[Last]\r\nA=b\r\n");
+    writeBytes(path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|"));
     IniFile ini(path);
     QVERIFY(ini.load());
     QCOMPARE(ini.readString("other", "key"), "quoted value");
@@ -253,8 +236,10 @@ void TestSettings::writeKeepsOtherLines()
     ini.writeInteger("Files", "Autosavetime", 4);
     ini.writeString("Files", "New", "x");
     ini.writeString("Added", "K", "v");
-    QCOMPARE(ini.text(), "; comment\r\n[Other]\r\nKey=\"quoted value\"\r\n\r\n[Files]\r\nAutosavetime=4\r\nExtra=1\r\n"
-                         "New=x\r\n\r\n[Last]\r\nA=b\r\n\r\n[Added]\r\nK=v\r\n");
+    QCOMPARE(ini.text(),
+             QString::fromLatin1(
+                 crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=4|Extra=1|New=x||[Last]|A=b||"
+                      "[Added]|K=v|")));
     QVERIFY(ini.save().ok());
     QCOMPARE(readText(path), ini.text());
 
@@ -262,19 +247,6 @@ void TestSettings::writeKeepsOtherLines()
     QVERIFY(!missing.load());
     missing.writeBool("General", "ScenePopups", true);
     QCOMPARE(missing.text(), "[General]\r\nScenePopups=1\r\n");
-}
-
-void TestSettings::perforatedStock()
-{
-    const QString path = TempPath("perf/Torvanbridge.ini");
-    Settings s(path);
-    s.perfMargin = 6.25;
-    s.perfWidth = 12;
-    QVERIFY(s.WritePerforatedStock().ok());
-    Settings back(path);
-    QVERIFY(back.LoadSettings().isEmpty());
-    QCOMPARE(back.perfMargin, 6.25);
-    QCOMPARE(back.perfWidth, 12.0);
 }
 
 void TestSettings::applyPreferences()
