@@ -13,741 +13,623 @@ class TestLegacyText : public QObject
     Q_OBJECT
 
 private slots:
-    void joinCommaText_data();
-    void joinCommaText();
-    void splitCommaText_data();
-    void splitCommaText();
-    void commaTextRoundTrip_data();
-    void commaTextRoundTrip();
+    // ---- Comma text -------------------------------------------------------------
 
-    void strToInt_data();
-    void strToInt();
-    void floatToText_data();
-    void floatToText();
-    void singleToText_data();
-    void singleToText();
-    void floatFromText_data();
-    void floatFromText();
-    void pad3_data();
-    void pad3();
+    void joinCommaText_data()
+    {
+        QTest::addColumn<QStringList>("items");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no items") << QStringList() << "";
+        QTest::newRow("one empty item") << QStringList{""} << "\"\"";
+        QTest::newRow("two empty items") << QStringList{"", ""} << ",";
+        QTest::newRow("plain") << QStringList{"a", "b"} << "a,b";
+        QTest::newRow("empty in the middle") << QStringList{"a", "", "b"} << "a,,b";
+        QTest::newRow("empty first") << QStringList{"", "a"} << ",a";
+        QTest::newRow("empty last") << QStringList{"a", ""} << "a,";
+        QTest::newRow("blank") << QStringList{"a b", "c"} << "\"a b\",c";
+        QTest::newRow("comma") << QStringList{"a,b"} << "\"a,b\"";
+        QTest::newRow("quotes doubled") << QStringList{"say \"hi\""} << "\"say \"\"hi\"\"\"";
+        QTest::newRow("lone quote") << QStringList{"\""} << "\"\"\"\"";
+        QTest::newRow("control character") << QStringList{"a\tb"} << "\"a\tb\"";
+        QTest::newRow("non-ASCII unquoted") << QStringList{"café", "日本"} << "café,日本";
+    }
 
-    void dateToSerial_data();
-    void dateToSerial();
-    void serialToDate_data();
-    void serialToDate();
-    void formatDate_data();
-    void formatDate();
-    void formatDateSeparator();
-    void shortDateFormat_data();
-    void shortDateFormat();
-    void parseShortDate_data();
-    void parseShortDate();
-    void dayOfWeek_data();
-    void dayOfWeek();
+    void joinCommaText()
+    {
+        QFETCH(QStringList, items);
+        QFETCH(QString, text);
+        QCOMPARE(JoinCommaText(items), text);
+    }
 
-    void colorValueNames_data();
-    void colorValueNames();
-    void stringToColorValue_data();
-    void stringToColorValue();
-    void colorToString_data();
-    void colorToString();
-    void stringToColor_data();
-    void stringToColor();
+    void splitCommaText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("items");
+        QTest::newRow("empty") << "" << QStringList();
+        QTest::newRow("only blanks") << " \t " << QStringList();
+        QTest::newRow("quoted empty") << "\"\"" << QStringList{""};
+        QTest::newRow("blank separates") << "a b" << QStringList{"a", "b"};
+        QTest::newRow("text after quote") << "\"a\"b,c" << QStringList{"a", "b", "c"};
+        QTest::newRow("trailing comma") << "a," << QStringList{"a", ""};
+        QTest::newRow("trailing comma then blank") << "a, " << QStringList{"a"};
+        QTest::newRow("leading comma") << ",a" << QStringList{"", "a"};
+        QTest::newRow("double comma") << "a,,b" << QStringList{"a", "", "b"};
+        QTest::newRow("blanks around") << "  a , b  " << QStringList{"a", "b"};
+        QTest::newRow("doubled quotes") << "\"a \"\"q\"\" b\",c" << QStringList{"a \"q\" b", "c"};
+        QTest::newRow("quote inside unquoted") << "x\"y\"" << QStringList{"x\"y\""};
+        QTest::newRow("unclosed quote") << "\"open, end" << QStringList{"open, end"};
+        QTest::newRow("unclosed after doubled") << "\"a\"\"" << QStringList{"a\""};
+        QTest::newRow("NUL ends the text") << QString::fromLatin1("a,b\0c,d", 7) << QStringList{"a", "b"};
+        QTest::newRow("non-ASCII") << "Łódź,日本 é" << QStringList{"Łódź", "日本", "é"};
+    }
 
-    void windows1252AllBytes();
-    void windows1252Bytes_data();
-    void windows1252Bytes();
-    void canEncodeWindows1252_data();
-    void canEncodeWindows1252();
-    void decodeFileText_data();
-    void decodeFileText();
-    void encodeFileText_data();
-    void encodeFileText();
-};
-
-// ---- Comma text -------------------------------------------------------------
-
-void TestLegacyText::joinCommaText_data()
-{
-    QTest::addColumn<QStringList>("items");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("no items") << QStringList() << "";
-    QTest::newRow("one empty item") << QStringList{""} << "\"\"";
-    QTest::newRow("two empty items") << QStringList{"", ""} << ",";
-    QTest::newRow("plain") << QStringList{"a", "b"} << "a,b";
-    QTest::newRow("empty in the middle") << QStringList{"a", "", "b"} << "a,,b";
-    QTest::newRow("empty first") << QStringList{"", "a"} << ",a";
-    QTest::newRow("empty last") << QStringList{"a", ""} << "a,";
-    QTest::newRow("blank") << QStringList{"a b", "c"} << "\"a b\",c";
-    QTest::newRow("comma") << QStringList{"a,b"} << "\"a,b\"";
-    QTest::newRow("quotes doubled") << QStringList{"say \"hi\""} << "\"say \"\"hi\"\"\"";
-    QTest::newRow("lone quote") << QStringList{"\""} << "\"\"\"\"";
-    QTest::newRow("control character") << QStringList{"a\tb"} << "\"a\tb\"";
-    QTest::newRow("non-ASCII unquoted") << QStringList{"café", "日本"} << "café,日本";
-}
-
-void TestLegacyText::joinCommaText()
-{
-    QFETCH(QStringList, items);
-    QFETCH(QString, text);
-    QCOMPARE(JoinCommaText(items), text);
-}
-
-void TestLegacyText::splitCommaText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("items");
-    QTest::newRow("empty") << "" << QStringList();
-    QTest::newRow("only blanks") << " \t " << QStringList();
-    QTest::newRow("quoted empty") << "\"\"" << QStringList{""};
-    QTest::newRow("blank separates") << "a b" << QStringList{"a", "b"};
-    QTest::newRow("text after quote") << "\"a\"b,c" << QStringList{"a", "b", "c"};
-    QTest::newRow("trailing comma") << "a," << QStringList{"a", ""};
-    QTest::newRow("trailing comma then blank") << "a, " << QStringList{"a"};
-    QTest::newRow("leading comma") << ",a" << QStringList{"", "a"};
-    QTest::newRow("double comma") << "a,,b" << QStringList{"a", "", "b"};
-    QTest::newRow("blanks around") << "  a , b  " << QStringList{"a", "b"};
-    QTest::newRow("doubled quotes") << "\"a \"\"q\"\" b\",c" << QStringList{"a \"q\" b", "c"};
-    QTest::newRow("quote inside unquoted") << "x\"y\"" << QStringList{"x\"y\""};
-    QTest::newRow("unclosed quote") << "\"open, end" << QStringList{"open, end"};
-    QTest::newRow("unclosed after doubled") << "\"a\"\"" << QStringList{"a\""};
-    QTest::newRow("NUL ends the text") << QString::fromLatin1("a,b\0c,d", 7) << QStringList{"a", "b"};
-    QTest::newRow("non-ASCII") << "Łódź,日本 é" << QStringList{"Łódź", "日本", "é"};
-}
-
-void TestLegacyText::splitCommaText()
-{
-    QFETCH(QString, text);
-    QFETCH(QStringList, items);
-    QCOMPARE(SplitCommaText(text), items);
-}
-
-void TestLegacyText::commaTextRoundTrip_data()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 8; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void TestLegacyText::commaTextRoundTrip()
-{
-    QFETCH(quint32, seed);
-    static const QStringList pieces{"a", "Z", "0", " ", "\t", "\n", ",", "\"", "\"\"", "é", "日", "Ł", ";", ""};
-    QRandomGenerator random(seed);
-    for (int round = 0; round < 500; ++round) {
-        QStringList items;
-        const int count = random.bounded(6);
-        for (int i = 0; i < count; ++i) {
-            QString item;
-            const int length = random.bounded(5);
-            for (int k = 0; k < length; ++k)
-                item += pieces[random.bounded(int(pieces.size()))];
-            items << item;
-        }
-        const QString text = JoinCommaText(items);
+    void splitCommaText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QStringList, items);
         QCOMPARE(SplitCommaText(text), items);
     }
-}
 
-// ---- Numbers ----------------------------------------------------------------
+    void commaTextRoundTrip_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 8; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
 
-void TestLegacyText::strToInt_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<int>("value");
-    QTest::newRow("zero") << "0" << true << 0;
-    QTest::newRow("leading zeros") << "00012" << true << 12;
-    QTest::newRow("negative") << "-42" << true << -42;
-    QTest::newRow("plus") << "+7" << true << 7;
-    QTest::newRow("leading blanks") << " \t 12" << true << 12;
-    QTest::newRow("trailing blank") << "12 " << false << 0;
-    QTest::newRow("empty") << "" << false << 0;
-    QTest::newRow("sign only") << "-" << false << 0;
-    QTest::newRow("dollar only") << "$" << false << 0;
-    QTest::newRow("0x only") << "0x" << false << 0;
-    QTest::newRow("hex") << "$1F" << true << 31;
-    QTest::newRow("hex lower case") << "$ff" << true << 255;
-    QTest::newRow("0x") << "0x10" << true << 16;
-    QTest::newRow("0X") << "0X10" << true << 16;
-    QTest::newRow("negative hex") << "-$10" << true << -16;
-    QTest::newRow("int max") << "2147483647" << true << std::numeric_limits<int>::max();
-    QTest::newRow("int max + 1") << "2147483648" << false << 0;
-    QTest::newRow("int min") << "-2147483648" << true << std::numeric_limits<int>::min();
-    QTest::newRow("int min - 1") << "-2147483649" << false << 0;
-    QTest::newRow("hex all bits") << "$FFFFFFFF" << true << -1;
-    QTest::newRow("system colour") << "$FF00000F" << true << int(0xFF00000Fu - 0x100000000ll);
-    QTest::newRow("hex too long") << "$100000000" << false << 0;
-    QTest::newRow("fraction") << "1.5" << false << 0;
-    QTest::newRow("letters after") << "12a" << false << 0;
-    QTest::newRow("bad hex digit") << "$1G" << false << 0;
-    QTest::newRow("non-ASCII digit") << "\u0663" << false << 0;
-}
+    void commaTextRoundTrip()
+    {
+        QFETCH(quint32, seed);
+        static const QStringList pieces{"a", "Z", "0", " ", "\t", "\n", ",", "\"", "\"\"", "é", "日", "Ł", ";", ""};
+        QRandomGenerator random(seed);
+        for (int round = 0; round < 500; ++round) {
+            QStringList items;
+            const int count = random.bounded(6);
+            for (int i = 0; i < count; ++i) {
+                QString item;
+                const int length = random.bounded(5);
+                for (int k = 0; k < length; ++k)
+                    item += pieces[random.bounded(int(pieces.size()))];
+                items << item;
+            }
+            const QString text = JoinCommaText(items);
+            QCOMPARE(SplitCommaText(text), items);
+        }
+    }
 
-void TestLegacyText::strToInt()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, ok);
-    QFETCH(int, value);
-    bool converted = !ok;
-    QCOMPARE(StrToInt(text, &converted), value);
-    QCOMPARE(converted, ok);
-    QCOMPARE(StrToIntDef(text, -99), ok ? value : -99);
-}
+    // ---- Numbers ----------------------------------------------------------------
 
-void TestLegacyText::floatToText_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("1") << 1.0 << "1";
-    QTest::newRow("0.75") << 0.75 << "0.75";
-    QTest::newRow("serial") << 46082.0 << "46082";
-    QTest::newRow("serial and half day") << 46082.5 << "46082.5";
-    QTest::newRow("1/3") << 1.0 / 3 << "0.333333333333333";
-    QTest::newRow("2/3") << 2.0 / 3 << "0.666666666666667";
-    QTest::newRow("0.1+0.2") << 0.1 + 0.2 << "0.3";
-    QTest::newRow("18 digits") << 123456789012345678.0 << "1.23456789012346E17";
-    QTest::newRow("1e15") << 1e15 << "1E15";
-    QTest::newRow("15 nines") << 999999999999999.0 << "999999999999999";
-    QTest::newRow("rounds up to 1e15") << 999999999999999.9 << "1E15";
-    QTest::newRow("1e-5") << 0.00001 << "0.00001";
-    QTest::newRow("1e-6") << 0.000001 << "1E-6";
-    QTest::newRow("1.5e20") << 1.5e20 << "1.5E20";
-    QTest::newRow("negative small") << -2.25e-7 << "-2.25E-7";
-    QTest::newRow("negative") << -12.5 << "-12.5";
-    QTest::newRow("zero") << 0.0 << "0";
-    QTest::newRow("negative zero") << -0.0 << "0";
-    QTest::newRow("tie rounds away from zero") << 12345678901234.25 << "12345678901234.3";
-    QTest::newRow("largest") << std::numeric_limits<double>::max() << "1.79769313486232E308";
-    QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << "NAN";
-    QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << "INF";
-    QTest::newRow("minus infinity") << -std::numeric_limits<double>::infinity() << "-INF";
-}
+    void strToInt_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<int>("value");
+        QTest::newRow("leading zeros") << "00012" << true << 12;
+        QTest::newRow("negative") << "-42" << true << -42;
+        QTest::newRow("plus") << "+7" << true << 7;
+        QTest::newRow("leading blanks") << " \t 12" << true << 12;
+        QTest::newRow("trailing blank") << "12 " << false << 0;
+        QTest::newRow("empty") << "" << false << 0;
+        QTest::newRow("sign only") << "-" << false << 0;
+        QTest::newRow("dollar only") << "$" << false << 0;
+        QTest::newRow("0x only") << "0x" << false << 0;
+        QTest::newRow("hex") << "$1F" << true << 31;
+        QTest::newRow("hex lower case") << "$ff" << true << 255;
+        QTest::newRow("0x") << "0x10" << true << 16;
+        QTest::newRow("0X") << "0X10" << true << 16;
+        QTest::newRow("negative hex") << "-$10" << true << -16;
+        QTest::newRow("int max") << "2147483647" << true << std::numeric_limits<int>::max();
+        QTest::newRow("int max + 1") << "2147483648" << false << 0;
+        QTest::newRow("int min") << "-2147483648" << true << std::numeric_limits<int>::min();
+        QTest::newRow("int min - 1") << "-2147483649" << false << 0;
+        QTest::newRow("hex all bits") << "$FFFFFFFF" << true << -1;
+        QTest::newRow("system colour") << "$FF00000F" << true << int(0xFF00000Fu - 0x100000000ll);
+        QTest::newRow("hex too long") << "$100000000" << false << 0;
+        QTest::newRow("fraction") << "1.5" << false << 0;
+        QTest::newRow("letters after") << "12a" << false << 0;
+        QTest::newRow("bad hex digit") << "$1G" << false << 0;
+        QTest::newRow("non-ASCII digit") << "\u0663" << false << 0;
+    }
 
-void TestLegacyText::floatToText()
-{
-    QFETCH(double, value);
-    QFETCH(QString, text);
-    QCOMPARE(FloatToText(value), text);
-}
+    void strToInt()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, ok);
+        QFETCH(int, value);
+        bool converted = !ok;
+        QCOMPARE(StrToInt(text, &converted), value);
+        QCOMPARE(converted, ok);
+        QCOMPARE(StrToIntDef(text, -99), ok ? value : -99);
+    }
 
-void TestLegacyText::singleToText_data()
-{
-    QTest::addColumn<float>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("3.375") << 3.375f << "3.375";
-    QTest::newRow("12") << 12.0f << "12";
-    QTest::newRow("0.1") << 0.1f << "0.1";
-    QTest::newRow("1.1") << 1.1f << "1.1";
-    QTest::newRow("zero") << 0.0f << "0";
-    QTest::newRow("negative zero") << -0.0f << "0";
-    QTest::newRow("negative") << -2.5f << "-2.5";
-    QTest::newRow("small") << 0.001f << "0.001";
-    QTest::newRow("large") << 1e10f << "10000000000";
-    QTest::newRow("2^24") << 16777216.0f << "16777216";
-}
+    void floatToText_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("0.75") << 0.75 << "0.75";
+        QTest::newRow("serial and half day") << 46082.5 << "46082.5";
+        QTest::newRow("1/3") << 1.0 / 3 << "0.333333333333333";
+        QTest::newRow("2/3") << 2.0 / 3 << "0.666666666666667";
+        QTest::newRow("0.1+0.2") << 0.1 + 0.2 << "0.3";
+        QTest::newRow("18 digits") << 123456789012345678.0 << "1.23456789012346E17";
+        QTest::newRow("1e15") << 1e15 << "1E15";
+        QTest::newRow("15 nines") << 999999999999999.0 << "999999999999999";
+        QTest::newRow("rounds up to 1e15") << 999999999999999.9 << "1E15";
+        QTest::newRow("1e-5") << 0.00001 << "0.00001";
+        QTest::newRow("1e-6") << 0.000001 << "1E-6";
+        QTest::newRow("1.5e20") << 1.5e20 << "1.5E20";
+        QTest::newRow("negative small") << -2.25e-7 << "-2.25E-7";
+        QTest::newRow("negative") << -12.5 << "-12.5";
+        QTest::newRow("zero") << 0.0 << "0";
+        QTest::newRow("negative zero") << -0.0 << "0";
+        QTest::newRow("tie rounds away from zero") << 12345678901234.25 << "12345678901234.3";
+        QTest::newRow("largest") << std::numeric_limits<double>::max() << "1.79769313486232E308";
+        QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << "NAN";
+        QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << "INF";
+        QTest::newRow("minus infinity") << -std::numeric_limits<double>::infinity() << "-INF";
+    }
 
-void TestLegacyText::singleToText()
-{
-    QFETCH(float, value);
-    QFETCH(QString, text);
-    const QString written = SingleToText(value);
-    QCOMPARE(written, text);
-    bool ok = false;
-    QVERIFY(float(FloatFromText(written, &ok)) == value);
-    QVERIFY(ok);
-}
+    void floatToText()
+    {
+        QFETCH(double, value);
+        QFETCH(QString, text);
+        QCOMPARE(FloatToText(value), text);
+    }
 
-void TestLegacyText::floatFromText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<double>("value");
-    QTest::newRow("comma") << "0,5" << true << 0.5;
-    QTest::newRow("point") << "0.5" << true << 0.5;
-    QTest::newRow("blanks") << " \t1.25 " << true << 1.25;
-    QTest::newRow("integer") << "-3" << true << -3.0;
-    QTest::newRow("plus") << "+3" << true << 3.0;
-    QTest::newRow("exponent") << "1E-2" << true << 0.01;
-    QTest::newRow("exponent with plus") << "1e+3" << true << 1000.0;
-    QTest::newRow("comma and exponent") << "2,5e1" << true << 25.0;
-    QTest::newRow("no integer part") << ".5" << true << 0.5;
-    QTest::newRow("no fraction digits") << "5." << true << 5.0;
-    QTest::newRow("written back") << FloatToText(2.0 / 3) << true << 0.666666666666667;
-    QTest::newRow("empty") << "" << false << 0.0;
-    QTest::newRow("blank") << "  " << false << 0.0;
-    QTest::newRow("separator only") << "," << false << 0.0;
-    QTest::newRow("garbage") << "abc" << false << 0.0;
-    QTest::newRow("two separators") << "1.2.3" << false << 0.0;
-    QTest::newRow("mixed separators") << "1,000.5" << false << 0.0;
-    QTest::newRow("inner blank") << "1 000" << false << 0.0;
-    QTest::newRow("exponent without digits") << "1e" << false << 0.0;
-    QTest::newRow("exponent only") << "e5" << false << 0.0;
-    QTest::newRow("two signs") << "--1" << false << 0.0;
-    QTest::newRow("hex") << "0x10" << false << 0.0;
-    QTest::newRow("NAN") << "NAN" << false << 0.0;
-    QTest::newRow("out of range") << "1e400" << false << 0.0;
-}
+    void singleToText_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("3.375") << 3.375f << "3.375";
+        QTest::newRow("0.1") << 0.1f << "0.1";
+        QTest::newRow("1.1") << 1.1f << "1.1";
+        QTest::newRow("negative zero") << -0.0f << "0";
+        QTest::newRow("negative") << -2.5f << "-2.5";
+        QTest::newRow("small") << 0.001f << "0.001";
+        QTest::newRow("large") << 1e10f << "10000000000";
+        QTest::newRow("2^24") << 16777216.0f << "16777216";
+    }
 
-void TestLegacyText::floatFromText()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, ok);
-    QFETCH(double, value);
-    bool converted = !ok;
-    QCOMPARE(FloatFromText(text, &converted), value);
-    QCOMPARE(converted, ok);
-}
+    void singleToText()
+    {
+        QFETCH(float, value);
+        QFETCH(QString, text);
+        const QString written = SingleToText(value);
+        QCOMPARE(written, text);
+        bool ok = false;
+        QVERIFY(float(FloatFromText(written, &ok)) == value);
+        QVERIFY(ok);
+    }
 
-void TestLegacyText::pad3_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("one digit") << 7 << "  7";
-    QTest::newRow("three digits") << 120 << "120";
-    QTest::newRow("four digits") << 1234 << "1234";
-    QTest::newRow("negative") << -5 << " -5";
-    QTest::newRow("zero") << 0 << "  0";
-}
+    void floatFromText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<double>("value");
+        QTest::newRow("comma") << "0,5" << true << 0.5;
+        QTest::newRow("blanks") << " \t1.25 " << true << 1.25;
+        QTest::newRow("integer") << "-3" << true << -3.0;
+        QTest::newRow("plus") << "+3" << true << 3.0;
+        QTest::newRow("exponent") << "1E-2" << true << 0.01;
+        QTest::newRow("exponent with plus") << "1e+3" << true << 1000.0;
+        QTest::newRow("comma and exponent") << "2,5e1" << true << 25.0;
+        QTest::newRow("no integer part") << ".5" << true << 0.5;
+        QTest::newRow("no fraction digits") << "5." << true << 5.0;
+        QTest::newRow("written back") << FloatToText(2.0 / 3) << true << 0.666666666666667;
+        QTest::newRow("empty") << "" << false << 0.0;
+        QTest::newRow("blank") << "  " << false << 0.0;
+        QTest::newRow("separator only") << "," << false << 0.0;
+        QTest::newRow("garbage") << "abc" << false << 0.0;
+        QTest::newRow("two separators") << "1.2.3" << false << 0.0;
+        QTest::newRow("mixed separators") << "1,000.5" << false << 0.0;
+        QTest::newRow("inner blank") << "1 000" << false << 0.0;
+        QTest::newRow("exponent without digits") << "1e" << false << 0.0;
+        QTest::newRow("exponent only") << "e5" << false << 0.0;
+        QTest::newRow("two signs") << "--1" << false << 0.0;
+        QTest::newRow("hex") << "0x10" << false << 0.0;
+        QTest::newRow("NAN") << "NAN" << false << 0.0;
+        QTest::newRow("out of range") << "1e400" << false << 0.0;
+    }
 
-void TestLegacyText::pad3()
-{
-    QFETCH(int, value);
-    QFETCH(QString, text);
-    QCOMPARE(Pad3(value), text);
-}
+    void floatFromText()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, ok);
+        QFETCH(double, value);
+        bool converted = !ok;
+        QCOMPARE(FloatFromText(text, &converted), value);
+        QCOMPARE(converted, ok);
+    }
 
-// ---- Dates ------------------------------------------------------------------
+    void pad3_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("one digit") << 7 << "  7";
+        QTest::newRow("three digits") << 120 << "120";
+        QTest::newRow("four digits") << 1234 << "1234";
+        QTest::newRow("negative") << -5 << " -5";
+        QTest::newRow("zero") << 0 << "  0";
+    }
 
-void TestLegacyText::dateToSerial_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<double>("serial");
-    QTest::newRow("serial zero") << QDate(1899, 12, 30) << 0.0;
-    QTest::newRow("day before") << QDate(1899, 12, 29) << -1.0;
-    QTest::newRow("1900-01-01") << QDate(1900, 1, 1) << 2.0;
-    QTest::newRow("2000-01-01") << QDate(2000, 1, 1) << 36526.0;
-    QTest::newRow("2026-03-01") << QDate(2026, 3, 1) << 46082.0;
-    QTest::newRow("2026-03-06") << QDate(2026, 3, 6) << 46087.0;
-}
+    void pad3()
+    {
+        QFETCH(int, value);
+        QFETCH(QString, text);
+        QCOMPARE(Pad3(value), text);
+    }
 
-void TestLegacyText::dateToSerial()
-{
-    QFETCH(QDate, date);
-    QFETCH(double, serial);
-    QCOMPARE(DateToSerial(date), serial);
-    QCOMPARE(SerialToDate(serial), date);
-}
+    // ---- Dates ------------------------------------------------------------------
 
-void TestLegacyText::serialToDate_data()
-{
-    QTest::addColumn<double>("serial");
-    QTest::addColumn<QDate>("date");
-    QTest::newRow("time of day") << 46087.75 << QDate(2026, 3, 6);
-    QTest::newRow("negative with time") << -1.5 << QDate(1899, 12, 29);
-    QTest::newRow("just below zero") << -0.25 << QDate(1899, 12, 30);
-    QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << QDate();
-    QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << QDate();
-    QTest::newRow("huge") << 1e300 << QDate();
-}
+    void dateToSerial_data()
+    {
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<double>("serial");
+        QTest::newRow("serial zero") << QDate(1899, 12, 30) << 0.0;
+        QTest::newRow("day before") << QDate(1899, 12, 29) << -1.0;
+        QTest::newRow("1900-01-01") << QDate(1900, 1, 1) << 2.0;
+        QTest::newRow("2000-01-01") << QDate(2000, 1, 1) << 36526.0;
+        QTest::newRow("2026-03-06") << QDate(2026, 3, 6) << 46087.0;
+    }
 
-void TestLegacyText::serialToDate()
-{
-    QFETCH(double, serial);
-    QFETCH(QDate, date);
-    QCOMPARE(SerialToDate(serial), date);
-}
+    void dateToSerial()
+    {
+        QFETCH(QDate, date);
+        QFETCH(double, serial);
+        QCOMPARE(DateToSerial(date), serial);
+        QCOMPARE(SerialToDate(serial), date);
+    }
 
-void TestLegacyText::formatDate_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("text");
-    const QDate friday(2026, 3, 6);
-    QTest::newRow("d") << friday << "d"
-                       << "6";
-    QTest::newRow("dd") << friday << "dd"
-                        << "06";
-    QTest::newRow("ddd") << friday << "ddd"
-                         << "Fri";
-    QTest::newRow("dddd") << friday << "dddd"
-                          << "Friday";
-    QTest::newRow("ddddd") << friday << "ddddd"
-                           << "3/6/2026";
-    QTest::newRow("dddddd") << friday << "dddddd"
-                            << "Friday, March 6, 2026";
-    QTest::newRow("eight d") << friday << "dddddddd"
-                             << "Friday, March 6, 2026";
-    QTest::newRow("m") << friday << "m"
-                       << "3";
-    QTest::newRow("mm") << friday << "mm"
-                        << "03";
-    QTest::newRow("mmm") << friday << "mmm"
-                         << "Mar";
-    QTest::newRow("mmmm") << friday << "mmmm"
-                          << "March";
-    QTest::newRow("yy") << friday << "yy"
-                        << "26";
-    QTest::newRow("yyyy") << friday << "yyyy"
-                          << "2026";
-    QTest::newRow("y") << friday << "y"
-                       << "26";
-    QTest::newRow("yyy") << friday << "yyy"
-                         << "2026";
-    QTest::newRow("yy pads") << QDate(2005, 11, 23) << "yy"
-                             << "05";
-    QTest::newRow("two-digit day and month") << QDate(2005, 11, 23) << "d/m"
-                                             << "23/11";
-    QTest::newRow("upper case") << friday << "DD/MM/YYYY"
-                                << "06/03/2026";
-    QTest::newRow("mixed case are two fields") << friday << "dD"
-                                               << "66";
-    QTest::newRow("day and month") << friday << DayMonthPattern << "6/3";
-    QTest::newRow("day date") << friday << DayDatePattern << "Fri, March 6, 2026";
-    QTest::newRow("double-quoted text") << friday << "\"day\" d"
-                                        << "day 6";
-    QTest::newRow("single-quoted text") << friday << "'m' m"
-                                        << "m 3";
-    QTest::newRow("unclosed quote") << friday << "d 'my"
-                                    << "6 my";
-    QTest::newRow("other characters") << friday << "[d-m]"
-                                      << "[6-3]";
-    QTest::newRow("invalid date") << QDate() << "d/m/yyyy"
-                                  << "";
-}
+    void serialToDate_data()
+    {
+        QTest::addColumn<double>("serial");
+        QTest::addColumn<QDate>("date");
+        QTest::newRow("time of day") << 46087.75 << QDate(2026, 3, 6);
+        QTest::newRow("negative with time") << -1.5 << QDate(1899, 12, 29);
+        QTest::newRow("just below zero") << -0.25 << QDate(1899, 12, 30);
+        QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << QDate();
+        QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << QDate();
+        QTest::newRow("huge") << 1e300 << QDate();
+    }
 
-void TestLegacyText::formatDate()
-{
-    QFETCH(QDate, date);
-    QFETCH(QString, pattern);
-    QFETCH(QString, text);
-    QCOMPARE(FormatDate(date, pattern, QLocale(QLocale::English, QLocale::UnitedStates)), text);
-}
+    void serialToDate()
+    {
+        QFETCH(double, serial);
+        QFETCH(QDate, date);
+        QCOMPARE(SerialToDate(serial), date);
+    }
 
-void TestLegacyText::formatDateSeparator()
-{
-    // "/" in a pattern is the locale's date separator, as the earlier edition had it.
-    const QDate friday(2026, 3, 6);
-    QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::German, QLocale::Germany)), "6.3");
-    QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::English, QLocale::UnitedKingdom)), "6/3");
-    QCOMPARE(FormatDate(friday, "'a/b' d/m", QLocale(QLocale::German, QLocale::Germany)), "a/b 6.3");
-}
+    void formatDate_data()
+    {
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("text");
+        const QDate friday(2026, 3, 6);
+        auto row = [](const char *tag, QDate date, const QString &pattern, const QString &text) {
+            QTest::newRow(tag) << date << pattern << text;
+        };
+        row("day fields", friday, "d dd ddd dddd", "6 06 Fri Friday");
+        row("ddddd", friday, "ddddd", "3/6/2026");
+        row("dddddd", friday, "dddddd", "Friday, March 6, 2026");
+        row("eight d", friday, "dddddddd", "Friday, March 6, 2026");
+        row("month fields", friday, "m mm mmm mmmm", "3 03 Mar March");
+        row("year fields", friday, "y yy yyy yyyy", "26 26 2026 2026");
+        row("yy pads", QDate(2005, 11, 23), "yy", "05");
+        row("two-digit day and month", QDate(2005, 11, 23), "d/m", "23/11");
+        row("upper case", friday, "DD/MM/YYYY", "06/03/2026");
+        row("mixed case are two fields", friday, "dD", "66");
+        row("day and month", friday, DayMonthPattern, "6/3");
+        row("day date", friday, DayDatePattern, "Fri, March 6, 2026");
+        row("double-quoted text", friday, "\"day\" d", "day 6");
+        row("single-quoted text", friday, "'m' m", "m 3");
+        row("unclosed quote", friday, "d 'my", "6 my");
+        row("other characters", friday, "[d-m]", "[6-3]");
+        row("invalid date", QDate(), "d/m/yyyy", "");
+    }
 
-void TestLegacyText::shortDateFormat_data()
-{
-    QTest::addColumn<QString>("localeName");
-    QTest::addColumn<QString>("format");
-    QTest::newRow("en_US") << "en_US"
-                           << "M/d/yyyy";
-    QTest::newRow("en_GB") << "en_GB"
-                           << "dd/MM/yyyy";
-    QTest::newRow("de_DE") << "de_DE"
-                           << "dd.MM.yyyy";
-    QTest::newRow("ko_KR") << "ko_KR"
-                           << "yyyy. M. d.";
-}
+    void formatDate()
+    {
+        QFETCH(QDate, date);
+        QFETCH(QString, pattern);
+        QFETCH(QString, text);
+        QCOMPARE(FormatDate(date, pattern, QLocale(QLocale::English, QLocale::UnitedStates)), text);
+    }
 
-void TestLegacyText::shortDateFormat()
-{
-    QFETCH(QString, localeName);
-    QFETCH(QString, format);
-    const QLocale locale(localeName);
-    QCOMPARE(ShortDateFormat(locale), format);
+    void formatDateSeparator()
+    {
+        // "/" in a pattern is the locale's date separator, as the earlier edition had it.
+        const QDate friday(2026, 3, 6);
+        QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::German, QLocale::Germany)), "6.3");
+        QCOMPARE(FormatDate(friday, DayMonthPattern, QLocale(QLocale::English, QLocale::UnitedKingdom)), "6/3");
+        QCOMPARE(FormatDate(friday, "'a/b' d/m", QLocale(QLocale::German, QLocale::Germany)), "a/b 6.3");
+    }
 
-    // The short date written by FormatDate reads back in the same locale.
-    const QDate date(2026, 3, 6);
-    const QString text = FormatDate(date, ShortDatePattern, locale);
-    QVERIFY2(text.contains(u"2026"), qPrintable(text));
-    QCOMPARE(ParseShortDate(text, locale), date);
-}
+    void shortDateFormat_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::newRow("en_US") << "M/d/yyyy";
+        QTest::newRow("en_GB") << "dd/MM/yyyy";
+        QTest::newRow("de_DE") << "dd.MM.yyyy";
+        QTest::newRow("ko_KR") << "yyyy. M. d.";
+    }
 
-void TestLegacyText::parseShortDate_data()
-{
-    QTest::addColumn<QString>("localeName");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QDate>("date");
-    QTest::newRow("en_US four-digit year") << "en_US"
-                                           << "3/6/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_US leading zeros") << "en_US"
-                                         << "03/06/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_US two-digit year") << "en_US"
-                                          << "3/6/26" << QDate(2026, 3, 6);
-    QTest::newRow("en_US year 75") << "en_US"
-                                   << "3/6/75" << QDate(1975, 3, 6);
-    QTest::newRow("en_US year 49") << "en_US"
-                                   << "3/6/49" << QDate(2049, 3, 6);
-    QTest::newRow("en_US year 50") << "en_US"
-                                   << "3/6/50" << QDate(1950, 3, 6);
-    QTest::newRow("en_US leap day 00") << "en_US"
-                                       << "2/29/00" << QDate(2000, 2, 29);
-    QTest::newRow("en_US blanks around") << "en_US"
-                                         << " 3/6/2026 " << QDate(2026, 3, 6);
-    QTest::newRow("en_US month 13") << "en_US"
-                                    << "13/6/2026" << QDate();
-    QTest::newRow("en_US no year") << "en_US"
-                                   << "3/6" << QDate();
-    QTest::newRow("en_US three-digit year") << "en_US"
-                                            << "3/6/026" << QDate();
-    QTest::newRow("en_US trailing text") << "en_US"
-                                         << "3/6/2026x" << QDate();
-    QTest::newRow("en_US empty") << "en_US"
-                                 << "" << QDate();
-    QTest::newRow("en_GB") << "en_GB"
-                           << "06/03/2026" << QDate(2026, 3, 6);
-    QTest::newRow("en_GB two-digit year") << "en_GB"
-                                          << "6/3/26" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE") << "de_DE"
-                           << "06.03.26" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE without zeros") << "de_DE"
-                                         << "6.3.2026" << QDate(2026, 3, 6);
-    QTest::newRow("de_DE 31 February") << "de_DE"
-                                       << "31.02.2026" << QDate();
-    QTest::newRow("ko_KR") << "ko_KR"
-                           << "26. 3. 6." << QDate(2026, 3, 6);
-}
+    void shortDateFormat()
+    {
+        QFETCH(QString, format);
+        const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(ShortDateFormat(locale), format);
 
-void TestLegacyText::parseShortDate()
-{
-    QFETCH(QString, localeName);
-    QFETCH(QString, text);
-    QFETCH(QDate, date);
-    QCOMPARE(ParseShortDate(text, QLocale(localeName)), date);
-}
+        // The short date written by FormatDate reads back in the same locale.
+        const QDate date(2026, 3, 6);
+        const QString text = FormatDate(date, ShortDatePattern, locale);
+        QVERIFY2(text.contains(u"2026"), qPrintable(text));
+        QCOMPARE(ParseShortDate(text, locale), date);
+    }
 
-void TestLegacyText::dayOfWeek_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<int>("day");
-    QTest::newRow("Sunday") << QDate(2026, 3, 1) << 1;
-    QTest::newRow("Monday") << QDate(2026, 3, 2) << 2;
-    QTest::newRow("Friday") << QDate(2026, 3, 6) << 6;
-    QTest::newRow("Saturday") << QDate(2026, 3, 7) << 7;
-    QTest::newRow("invalid") << QDate() << 0;
-}
+    void parseShortDate_data()
+    {
+        QTest::addColumn<QString>("localeName");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDate>("date");
+        auto row = [](const char *tag, const QString &locale, const QString &text, QDate date) {
+            QTest::newRow(tag) << locale << text << date;
+        };
+        row("en_US four-digit year", "en_US", "3/6/2026", QDate(2026, 3, 6));
+        row("en_US leading zeros", "en_US", "03/06/2026", QDate(2026, 3, 6));
+        row("en_US two-digit year", "en_US", "3/6/26", QDate(2026, 3, 6));
+        row("en_US year 75", "en_US", "3/6/75", QDate(1975, 3, 6));
+        row("en_US year 49", "en_US", "3/6/49", QDate(2049, 3, 6));
+        row("en_US year 50", "en_US", "3/6/50", QDate(1950, 3, 6));
+        row("en_US leap day 00", "en_US", "2/29/00", QDate(2000, 2, 29));
+        row("en_US blanks around", "en_US", " 3/6/2026 ", QDate(2026, 3, 6));
+        row("en_US month 13", "en_US", "13/6/2026", QDate());
+        row("en_US no year", "en_US", "3/6", QDate());
+        row("en_US three-digit year", "en_US", "3/6/026", QDate());
+        row("en_US trailing text", "en_US", "3/6/2026x", QDate());
+        row("en_US empty", "en_US", "", QDate());
+        row("en_GB", "en_GB", "06/03/2026", QDate(2026, 3, 6));
+        row("en_GB two-digit year", "en_GB", "6/3/26", QDate(2026, 3, 6));
+        row("de_DE", "de_DE", "06.03.26", QDate(2026, 3, 6));
+        row("de_DE without zeros", "de_DE", "6.3.2026", QDate(2026, 3, 6));
+        row("de_DE 31 February", "de_DE", "31.02.2026", QDate());
+        row("ko_KR", "ko_KR", "26. 3. 6.", QDate(2026, 3, 6));
+    }
 
-void TestLegacyText::dayOfWeek()
-{
-    QFETCH(QDate, date);
-    QFETCH(int, day);
-    QCOMPARE(DayOfWeek(date), day);
-}
+    void parseShortDate()
+    {
+        QFETCH(QString, localeName);
+        QFETCH(QString, text);
+        QFETCH(QDate, date);
+        QCOMPARE(ParseShortDate(text, QLocale(localeName)), date);
+    }
 
-// ---- Colours ----------------------------------------------------------------
+    void dayOfWeek_data()
+    {
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<int>("day");
+        QTest::newRow("Sunday") << QDate(2026, 3, 1) << 1;
+        QTest::newRow("Monday") << QDate(2026, 3, 2) << 2;
+        QTest::newRow("Friday") << QDate(2026, 3, 6) << 6;
+        QTest::newRow("Saturday") << QDate(2026, 3, 7) << 7;
+        QTest::newRow("invalid") << QDate() << 0;
+    }
 
-void TestLegacyText::colorValueNames_data()
-{
-    QTest::addColumn<quint32>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("clBlack") << 0x000000u << "clBlack";
-    QTest::newRow("clRed") << 0x0000FFu << "clRed";
-    QTest::newRow("clBlue") << 0xFF0000u << "clBlue";
-    QTest::newRow("clMoneyGreen") << 0xC0DCC0u << "clMoneyGreen";
-    QTest::newRow("clMedGray") << 0xA4A0A0u << "clMedGray";
-    QTest::newRow("clScrollBar") << 0xFF000000u << "clScrollBar";
-    QTest::newRow("clBtnFace") << 0xFF00000Fu << "clBtnFace";
-    QTest::newRow("clInfoBk") << 0xFF000018u << "clInfoBk";
-    QTest::newRow("clNone") << 0x1FFFFFFFu << "clNone";
-    QTest::newRow("clDefault") << 0x20000000u << "clDefault";
-    QTest::newRow("unnamed colour") << 0x00123456u << "$00123456";
-    QTest::newRow("unnamed small") << 0x0000000Au << "$0000000A";
-    QTest::newRow("unnamed system colour") << 0xFF00001Au << "$FF00001A";
-}
+    void dayOfWeek()
+    {
+        QFETCH(QDate, date);
+        QFETCH(int, day);
+        QCOMPARE(DayOfWeek(date), day);
+    }
 
-void TestLegacyText::colorValueNames()
-{
-    QFETCH(quint32, value);
-    QFETCH(QString, text);
-    QCOMPARE(ColorValueToString(value), text);
-    quint32 read = ~value;
-    QVERIFY(StringToColorValue(text, &read));
-    QCOMPARE(read, value);
-}
+    // ---- Colours ----------------------------------------------------------------
 
-void TestLegacyText::stringToColorValue_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<quint32>("value");
-    QTest::newRow("lower-case name") << "clbtnface" << true << 0xFF00000Fu;
-    QTest::newRow("upper-case name") << "CLRED" << true << 0x0000FFu;
-    QTest::newRow("hex") << "$00FF8000" << true << 0x00FF8000u;
-    QTest::newRow("decimal") << "255" << true << 0x0000FFu;
-    QTest::newRow("negative decimal") << "-16777201" << true << 0xFF00000Fu;
-    QTest::newRow("unknown name") << "clBogus" << false << 0u;
-    QTest::newRow("empty") << "" << false << 0u;
-    QTest::newRow("HTML form") << "#FF0000" << false << 0u;
-}
+    void colorValueNames_data()
+    {
+        QTest::addColumn<quint32>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("clBlack") << 0x000000u << "clBlack";
+        QTest::newRow("clRed") << 0x0000FFu << "clRed";
+        QTest::newRow("clMoneyGreen") << 0xC0DCC0u << "clMoneyGreen";
+        QTest::newRow("clMedGray") << 0xA4A0A0u << "clMedGray";
+        QTest::newRow("clScrollBar") << 0xFF000000u << "clScrollBar";
+        QTest::newRow("clBtnFace") << 0xFF00000Fu << "clBtnFace";
+        QTest::newRow("clInfoBk") << 0xFF000018u << "clInfoBk";
+        QTest::newRow("clNone") << 0x1FFFFFFFu << "clNone";
+        QTest::newRow("clDefault") << 0x20000000u << "clDefault";
+        QTest::newRow("unnamed colour") << 0x00123456u << "$00123456";
+        QTest::newRow("unnamed small") << 0x0000000Au << "$0000000A";
+        QTest::newRow("unnamed system colour") << 0xFF00001Au << "$FF00001A";
+    }
 
-void TestLegacyText::stringToColorValue()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, ok);
-    QFETCH(quint32, value);
-    quint32 read = 0xDEADBEEF;
-    QCOMPARE(StringToColorValue(text, &read), ok);
-    QCOMPARE(read, ok ? value : 0xDEADBEEF);
-}
+    void colorValueNames()
+    {
+        QFETCH(quint32, value);
+        QFETCH(QString, text);
+        QCOMPARE(ColorValueToString(value), text);
+        quint32 read = ~value;
+        QVERIFY(StringToColorValue(text, &read));
+        QCOMPARE(read, value);
+    }
 
-void TestLegacyText::colorToString_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("red") << QColor(255, 0, 0) << "clRed";
-    QTest::newRow("blue") << QColor(0, 0, 255) << "clBlue";
-    QTest::newRow("money green") << QColor(192, 220, 192) << "clMoneyGreen";
-    QTest::newRow("parts in BGR order") << QColor(0x12, 0x34, 0x56) << "$00563412";
-    QTest::newRow("button face is no name") << QColor(212, 208, 200) << "$00C8D0D4";
-    QTest::newRow("invalid") << QColor() << "clNone";
-    QTest::newRow("transparent") << QColor(0, 0, 0, 0) << "clNone";
-}
+    void stringToColorValue_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<quint32>("value");
+        QTest::newRow("lower-case name") << "clbtnface" << true << 0xFF00000Fu;
+        QTest::newRow("upper-case name") << "CLRED" << true << 0x0000FFu;
+        QTest::newRow("hex") << "$00FF8000" << true << 0x00FF8000u;
+        QTest::newRow("decimal") << "255" << true << 0x0000FFu;
+        QTest::newRow("negative decimal") << "-16777201" << true << 0xFF00000Fu;
+        QTest::newRow("unknown name") << "clBogus" << false << 0u;
+        QTest::newRow("empty") << "" << false << 0u;
+        QTest::newRow("HTML form") << "#FF0000" << false << 0u;
+    }
 
-void TestLegacyText::colorToString()
-{
-    QFETCH(QColor, color);
-    QFETCH(QString, text);
-    QCOMPARE(ColorToString(color), text);
-}
+    void stringToColorValue()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, ok);
+        QFETCH(quint32, value);
+        quint32 read = 0xDEADBEEF;
+        QCOMPARE(StringToColorValue(text, &read), ok);
+        QCOMPARE(read, ok ? value : 0xDEADBEEF);
+    }
 
-void TestLegacyText::stringToColor_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("clRed") << "clRed" << QColor(255, 0, 0);
-    QTest::newRow("clSkyBlue") << "clSkyBlue" << QColor(166, 202, 240);
-    QTest::newRow("hex in BGR order") << "$00563412" << QColor(0x12, 0x34, 0x56);
-    QTest::newRow("decimal blue") << "16711680" << QColor(0, 0, 255);
-    QTest::newRow("clBtnFace") << "clBtnFace" << QColor(212, 208, 200);
-    QTest::newRow("clWindow") << "clWindow" << QColor(255, 255, 255);
-    QTest::newRow("clHighlight") << "clHighlight" << QColor(10, 36, 106);
-    QTest::newRow("clInfoBk") << "clInfoBk" << QColor(255, 255, 225);
-    QTest::newRow("cl3DDkShadow") << "cl3DDkShadow" << QColor(64, 64, 64);
-    QTest::newRow("system colour by number") << "$FF000001" << QColor(58, 110, 165);
-    QTest::newRow("clNone") << "clNone" << QColor(0, 0, 0, 0);
-    QTest::newRow("clDefault") << "clDefault" << QColor(0, 0, 0);
-    QTest::newRow("garbage") << "garbage" << QColor();
-}
+    void colorToString_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("red") << QColor(255, 0, 0) << "clRed";
+        QTest::newRow("money green") << QColor(192, 220, 192) << "clMoneyGreen";
+        QTest::newRow("parts in BGR order") << QColor(0x12, 0x34, 0x56) << "$00563412";
+        QTest::newRow("button face is no name") << QColor(212, 208, 200) << "$00C8D0D4";
+        QTest::newRow("invalid") << QColor() << "clNone";
+        QTest::newRow("transparent") << QColor(0, 0, 0, 0) << "clNone";
+    }
 
-void TestLegacyText::stringToColor()
-{
-    QFETCH(QString, text);
-    QFETCH(QColor, color);
-    QCOMPARE(StringToColor(text), color);
-}
+    void colorToString()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QString, text);
+        QCOMPARE(ColorToString(color), text);
+    }
 
-// ---- Text encoding ----------------------------------------------------------
+    void stringToColor_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QColor>("color");
+        QTest::newRow("clRed") << "clRed" << QColor(255, 0, 0);
+        QTest::newRow("clSkyBlue") << "clSkyBlue" << QColor(166, 202, 240);
+        QTest::newRow("hex in BGR order") << "$00563412" << QColor(0x12, 0x34, 0x56);
+        QTest::newRow("decimal blue") << "16711680" << QColor(0, 0, 255);
+        QTest::newRow("clBtnFace") << "clBtnFace" << QColor(212, 208, 200);
+        QTest::newRow("clHighlight") << "clHighlight" << QColor(10, 36, 106);
+        QTest::newRow("clInfoBk") << "clInfoBk" << QColor(255, 255, 225);
+        QTest::newRow("cl3DDkShadow") << "cl3DDkShadow" << QColor(64, 64, 64);
+        QTest::newRow("system colour by number") << "$FF000001" << QColor(58, 110, 165);
+        QTest::newRow("clNone") << "clNone" << QColor(0, 0, 0, 0);
+        QTest::newRow("clDefault") << "clDefault" << QColor(0, 0, 0);
+        QTest::newRow("garbage") << "garbage" << QColor();
+    }
 
-void TestLegacyText::windows1252AllBytes()
-{
-    QByteArray bytes;
-    for (int b = 0; b < 256; ++b)
-        bytes.append(char(b));
-    const QString text = DecodeWindows1252(bytes);
-    QCOMPARE(text.size(), 256);
-    QVERIFY(CanEncodeWindows1252(text));
-    QCOMPARE(EncodeWindows1252(text), bytes);
-}
+    void stringToColor()
+    {
+        QFETCH(QString, text);
+        QFETCH(QColor, color);
+        QCOMPARE(StringToColor(text), color);
+    }
 
-void TestLegacyText::windows1252Bytes_data()
-{
-    QTest::addColumn<int>("byte");
-    QTest::addColumn<int>("character");
-    QTest::newRow("A") << 0x41 << 0x41;
-    QTest::newRow("euro") << 0x80 << 0x20AC;
-    QTest::newRow("undefined 0x81") << 0x81 << 0x81;
-    QTest::newRow("undefined 0x8D") << 0x8D << 0x8D;
-    QTest::newRow("right single quote") << 0x92 << 0x2019;
-    QTest::newRow("em dash") << 0x97 << 0x2014;
-    QTest::newRow("undefined 0x9D") << 0x9D << 0x9D;
-    QTest::newRow("Y diaeresis") << 0x9F << 0x178;
-    QTest::newRow("no-break space") << 0xA0 << 0xA0;
-    QTest::newRow("e acute") << 0xE9 << 0xE9;
-    QTest::newRow("y diaeresis") << 0xFF << 0xFF;
-}
+    // ---- Text encoding ----------------------------------------------------------
 
-void TestLegacyText::windows1252Bytes()
-{
-    QFETCH(int, byte);
-    QFETCH(int, character);
-    const QByteArray bytes(1, char(byte));
-    const QString text{QChar(char16_t(character))};
-    QCOMPARE(DecodeWindows1252(bytes), text);
-    QCOMPARE(EncodeWindows1252(text), bytes);
-}
+    void windows1252Bytes_data()
+    {
+        QTest::addColumn<int>("byte");
+        QTest::addColumn<int>("character");
+        QTest::newRow("euro") << 0x80 << 0x20AC;
+        QTest::newRow("undefined 0x81") << 0x81 << 0x81;
+        QTest::newRow("undefined 0x8D") << 0x8D << 0x8D;
+        QTest::newRow("right single quote") << 0x92 << 0x2019;
+        QTest::newRow("em dash") << 0x97 << 0x2014;
+        QTest::newRow("undefined 0x9D") << 0x9D << 0x9D;
+        QTest::newRow("Y diaeresis") << 0x9F << 0x178;
+        QTest::newRow("no-break space") << 0xA0 << 0xA0;
+        QTest::newRow("e acute") << 0xE9 << 0xE9;
+        QTest::newRow("y diaeresis") << 0xFF << 0xFF;
+    }
 
-void TestLegacyText::canEncodeWindows1252_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("canEncode");
-    QTest::newRow("ASCII") << "plain text" << true;
-    QTest::newRow("Latin-1") << "café" << true;
-    QTest::newRow("code page specials") << "€‚„…“”–—™" << true;
-    QTest::newRow("undefined byte") << QString(QChar(0x81)) << true;
-    QTest::newRow("C1 control with a byte taken") << QString(QChar(0x80)) << false;
-    QTest::newRow("Polish") << "Łódź" << false;
-    QTest::newRow("Japanese") << "日本" << false;
-    QTest::newRow("outside the BMP") << "\U0001F3AC" << false;
-}
-
-void TestLegacyText::canEncodeWindows1252()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, canEncode);
-    QCOMPARE(CanEncodeWindows1252(text), canEncode);
-    const QByteArray bytes = EncodeWindows1252(text);
-    if (canEncode)
+    void windows1252Bytes()
+    {
+        QFETCH(int, byte);
+        QFETCH(int, character);
+        const QByteArray bytes(1, char(byte));
+        const QString text{QChar(char16_t(character))};
         QCOMPARE(DecodeWindows1252(bytes), text);
-    else
-        QVERIFY(bytes.contains('?'));
-}
+        QCOMPARE(EncodeWindows1252(text), bytes);
 
-void TestLegacyText::decodeFileText_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("ASCII") << QByteArray("Scene 12, INT.") << "Scene 12, INT.";
-    QTest::newRow("1252 e acute") << QByteArray("caf\xE9") << "café";
-    QTest::newRow("UTF-8 e acute") << QByteArray("caf\xC3\xA9") << "café";
-    QTest::newRow("UTF-8 after a long ASCII run") << QByteArray("0123456789abcdef\xC3\xA9") << "0123456789abcdefé";
-    QTest::newRow("1252 after a long ASCII run") << QByteArray("0123456789abcdef\xE9") << "0123456789abcdefé";
-    QTest::newRow("UTF-8 Japanese") << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC") << "日本";
-    QTest::newRow("byte order mark dropped") << QByteArray("\xEF\xBB\xBF"
-                                                           "abc")
-                                             << "abc";
-    QTest::newRow("1252 quotes") << QByteArray("\x93quoted\x94") << "“quoted”";
-    QTest::newRow("UTF-8 then stray byte") << QByteArray("\xC3\xA9\xE9") << "Ã©é";
-    QTest::newRow("overlong form") << QByteArray("\xC0\xAF") << "À¯";
-    QTest::newRow("overlong three-byte form") << QByteArray("\xE0\x80\xAF") << "à€¯";
-    QTest::newRow("surrogate") << QByteArray("\xED\xA0\x80") << "í\u00A0€";
-    QTest::newRow("above U+10FFFF") << QByteArray("\xF4\x90\x80\x80") << "ô\u0090€€";
-    QTest::newRow("cut sequence") << QByteArray("\xE6\x97") << "æ—";
-}
+        // Every byte decodes to its own character and encodes back.
+        QByteArray all;
+        for (int b = 0; b < 256; ++b)
+            all.append(char(b));
+        QCOMPARE(DecodeWindows1252(all).size(), 256);
+        QVERIFY(CanEncodeWindows1252(DecodeWindows1252(all)));
+        QCOMPARE(EncodeWindows1252(DecodeWindows1252(all)), all);
+    }
 
-void TestLegacyText::decodeFileText()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, text);
-    QCOMPARE(DecodeFileText(bytes), text);
-}
+    void canEncodeWindows1252_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("canEncode");
+        QTest::newRow("ASCII") << "plain text" << true;
+        QTest::newRow("Latin-1") << "café" << true;
+        QTest::newRow("code page specials") << "€‚„…“”–—™" << true;
+        QTest::newRow("undefined byte") << QString(QChar(0x81)) << true;
+        QTest::newRow("C1 control with a byte taken") << QString(QChar(0x80)) << false;
+        QTest::newRow("Polish") << "Łódź" << false;
+        QTest::newRow("Japanese") << "日本" << false;
+        QTest::newRow("outside the BMP") << "\U0001F3AC" << false;
+    }
 
-void TestLegacyText::encodeFileText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("ASCII") << "abc" << QByteArray("abc");
-    QTest::newRow("Latin-1 in 1252") << "café" << QByteArray("caf\xE9");
-    QTest::newRow("specials in 1252") << "“x” – €" << QByteArray("\x93x\x94 \x96 \x80");
-    QTest::newRow("Polish in UTF-8") << "Łódź" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA");
-    QTest::newRow("Japanese in UTF-8") << "日本" << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC");
-    QTest::newRow("one character decides") << "café 日" << QByteArray("caf\xC3\xA9 \xE6\x97\xA5");
-}
+    void canEncodeWindows1252()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, canEncode);
+        QCOMPARE(CanEncodeWindows1252(text), canEncode);
+        const QByteArray bytes = EncodeWindows1252(text);
+        if (canEncode)
+            QCOMPARE(DecodeWindows1252(bytes), text);
+        else
+            QVERIFY(bytes.contains('?'));
+    }
 
-void TestLegacyText::encodeFileText()
-{
-    QFETCH(QString, text);
-    QFETCH(QByteArray, bytes);
-    QCOMPARE(EncodeFileText(text), bytes);
-    QCOMPARE(DecodeFileText(bytes), text);
-}
+    void decodeFileText_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("ASCII") << QByteArray("Scene 12, INT.") << "Scene 12, INT.";
+        QTest::newRow("1252 e acute") << QByteArray("caf\xE9") << "café";
+        QTest::newRow("UTF-8 e acute") << QByteArray("caf\xC3\xA9") << "café";
+        QTest::newRow("UTF-8 after a long ASCII run") << QByteArray("0123456789abcdef\xC3\xA9") << "0123456789abcdefé";
+        QTest::newRow("1252 after a long ASCII run") << QByteArray("0123456789abcdef\xE9") << "0123456789abcdefé";
+        QTest::newRow("UTF-8 Japanese") << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC") << "日本";
+        QTest::newRow("byte order mark dropped") << QByteArray("\xEF\xBB\xBF"
+                                                               "abc")
+                                                 << "abc";
+        QTest::newRow("1252 quotes") << QByteArray("\x93quoted\x94") << "“quoted”";
+        QTest::newRow("UTF-8 then stray byte") << QByteArray("\xC3\xA9\xE9") << "Ã©é";
+        QTest::newRow("overlong form") << QByteArray("\xC0\xAF") << "À¯";
+        QTest::newRow("overlong three-byte form") << QByteArray("\xE0\x80\xAF") << "à€¯";
+        QTest::newRow("surrogate") << QByteArray("\xED\xA0\x80") << "í\u00A0€";
+        QTest::newRow("above U+10FFFF") << QByteArray("\xF4\x90\x80\x80") << "ô\u0090€€";
+        QTest::newRow("cut sequence") << QByteArray("\xE6\x97") << "æ—";
+    }
+
+    void decodeFileText()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, text);
+        QCOMPARE(DecodeFileText(bytes), text);
+    }
+
+    void encodeFileText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("Latin-1 in 1252") << "café" << QByteArray("caf\xE9");
+        QTest::newRow("specials in 1252") << "“x” – €" << QByteArray("\x93x\x94 \x96 \x80");
+        QTest::newRow("Polish in UTF-8") << "Łódź" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA");
+        QTest::newRow("Japanese in UTF-8") << "日本" << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC");
+        QTest::newRow("one character decides") << "café 日" << QByteArray("caf\xC3\xA9 \xE6\x97\xA5");
+    }
+
+    void encodeFileText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QByteArray, bytes);
+        QCOMPARE(EncodeFileText(text), bytes);
+        QCOMPARE(DecodeFileText(bytes), text);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestLegacyText)
 #include "tst_legacytext.moc"
