@@ -1,12 +1,10 @@
-#include "TestSupport.h"
+#include "ImportTestSupport.h"
 
 #include "document/ScheduleDocument.h"
 #include "document/ScheduleFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -27,15 +25,6 @@ Run cli(const QStringList &args)
     process.waitForFinished(60000);
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
-}
-
-QString WriteLines(const QString &name, const QStringList &lines)
-{
-    const QString path = TempPath(name);
-    QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(lines.join(u'\n').toUtf8() + '\n');
-    return path;
 }
 
 // Opens a schedule the tool wrote; an empty document when it cannot be read.
@@ -63,12 +52,9 @@ class TestImportCli : public QObject
 private Q_SLOTS:
     void importText();
     void importTextOptions();
-    void importTextMissingScript();
-    void importTextFailsPartWay();
     void importFinalDraft();
-    void importFinalDraftMissingReport();
-    void importFinalDraftFailsPartWay();
-    void importFinalDraftLengthMessages();
+    void failures_data();
+    void failures();
     void usageErrors_data();
     void usageErrors();
 };
@@ -86,8 +72,8 @@ void TestImportCli::importText()
     Opened opened(out);
     QVERIFY(opened.ok);
     QCOMPARE(opened.doc.strips.count(), 11);
-    QCOMPARE(opened.doc.strips[1][StripField::Location], QStringLiteral("STONEHENGE"));
-    QCOMPARE(opened.doc.elements[1][ElementField::Description], QStringLiteral("Jason"));
+    QCOMPARE(opened.doc.strips[1][StripField::Location], "STONEHENGE");
+    QCOMPARE(opened.doc.elements[1][ElementField::Description], "Jason");
 }
 
 void TestImportCli::importTextOptions()
@@ -100,38 +86,11 @@ void TestImportCli::importTextOptions()
     QCOMPARE(run.code, 0);
     Opened opened(out);
     QCOMPARE(opened.doc.strips.count(), 2);
-    QCOMPARE(opened.doc.strips[1][StripField::DayNight], QStringLiteral("D"));
-    QCOMPARE(opened.doc.strips[1][StripField::Location], QStringLiteral("PARK"));
-    QCOMPARE(opened.doc.strips[1][StripField::PageLength], QStringLiteral("1.25")); // 5 lines, 4 a page
-    QCOMPARE(opened.doc.strips[2][StripField::DayNight], QStringLiteral("N"));
-    QCOMPARE(opened.doc.elements.count(), 1);
-    QCOMPARE(opened.doc.elements[1][ElementField::Description], QStringLiteral("Ann"));
-}
-
-void TestImportCli::importTextMissingScript()
-{
-    const QString out = TempPath("never.tbf");
-    const Run run = cli({"import-text", TempPath("missing-script.txt"), "-o", out});
-    QCOMPARE(run.code, 1);
-    QVERIFY(run.err.startsWith("Error with import procedure.\n\n"));
-    QVERIFY(run.err.contains("missing-script.txt"));
-    QVERIFY(!QFile::exists(out));
-}
-
-void TestImportCli::importTextFailsPartWay()
-{
-    QStringList lines{"ANN"};
-    for (int k = 0; k <= MaxStrips; ++k)
-        lines << QStringLiteral("INT. ROOM %1 - DAY").arg(k);
-    const QString out = TempPath("too-many.tbf");
-    const Run run = cli({"import-text", WriteLines("too-many.txt", lines), "-o", out});
-    QCOMPARE(run.code, 1);
-    QCOMPARE(run.err, QStringLiteral("Error with import procedure.\n"));
-    // The elements made stay; the strips were never counted.
-    Opened opened(out);
-    QVERIFY(opened.ok);
-    QCOMPARE(opened.doc.strips.count(), 0);
-    QCOMPARE(opened.doc.elements.count(), 1);
+    QCOMPARE(opened.doc.strips[1][StripField::DayNight], "D");
+    QCOMPARE(opened.doc.strips[1][StripField::Location], "PARK");
+    QCOMPARE(opened.doc.strips[1][StripField::PageLength], "1.25"); // 5 lines, 4 a page
+    QCOMPARE(opened.doc.strips[2][StripField::DayNight], "N");
+    QCOMPARE(Cast(opened.doc), QStringList{"Ann"});
 }
 
 void TestImportCli::importFinalDraft()
@@ -144,60 +103,82 @@ void TestImportCli::importFinalDraft()
     QCOMPARE(run.out, "Imported 5 scenes and 5 cast elements into " + out + "\n");
     Opened opened(out);
     QCOMPARE(opened.doc.strips.count(), 5);
-    QCOMPARE(opened.doc.strips[1][StripField::PageLength], QStringLiteral("1.375"));
+    QCOMPARE(opened.doc.strips[1][StripField::PageLength], "1.375");
 }
 
-void TestImportCli::importFinalDraftMissingReport()
+void TestImportCli::failures_data()
 {
-    const QString out = TempPath("fd-never.tbf");
-    const Run run =
-        cli({"import-fd", TempPath("no-scenes.txt"), QDir(DataDir).filePath("fd-script-report.txt"), "-o", out});
-    QCOMPARE(run.code, 1);
-    QVERIFY(run.err.startsWith("Error reading file(s). The files may be of the wrong type, or corrupted. "
-                               "Try re-exporting from Final Draft.\n"));
-    QVERIFY(!QFile::exists(out));
+    QTest::addColumn<QStringList>("args");   // the command and its inputs; "-o OUT" follows
+    QTest::addColumn<QString>("err");        // stderr starts with it
+    QTest::addColumn<int>("strips");         // what was written; -1: no file
+    QTest::addColumn<QString>("pageLength"); // of strip 1, when written
+    QTest::addColumn<int>("elements");
+
+    const QString fdScript = QDir(DataDir).filePath("fd-script-report.txt");
+    const QString readError = "Error reading file(s). The files may be of the wrong type, or corrupted. "
+                              "Try re-exporting from Final Draft.\n";
+    Row("script missing", QStringList{"import-text", TempPath("missing-script.txt")},
+        "Error with import procedure.\n\n", -1, "", 0);
+    QStringList tooMany{"ANN"};
+    for (int k = 0; k <= MaxStrips; ++k)
+        tooMany << QStringLiteral("INT. ROOM %1 - DAY").arg(k);
+    // The elements made stay; the strips were never counted.
+    Row("script too long", QStringList{"import-text", WriteLines("too-many.txt", tooMany)},
+        "Error with import procedure.\n", 0, "", 1);
+    Row("scene report missing", QStringList{"import-fd", TempPath("no-scenes.txt"), fdScript}, readError, -1, "", 0);
+    // A fifth character fails the new-character test; what was read stays.
+    Row("fifth character",
+        QStringList{"import-fd", WriteLines("six-scenes.txt", {"1\tINT. ROOM - DAY\t1\t1 Pg"}),
+                    WriteLines("six.txt", {"## Page: 1, Scene: 1", "INT. ROOM - DAY", "ANN", "BOB", "CAL", "DAN", "EVE",
+                                           "FAY", ""})},
+        "Error reading file(s).", 1, "", 5);
+    Row("length messages",
+        QStringList{"import-fd", WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"}),
+                    WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2",
+                                           "INT. B - DAY", ""})},
+        "Error converting scene length.\nCould not find scene length information. Are you sure you selected a valid "
+        "Final Draft scene report?\n",
+        2, "0.125", 0);
 }
 
-void TestImportCli::importFinalDraftFailsPartWay()
+void TestImportCli::failures()
 {
-    const QString script = WriteLines(
-        "six.txt", {"## Page: 1, Scene: 1", "INT. ROOM - DAY", "ANN", "BOB", "CAL", "DAN", "EVE", "FAY", ""});
-    const QString scenes = WriteLines("six-scenes.txt", {"1\tINT. ROOM - DAY\t1\t1 Pg"});
-    const QString out = TempPath("six.tbf");
-    const Run run = cli({"import-fd", scenes, script, "-o", out});
+    QFETCH(QStringList, args);
+    QFETCH(QString, err);
+    QFETCH(int, strips);
+    QFETCH(QString, pageLength);
+    QFETCH(int, elements);
+    const QString out = TempPath(QString::fromLatin1(QTest::currentDataTag()).replace(u' ', u'-') + ".tbf");
+    const Run run = cli(args << "-o" << out);
     QCOMPARE(run.code, 1);
-    QVERIFY(run.err.startsWith("Error reading file(s)."));
+    QVERIFY2(run.err.startsWith(err), qPrintable(run.err));
+    if (strips < 0) { // a missing input: nothing written
+        if (args.first() == "import-text")
+            QVERIFY(run.err.contains(args.at(1).section(u'/', -1)));
+        QVERIFY(!QFile::exists(out));
+        return;
+    }
+    if (err.endsWith(u'\n'))
+        QCOMPARE(run.err, err); // nothing more
     Opened opened(out);
     QVERIFY(opened.ok);
-    QCOMPARE(opened.doc.strips.count(), 1);
-    QCOMPARE(opened.doc.elements.count(), 5);
-}
-
-void TestImportCli::importFinalDraftLengthMessages()
-{
-    const QString script =
-        WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
-    const QString scenes = WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
-    const QString out = TempPath("two.tbf");
-    const Run run = cli({"import-fd", scenes, script, "-o", out});
-    QCOMPARE(run.code, 1);
-    QCOMPARE(run.err, QStringLiteral("Error converting scene length.\nCould not find scene length information. Are "
-                                     "you sure you selected a valid Final Draft scene report?\n"));
-    Opened opened(out);
-    QCOMPARE(opened.doc.strips.count(), 2);
-    QCOMPARE(opened.doc.strips[1][StripField::PageLength], QStringLiteral("0.125"));
+    QCOMPARE(opened.doc.strips.count(), strips);
+    QCOMPARE(opened.doc.elements.count(), elements);
+    if (strips > 0)
+        QCOMPARE(opened.doc.strips[1][StripField::PageLength], pageLength);
 }
 
 void TestImportCli::usageErrors_data()
 {
     QTest::addColumn<QStringList>("args");
-    QTest::newRow("import-text without -o") << QStringList{"import-text", "a.txt"};
-    QTest::newRow("import-text, two scripts") << QStringList{"import-text", "a.txt", "b.txt", "-o", "x.tbf"};
-    QTest::newRow("lines 0") << QStringList{"import-text", "a.txt", "-o", "x.tbf", "--lines", "0"};
-    QTest::newRow("lines 100") << QStringList{"import-text", "a.txt", "-o", "x.tbf", "--lines", "100"};
-    QTest::newRow("lines not a number") << QStringList{"import-text", "a.txt", "-o", "x.tbf", "--lines", "many"};
-    QTest::newRow("unknown option") << QStringList{"import-text", "a.txt", "-o", "x.tbf", "--font", "Courier"};
-    QTest::newRow("import-fd, one report") << QStringList{"import-fd", "a.txt", "-o", "x.tbf"};
+    using L = QStringList;
+    Row("import-text without -o", L{"import-text", "a.txt"});
+    Row("import-text, two scripts", L{"import-text", "a.txt", "b.txt", "-o", "x.tbf"});
+    Row("lines 0", L{"import-text", "a.txt", "-o", "x.tbf", "--lines", "0"});
+    Row("lines 100", L{"import-text", "a.txt", "-o", "x.tbf", "--lines", "100"});
+    Row("lines not a number", L{"import-text", "a.txt", "-o", "x.tbf", "--lines", "many"});
+    Row("unknown option", L{"import-text", "a.txt", "-o", "x.tbf", "--font", "Courier"});
+    Row("import-fd, one report", L{"import-fd", "a.txt", "-o", "x.tbf"});
 }
 
 void TestImportCli::usageErrors()

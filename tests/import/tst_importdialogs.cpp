@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "ImportTestSupport.h"
 
 #include "app/CommandHost.h"
 #include "app/MenuActions.h"
@@ -134,18 +134,13 @@ class TestImportDialogs : public QObject
 private Q_SLOTS:
     void wizardPages();
     void wizardFileList();
-    void wizardUnreadableFile();
+    void wizardUnreadableFileAndCancel();
     void wizardFont();
     void wizardWordLists();
-    void wizardImports();
-    void wizardCancel();
     void finalDraftDialog();
-    void finalDraftBrowse();
     void menuCommandFinalDraft_data();
     void menuCommandFinalDraft();
     void menuCommandScript();
-    void helpKey();
-    void screenshots();
 };
 
 void TestImportDialogs::wizardPages()
@@ -232,12 +227,13 @@ void TestImportDialogs::wizardFileList()
     QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")).size(), 2);
 }
 
-void TestImportDialogs::wizardUnreadableFile()
+void TestImportDialogs::wizardUnreadableFileAndCancel()
 {
     ScriptFolder folder;
     ScheduleDocument doc;
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
+    AddScene(doc, "99", "3");
     TfrmImportScript wizard(doc);
     wizard.setDirectory(folder.dir.path());
     wizard.show();
@@ -248,6 +244,14 @@ void TestImportDialogs::wizardUnreadableFile()
     QCOMPARE(prompter.prompts.size(), 1);
     QVERIFY(prompter.texts().first().startsWith("Error with import procedure.\r\r"));
     QCOMPARE(wizard.currentStep(), 1);
+
+    SelectFile(wizard, "kitchen.txt");
+    Click(&wizard, "NextBut");
+    Click(&wizard, "CancelBut");
+    QVERIFY(!wizard.isVisible());
+    QCOMPARE(wizard.result(), int(QDialog::Rejected));
+    QCOMPARE(doc.strips.count(), 1);
+    QVERIFY(!doc.Modified);
 }
 
 void TestImportDialogs::wizardFont()
@@ -341,68 +345,6 @@ void TestImportDialogs::wizardWordLists()
     QCOMPARE(wizard.settings().nightWords, s.nightWords);
 }
 
-void TestImportDialogs::wizardImports()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    RecordingStatus status;
-    doc.setPrompter(&prompter);
-    doc.setStatusSink(&status);
-    AddScene(doc, QStringLiteral("99"), QStringLiteral("3"));
-    TfrmImportScript wizard(doc);
-    int asked = 0;
-    wizard.beforeImport = [&asked] {
-        ++asked;
-        return true;
-    };
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "kitchen.txt");
-    Click(&wizard, "NextBut");
-    child<QSpinBox>(&wizard, "LinesSpin")->setValue(7);
-    Click(&wizard, "NextBut");
-    Click(&wizard, "NextBut");
-    QCOMPARE(asked, 0);
-    Click(&wizard, "NextBut"); // Import!
-
-    QCOMPARE(asked, 1);
-    QVERIFY(!wizard.isVisible());
-    QCOMPARE(wizard.result(), int(QDialog::Accepted));
-    QCOMPARE(doc.strips.count(), 2);
-    QCOMPARE(doc.strips[1][StripField::Location], QStringLiteral("KITCHEN"));
-    // Seven lines a page: the kitchen scene runs 7 lines, one page.
-    QCOMPARE(doc.strips[1][StripField::PageLength], QStringLiteral("1"));
-    QCOMPARE(doc.elements.count(), 2);
-    QCOMPARE(child<QLabel>(&wizard, "ImportLab")->text(), QStringLiteral("Import progress : 3 - BARN"));
-    QCOMPARE(child<QProgressBar>(&wizard, "PBar")->value(), 100);
-    // The main window keeps its message panel; "Modified" reaches it.
-    QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), QStringLiteral("Modified"));
-    QVERIFY(!status.panels.value(StatusSink::MessagePanel).startsWith("Import progress"));
-    QVERIFY(&doc.status() == &status);
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-    QVERIFY(prompter.prompts.isEmpty());
-}
-
-void TestImportDialogs::wizardCancel()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    AddScene(doc, QStringLiteral("99"), QStringLiteral("3"));
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "kitchen.txt");
-    Click(&wizard, "NextBut");
-    Click(&wizard, "CancelBut");
-    QVERIFY(!wizard.isVisible());
-    QCOMPARE(wizard.result(), int(QDialog::Rejected));
-    QCOMPARE(doc.strips.count(), 1);
-    QVERIFY(!doc.Modified);
-}
-
 void TestImportDialogs::finalDraftDialog()
 {
     ScheduleDocument doc;
@@ -436,34 +378,27 @@ void TestImportDialogs::finalDraftDialog()
     QVERIFY(doc.Modified);
     QVERIFY(prompter.prompts.isEmpty());
 
-    // Shown again: both names empty.
+    // Shown again: both names empty; the browse buttons fill them.
     dialog.show();
     QCOMPARE(scene->text(), QString());
     QVERIFY(!import->isEnabled());
-    QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestImportDialogs::finalDraftBrowse()
-{
-    ScheduleDocument doc;
-    TfrmFDImport dialog(doc);
     QStringList titles;
-    QString answer = QStringLiteral("/reports/scenes.txt");
+    QString answer = "/reports/scenes.txt";
     dialog.chooseFile = [&](const QString &title, const QString &) {
         titles.append(title);
         return answer;
     };
-    dialog.show();
     QTest::mouseClick(child<QPushButton>(&dialog, "SceneBrowse"), Qt::LeftButton);
-    answer = QStringLiteral("/reports/script.txt");
+    answer = "/reports/script.txt";
     QTest::mouseClick(child<QPushButton>(&dialog, "ScriptBrowse"), Qt::LeftButton);
     answer.clear(); // cancelled
     QTest::mouseClick(child<QPushButton>(&dialog, "SceneBrowse"), Qt::LeftButton);
     QCOMPARE(titles, (QStringList{"Open Scene Report file", "Open Script Report file", "Open Scene Report file"}));
-    QCOMPARE(child<QLineEdit>(&dialog, "SceneEdit")->text(), QStringLiteral("/reports/scenes.txt"));
-    QCOMPARE(child<QLineEdit>(&dialog, "ScriptEdit")->text(), QStringLiteral("/reports/script.txt"));
-    QVERIFY(child<QPushButton>(&dialog, "ImportBut")->isEnabled());
+    QCOMPARE(scene->text(), "/reports/scenes.txt");
+    QCOMPARE(script->text(), "/reports/script.txt");
+    QVERIFY(import->isEnabled());
+    QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
 }
 
 void TestImportDialogs::menuCommandFinalDraft_data()
@@ -524,22 +459,25 @@ void TestImportDialogs::menuCommandScript()
     ScriptFolder folder;
     FakeHost host;
     InstallImportCommands(host);
-    AddScene(host.doc, QStringLiteral("99"), QStringLiteral("3"));
+    AddScene(host.doc, "99", "3");
     SetModified(host.doc);
     host.prompter.answers = {Answer::Cancel, Answer::No};
 
+    TfrmImportScript *wizard = nullptr;
     QTimer::singleShot(0, &host.mainWindow, [&] {
-        auto *wizard = host.mainWindow.findChild<TfrmImportScript *>();
+        wizard = host.mainWindow.findChild<TfrmImportScript *>();
         QVERIFY(wizard && wizard->isVisible());
         wizard->setDirectory(folder.dir.path());
         Click(wizard, "NextBut");
         SelectFile(*wizard, "kitchen.txt");
-        for (int k = 0; k < 3; ++k)
-            Click(wizard, "NextBut");
+        Click(wizard, "NextBut");
+        child<QSpinBox>(wizard, "LinesSpin")->setValue(7);
+        Click(wizard, "NextBut");
+        Click(wizard, "NextBut");
         // Import!, Cancel on the question: the wizard stays, the schedule too.
         Click(wizard, "NextBut");
         QVERIFY(wizard->isVisible());
-        QCOMPARE(host.doc.strips[1][StripField::SceneNumber], QStringLiteral("99"));
+        QCOMPARE(host.doc.strips[1][StripField::SceneNumber], "99");
         // Import! again, No: the import goes ahead without saving.
         Click(wizard, "NextBut");
     });
@@ -547,58 +485,31 @@ void TestImportDialogs::menuCommandScript()
 
     QCOMPARE(host.prompter.texts(), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
     QCOMPARE(host.saves, 0);
+    QVERIFY(!wizard->isVisible());
+    QCOMPARE(wizard->result(), int(QDialog::Accepted));
     QCOMPARE(host.doc.strips.count(), 2);
-    QCOMPARE(host.doc.strips[2][StripField::Location], QStringLiteral("BARN"));
+    QCOMPARE(host.doc.strips[1][StripField::Location], "KITCHEN");
+    QCOMPARE(host.doc.strips[2][StripField::Location], "BARN");
+    // Seven lines a page: the kitchen scene runs 7 lines, one page.
+    QCOMPARE(host.doc.strips[1][StripField::PageLength], "1");
+    QCOMPARE(host.doc.elements.count(), 2);
     QCOMPARE(host.repaints, 1);
-}
+    QCOMPARE(child<QLabel>(wizard, "ImportLab")->text(), "Import progress : 3 - BARN");
+    QCOMPARE(child<QProgressBar>(wizard, "PBar")->value(), 100);
+    // The main window keeps its message panel; "Modified" reaches it.
+    QCOMPARE(host.status.panels.value(StatusSink::ModifiedPanel), "Modified");
+    QVERIFY(!host.status.panels.value(StatusSink::MessagePanel).startsWith("Import progress"));
+    QVERIFY(&host.doc.status() == &host.status);
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+    QCOMPARE(host.prompter.prompts.size(), 2);
 
-void TestImportDialogs::helpKey()
-{
-    FakeHost host;
-    InstallImportCommands(host);
-    auto *wizard = host.mainWindow.findChild<TfrmImportScript *>();
-    auto *finalDraft = host.mainWindow.findChild<TfrmFDImport *>();
+    // F1 in either dialog asks the window for its help page.
     wizard->show();
     QTest::keyClick(wizard, Qt::Key_F1);
+    auto *finalDraft = host.mainWindow.findChild<TfrmFDImport *>();
     finalDraft->show();
     QTest::keyClick(finalDraft, Qt::Key_F1);
     QCOMPARE(host.help, (QStringList{"import-script.html", "final-draft-import.html"}));
-}
-
-// Pictures of every page, for looking at the dialogs: set TB_SCREENSHOT_DIR.
-void TestImportDialogs::screenshots()
-{
-    const QString out = qEnvironmentVariable("TB_SCREENSHOT_DIR");
-    if (out.isEmpty())
-        QSKIP("TB_SCREENSHOT_DIR is not set");
-    QDir().mkpath(out);
-    ScriptFolder folder;
-    folder.write("cyber-bob-ep1.txt", [] {
-        QFile f(QStringLiteral(TB_SCREENPLAYS_DIR "/cyber-bob-ep1.txt"));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("INT. ROOM - DAY\n");
-    }());
-    ScheduleDocument doc;
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&wizard));
-    for (int step = 0; step <= 4; ++step) {
-        if (step == 1)
-            SelectFile(wizard, "cyber-bob-ep1.txt");
-        QTest::qWait(50);
-        QVERIFY(wizard.grab().save(QDir(out).filePath(QStringLiteral("import-script-step%1.png").arg(step + 1))));
-        if (step < 4)
-            Click(&wizard, "NextBut");
-    }
-    Click(&wizard, "NextBut");
-    QVERIFY(wizard.grab().save(QDir(out).filePath("import-script-done.png")));
-
-    TfrmFDImport dialog(doc);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    child<QLineEdit>(&dialog, "SceneEdit")->setText(QDir(DataDir).filePath("fd-scene-report.txt"));
-    QTest::qWait(50);
-    QVERIFY(dialog.grab().save(QDir(out).filePath("final-draft-import.png")));
 }
 
 QTEST_MAIN(TestImportDialogs)

@@ -1,26 +1,72 @@
 #pragma once
 
+#include "TestSupport.h"
+
+#include "document/DocumentOperations.h"
 #include "document/DocumentView.h"
 #include "document/ScheduleDocument.h"
 
 #include <QList>
+#include <QTest>
+
+namespace tb::test {
 
 // Records the scrolling and repainting that the scheduling commands ask of the board,
 // with the selection as it stood at each repaint.
-class SchedulingTestView : public tb::DocumentView
+class SchedulingTestView : public DocumentView
 {
 public:
-    explicit SchedulingTestView(const tb::ScheduleDocument &doc)
+    explicit SchedulingTestView(const ScheduleDocument &doc)
         : m_doc(doc)
     {}
     void scrollToStrip(int row) override { scrolls.append(row); }
     void repaintBoard() override { selectionAtRepaint.append(m_doc.SelStart); }
-    void updateCommands(const tb::ScheduleDocument &) override { ++commandUpdates; }
+    void updateCommands(const ScheduleDocument &) override { ++commandUpdates; }
 
     QList<int> scrolls;
     QList<int> selectionAtRepaint;
     int commandUpdates = 0;
 
 private:
-    const tb::ScheduleDocument &m_doc;
+    const ScheduleDocument &m_doc;
 };
+
+// A document with a scripted prompter and a recording view.
+struct Fixture
+{
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    SchedulingTestView view{doc};
+    Fixture()
+    {
+        doc.setPrompter(&prompter);
+        doc.setView(&view);
+    }
+};
+
+// Scenes of the given page lengths ("12", "0.5"), a banner for "B" and a divider for
+// "|", numbered scene by scene; then the days are calculated.
+inline void Build(ScheduleDocument &doc, const QStringList &strips)
+{
+    int scene = 0;
+    for (const QString &s : strips) {
+        if (s == "|")
+            AddDivider(doc);
+        else if (s == "B")
+            AddBanner(doc, "Travel", 0);
+        else
+            AddScene(doc, QString::number(++scene), s);
+    }
+    SetModified(doc);
+}
+
+// One data row on one line: QTest::newRow(tag) << values...
+template <typename... T>
+void Row(const char *tag, const T &...values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
+inline const QString FridayMarch6 = QStringLiteral("46087"); // Fri, March 6, 2026
+
+} // namespace tb::test

@@ -1,30 +1,12 @@
 #include "SchedulingTestView.h"
-#include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "scheduling/Banners.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
 
 namespace {
-
-struct Fixture
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    SchedulingTestView view{doc};
-    Fixture()
-    {
-        doc.setPrompter(&prompter);
-        doc.setView(&view);
-    }
-};
-
 const BannerColours Preference{"clYellow", "clNavy"};
-
 } // namespace
 
 class TestBanners : public QObject
@@ -33,85 +15,40 @@ class TestBanners : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void addAtEnd();
-    void bannerOfSeveralDays_data();
-    void bannerOfSeveralDays();
-    void insertOnTheFirstStrip();
+    void addAndInsert();
     void editClearsForeignFields();
     void needsASelection();
     void readForEditing_data();
     void readForEditing();
     void removeAll();
+    void convertRestDays_data();
     void convertRestDays();
-    void convertWithoutRestDaysClearsTheRule();
-    void convertDeclined();
 };
 
-void TestBanners::addAtEnd()
+void TestBanners::addAndInsert()
 {
     Fixture f;
-    for (int i = 1; i <= 9; ++i)
-        AddScene(f.doc, QString::number(i), "1");
-    QVERIFY(WriteBanner(f.doc, BannerAddAtEnd, {"Company move", {"clRed", "$00C0FFEE"}, 0}).ok());
-
+    Build(f.doc, QStringList(9, "1"));
+    QVERIFY(WriteBanner(f.doc, BannerAddAtEnd, {"Company move", {"clRed", "$00C0FFEE"}, 2}).ok());
     const StripRecord &row = f.doc.strips[10];
     QCOMPARE(row[StripField::StripKind], "4");
     QCOMPARE(row[StripField::Synopsis], "Company move");
     QCOMPARE(row[StripField::StripColour], "clRed,$00C0FFEE");
-    QCOMPARE(row[StripField::DayCount], "0");
+    QCOMPARE(row[StripField::DayCount], "2");
     QCOMPARE(row[StripField::PageLength], "0"); // written by the day calculation
     QCOMPARE(f.doc.undoCaption, "Undo Add banner");
     QCOMPARE(f.view.scrolls, QList<int>{6}); // the new row minus 4
     QVERIFY(HasBanners(f.doc));
-}
 
-void TestBanners::bannerOfSeveralDays_data()
-{
-    QTest::addColumn<int>("days");
-    QTest::addColumn<QString>("dayAfter");   // day number of the scene after the banner
-    QTest::addColumn<QString>("shootAfter"); // its shooting-day number
-    // A banner of n days counts n production days but one shooting day.
-    QTest::newRow("no day change") << 0 << "1"
-                                   << "1";
-    QTest::newRow("one day") << 1 << "2"
-                             << "2";
-    QTest::newRow("three days") << 3 << "4"
-                                << "2";
-}
-
-void TestBanners::bannerOfSeveralDays()
-{
-    QFETCH(int, days);
-    QFETCH(QString, dayAfter);
-    QFETCH(QString, shootAfter);
-    Fixture f;
-    f.doc.values.StartDate = "46087"; // Fri, March 6, 2026
-    AddScene(f.doc, "1", "1");
-    AddDivider(f.doc);
-    QVERIFY(WriteBanner(f.doc, BannerAddAtEnd, {"Travel", {}, days}).ok());
-    AddScene(f.doc, "2", "1");
-    SetModified(f.doc);
-    QCOMPARE(f.doc.strips[3][StripField::DayCount], QString::number(days));
-    QCOMPARE(f.doc.strips[4][StripField::DayNumber], dayAfter);
-    QCOMPARE(f.doc.strips[4][StripField::ShootDayNumber], shootAfter);
-    // The banner is dated with the last of its days.
-    const QStringList dates{"Fri, March 6, 2026", "Sat, March 7, 2026", "", "Mon, March 9, 2026"};
-    QCOMPARE(f.doc.strips[3][StripField::SceneNumber], dates.at(days));
-}
-
-void TestBanners::insertOnTheFirstStrip()
-{
-    Fixture f;
-    AddScene(f.doc, "1", "1");
-    AddScene(f.doc, "2", "1");
+    // Inserted on the first strip it goes before it, without scrolling.
     f.doc.SelStart = f.doc.SelEnd = 1;
     QVERIFY(CanInsertBanner(f.doc));
     QVERIFY(WriteBanner(f.doc, BannerInsert, {"Holiday", Preference, 1}).ok());
-    QCOMPARE(Kinds(f.doc), "4 1 1");
+    QCOMPARE(Kinds(f.doc), "4 1 1 1 1 1 1 1 1 1 4");
     QCOMPARE(f.doc.strips[1][StripField::StripColour], "clYellow,clNavy");
     QCOMPARE(f.doc.strips[1][StripField::DayCount], "1");
     QCOMPARE(f.doc.undoCaption, "Undo Insert banner");
-    QVERIFY(f.view.scrolls.isEmpty());
+    QCOMPARE(f.view.scrolls, QList<int>{6});
 }
 
 void TestBanners::editClearsForeignFields()
@@ -159,36 +96,16 @@ void TestBanners::readForEditing_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("days");
 
-    QTest::newRow("pair") << "clRed,clWhite"
-                          << "3"
-                          << "clRed"
-                          << "clWhite" << 3;
-    QTest::newRow("no comma: the preference") << "clRed"
-                                              << "1"
-                                              << "clYellow"
-                                              << "clNavy" << 1;
-    QTest::newRow("split at the first comma, 20 characters") << "$00FF0000,123456789012345678901234"
-                                                             << ""
-                                                             << "$00FF0000"
-                                                             << "12345678901234567890" << 0;
+    Row("pair", "clRed,clWhite", "3", "clRed", "clWhite", 3);
+    Row("no comma: the preference", "clRed", "1", "clYellow", "clNavy", 1);
+    Row("split at the first comma, 20 characters", "$00FF0000,123456789012345678901234", "", "$00FF0000",
+        "12345678901234567890", 0);
     // The day count is compared as text with "0": blank, "0" and "-2" are no day
     // change; "00" sorts after "0" and is a day change, of at least one day.
-    QTest::newRow("zero") << ","
-                          << "0"
-                          << ""
-                          << "" << 0;
-    QTest::newRow("negative") << "clRed,clWhite"
-                              << "-2"
-                              << "clRed"
-                              << "clWhite" << 0;
-    QTest::newRow("double zero") << "clRed,clWhite"
-                                 << "00"
-                                 << "clRed"
-                                 << "clWhite" << 1;
-    QTest::newRow("beyond the spin") << "clRed,clWhite"
-                                     << "900"
-                                     << "clRed"
-                                     << "clWhite" << 365;
+    Row("zero", ",", "0", "", "", 0);
+    Row("negative", "clRed,clWhite", "-2", "clRed", "clWhite", 0);
+    Row("double zero", "clRed,clWhite", "00", "clRed", "clWhite", 1);
+    Row("beyond the spin", "clRed,clWhite", "900", "clRed", "clWhite", 365);
 }
 
 void TestBanners::readForEditing()
@@ -213,10 +130,7 @@ void TestBanners::removeAll()
 {
     Fixture f;
     AddBanner(f.doc, "Travel", 1);
-    AddScene(f.doc, "1", "1");
-    AddDivider(f.doc);
-    AddBanner(f.doc, "Holiday", 0);
-    SetModified(f.doc);
+    Build(f.doc, {"1", "|", "B"});
     f.doc.SelStart = f.doc.SelEnd = 4;
 
     f.prompter.answers = {Answer::No};
@@ -232,27 +146,46 @@ void TestBanners::removeAll()
     QVERIFY(!HasBanners(f.doc));
 }
 
+void TestBanners::convertRestDays_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("ruleAfter");
+
+    Row("D67 from a Friday", FridayMarch6, "D67", Answer::Yes, "1 2 3 3 1 2", "1 2 4 4 1 2", "");
+    Row("no rest days yet: the rule is cleared", "", "S6", Answer::Yes, "1 2 1 2", "1 2 1 2", "");
+    Row("declined", "", "S1", Answer::No, "1 2 3 1 2", "1 2 3 1 2", "S1");
+}
+
 void TestBanners::convertRestDays()
 {
+    QFETCH(QString, start);
+    QFETCH(QString, rule);
+    QFETCH(Answer, answer);
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, ruleAfter);
     Fixture f;
-    f.doc.values.StartDate = "46087"; // Friday
-    f.doc.values.AutoRestDayRule = "D67";
-    AddScene(f.doc, "1", "1");
-    AddDivider(f.doc);
-    AddScene(f.doc, "2", "1");
-    AddDivider(f.doc);
-    SetModified(f.doc);
-    QCOMPARE(Kinds(f.doc), "1 2 3 3 1 2");
+    f.doc.values.StartDate = start;
+    f.doc.values.AutoRestDayRule = rule;
+    Build(f.doc, {"1", "|", "1", "|"});
+    QCOMPARE(Kinds(f.doc), before);
     const int depth = f.doc.undo.UndoDepth;
+    f.prompter.answers = {answer};
 
-    QVERIFY(ConvertAutoRestDaysToBanners(f.doc, Preference));
+    QCOMPARE(ConvertAutoRestDaysToBanners(f.doc, Preference), answer == Answer::Yes);
     QCOMPARE(f.prompter.texts(),
              QStringList{"This feature will convert all auto-rest days to normal 1 day banners, and remove all rest "
                          "day settings.\r\rWARNING: This operation cannot be un-done. Are you sure you wish to "
                          "proceed?"});
-    QCOMPARE(Kinds(f.doc), "1 2 4 4 1 2");
-    QCOMPARE(f.doc.values.AutoRestDayRule, "");
+    QCOMPARE(Kinds(f.doc), after);
+    QCOMPARE(f.doc.values.AutoRestDayRule, ruleAfter);
     QCOMPARE(f.doc.undo.UndoDepth, depth); // no snapshot
+    if (start.isEmpty())
+        return;
     const StripRecord &sunday = f.doc.strips[4];
     QCOMPARE(sunday[StripField::Synopsis], "REST DAY");
     QCOMPARE(sunday[StripField::DayCount], "1");
@@ -262,32 +195,6 @@ void TestBanners::convertRestDays()
     // As banners they now count shooting days too, as one-day banners do.
     QCOMPARE(f.doc.days.productionDays, 4);
     QCOMPARE(f.doc.days.shootingDays, 4);
-}
-
-void TestBanners::convertWithoutRestDaysClearsTheRule()
-{
-    Fixture f;
-    f.doc.values.AutoRestDayRule = "S6";
-    AddScene(f.doc, "1", "1");
-    AddDivider(f.doc);
-    SetModified(f.doc);
-    QVERIFY(ConvertAutoRestDaysToBanners(f.doc, Preference));
-    QCOMPARE(f.doc.values.AutoRestDayRule, "");
-    QCOMPARE(Kinds(f.doc), "1 2");
-}
-
-void TestBanners::convertDeclined()
-{
-    Fixture f;
-    f.doc.values.AutoRestDayRule = "S1";
-    AddScene(f.doc, "1", "1");
-    AddDivider(f.doc);
-    AddScene(f.doc, "2", "1");
-    SetModified(f.doc);
-    f.prompter.answers = {Answer::No};
-    QVERIFY(!ConvertAutoRestDaysToBanners(f.doc, Preference));
-    QCOMPARE(f.doc.values.AutoRestDayRule, "S1");
-    QCOMPARE(Kinds(f.doc), "1 2 3 1");
 }
 
 QTEST_GUILESS_MAIN(TestBanners)

