@@ -111,6 +111,8 @@ class TestReportDialogs : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void init();
+    void cleanup();
     void previewNavigation();
     void previewZoomBox_data();
     void previewZoomBox();
@@ -128,6 +130,8 @@ private Q_SLOTS:
 private:
     ScheduleDocument m_doc;
     ScriptedPrompter m_prompter;
+    std::unique_ptr<TfrmPreview> m_preview; // filled afresh for every test
+    int m_pages = 0;
 };
 
 void TestReportDialogs::initTestCase()
@@ -137,23 +141,32 @@ void TestReportDialogs::initTestCase()
     QVERIFY(OpenDocument(m_doc, Example).ok());
 }
 
+void TestReportDialogs::init()
+{
+    m_preview = std::make_unique<TfrmPreview>();
+    fillPreview(*m_preview, m_doc, &m_pages);
+}
+
+void TestReportDialogs::cleanup()
+{
+    m_preview.reset();
+}
+
 void TestReportDialogs::previewNavigation()
 {
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
+    const int count = m_pages;
     QVERIFY(count >= 3);
     const QString last = QString::number(count);
     QCOMPARE(preview.windowTitle(), QStringLiteral("Torvanbridge - Print preview"));
     QCOMPARE(preview.counterText(), "1/" + last);
-    auto *first = preview.findChild<QToolButton *>("spbfirst");
-    auto *prev = preview.findChild<QToolButton *>("spbPrev");
-    auto *next = preview.findChild<QToolButton *>("spbNext");
-    auto *lastButton = preview.findChild<QToolButton *>("spbLast");
-    QCOMPARE(first->toolTip(), QStringLiteral("First page"));
-    QCOMPARE(prev->toolTip(), QStringLiteral("Previous page"));
-    QCOMPARE(next->toolTip(), QStringLiteral("Next page"));
-    QCOMPARE(lastButton->toolTip(), QStringLiteral("Last page"));
+    QList<QToolButton *> buttons; // first, previous, next, last
+    for (const auto &[name, hint] : {std::pair{"spbfirst", "First page"}, std::pair{"spbPrev", "Previous page"},
+                                     std::pair{"spbNext", "Next page"}, std::pair{"spbLast", "Last page"}}) {
+        buttons.append(preview.findChild<QToolButton *>(name));
+        QCOMPARE(buttons.last()->toolTip(), QString::fromLatin1(hint));
+    }
+    QToolButton *first = buttons[0], *prev = buttons[1], *next = buttons[2], *lastButton = buttons[3];
     preview.show();
     QVERIFY(QTest::qWaitForWindowExposed(&preview));
     QTest::mouseClick(prev, Qt::LeftButton); // nothing before the first page
@@ -185,9 +198,7 @@ void TestReportDialogs::previewZoomBox()
 {
     QFETCH(QString, typed);
     QFETCH(int, zoom);
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
     auto *box = preview.findChild<QComboBox *>("cbxScale");
     QCOMPARE(box->currentText(), QStringLiteral("100"));
     QCOMPARE(box->toolTip(), QStringLiteral("Zoom percentage"));
@@ -200,9 +211,7 @@ void TestReportDialogs::previewZoomBox()
 
 void TestReportDialogs::previewMouseZoomSteps()
 {
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
     preview.resize(900, 700);
     preview.show();
     QVERIFY(QTest::qWaitForWindowExposed(&preview));
@@ -226,9 +235,8 @@ void TestReportDialogs::previewMouseZoomSteps()
 
 void TestReportDialogs::previewKeys()
 {
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
+    const int count = m_pages;
     preview.resize(700, 500);
     preview.show();
     QVERIFY(QTest::qWaitForWindowExposed(&preview));
@@ -269,9 +277,7 @@ void TestReportDialogs::previewKeys()
 
 void TestReportDialogs::previewStaysOpenWhilePrinting()
 {
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
     preview.show();
     QVERIFY(QTest::qWaitForWindowExposed(&preview));
     preview.Previewer()->setBusy(true);
@@ -285,9 +291,7 @@ void TestReportDialogs::previewStaysOpenWhilePrinting()
 
 void TestReportDialogs::previewPrintsRecordedPages()
 {
-    TfrmPreview preview;
-    int count = 0;
-    fillPreview(preview, m_doc, &count);
+    TfrmPreview &preview = *m_preview;
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     const QString path = TempPath("printed-preview.pdf");
