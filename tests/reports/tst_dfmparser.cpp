@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+#include <QtEndian>
 
 using namespace tb;
 using namespace tb::test;
@@ -248,13 +249,9 @@ void TestDfmParser::embeddedPicture()
         image.save(&buffer, "PNG");
     }
     // Picture data: class name with its length byte, the stream's byte count, the stream.
-    QByteArray data = QByteArray(1, char(9)) + "TPngImage";
-    const quint32 size = quint32(png.size());
-    data += char(size & 0xFF);
-    data += char((size >> 8) & 0xFF);
-    data += char((size >> 16) & 0xFF);
-    data += char((size >> 24) & 0xFF);
-    data += png;
+    QByteArray size(4, 0);
+    qToLittleEndian(quint32(png.size()), size.data());
+    const QByteArray data = QByteArray(1, char(9)) + "TPngImage" + size + png;
     const QString text = QStringLiteral("object F: TForm\n  object B: tAlBand\n    object I: tAlImage\n"
                                         "      Picture.Data = {%1}\n    end\n  end\nend\n")
                              .arg(QString::fromLatin1(data.toHex()));
