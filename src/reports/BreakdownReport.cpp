@@ -31,14 +31,16 @@ QString categoryName(const ScheduleDocument &doc, int category)
     return category >= 1 && category <= doc.categoryCount() ? doc.categories.at(category - 1).name : QString();
 }
 
-void showProgress(PrintingProgress *progress, const QString &text, int maximum)
+// The production's header fields, the same on the breakdown sheet and the element summary.
+void pushProductionHeader(TAlReport &report, const ScheduleDocument &doc)
 {
-    if (!progress)
-        return;
-    progress->setText(text);
-    progress->setMaximum(maximum);
-    progress->setPosition(0);
-    progress->showProgress();
+    const ProductionValues &v = doc.values;
+    report.AddNamedValue(QStringLiteral("PictureField"), v.PictureTitle);
+    report.AddNamedValue(QStringLiteral("AddressField"), addressText(doc));
+    report.AddNamedValue(QStringLiteral("CompanyField"), v.Company);
+    report.AddNamedValue(QStringLiteral("RefField"), v.Reference);
+    report.AddNamedValue(QStringLiteral("DirField"), v.Director);
+    report.AddNamedValue(QStringLiteral("ProdField"), v.Producer);
 }
 
 } // namespace
@@ -61,35 +63,16 @@ QList<BreakdownListItem> BreakdownListItems(const ScheduleDocument &doc)
 ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const BreakdownReportOptions &options,
                                            const ReportBuildContext &context)
 {
-    doc.status().setBusy(true);
-    const QImage logo = LoadLogo(doc);
-    PrintingProgress *progress = context.progress;
-    showProgress(progress, QStringLiteral("Creating breakdown sheets..."), doc.strips.count());
-    auto finish = [&] {
-        if (progress)
-            progress->hideProgress();
-        doc.status().setBusy(false);
-    };
-    ResultOf<std::unique_ptr<ReportForm>> loaded =
-        reportdetail::LoadBuilderTemplate(doc, BreakdownTemplate, context, [](const QString &path) -> QString {
-            return QStringLiteral("Could not load breakdown sheet template file (") + path +
-                   QStringLiteral("). Please try re-installing Torvanbridge.");
-        });
-    if (!loaded) {
-        finish();
-        return Result::failure(loaded.message());
-    }
-    BuiltReport built;
-    built.form = std::move(loaded.value());
+    reportdetail::BuilderRun run(doc, context, QStringLiteral("Creating breakdown sheets..."), doc.strips.count());
+    ResultOf<BuiltReport> loaded = run.load(BreakdownTemplate, [](const QString &path) -> QString {
+        return QStringLiteral("Could not load breakdown sheet template file (") + path +
+               QStringLiteral("). Please try re-installing Torvanbridge.");
+    });
+    if (!loaded)
+        return loaded;
+    BuiltReport built = std::move(loaded.value());
     TAlReport &report = built.report();
-    report.SetPicture(logo);
-    const ProductionValues &v = doc.values;
-    report.AddNamedValue(QStringLiteral("PictureField"), v.PictureTitle);
-    report.AddNamedValue(QStringLiteral("AddressField"), addressText(doc));
-    report.AddNamedValue(QStringLiteral("CompanyField"), v.Company);
-    report.AddNamedValue(QStringLiteral("RefField"), v.Reference);
-    report.AddNamedValue(QStringLiteral("DirField"), v.Director);
-    report.AddNamedValue(QStringLiteral("ProdField"), v.Producer);
+    pushProductionHeader(report, doc);
 
     QList<int> rows;
     if (options.all) {
@@ -104,10 +87,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
     for (int row : rows) {
         if (row < 1 || row > doc.strips.count())
             continue;
-        if (progress) {
-            progress->setPosition(row);
-            progress->keepAlive();
-        }
+        run.step(row);
         const StripRecord &strip = doc.strips[row];
         if (!strip.isScene())
             continue;
@@ -142,7 +122,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
             }
         }
     }
-    finish();
+    run.finish();
     built.nothingToPrint = built.rows == 0;
     return built;
 }
@@ -152,37 +132,19 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
 ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const ElementSummaryOptions &options,
                                                 const ReportBuildContext &context)
 {
-    doc.status().setBusy(true);
-    const QImage logo = LoadLogo(doc);
-    PrintingProgress *progress = context.progress;
-    showProgress(progress, QStringLiteral("Creating element summary..."), doc.elements.count());
-    auto finish = [&] {
-        if (progress)
-            progress->hideProgress();
-        doc.status().setBusy(false);
-    };
-    ResultOf<std::unique_ptr<ReportForm>> loaded =
-        reportdetail::LoadBuilderTemplate(doc, ElementSummaryTemplate, context, [](const QString &) -> QString {
-            // This message names no file, unlike the other reports' messages.
-            return QStringLiteral("Could not load element summary sheet template file. Please try re-installing "
-                                  "Torvanbridge.");
-        });
-    if (!loaded) {
-        finish();
-        return Result::failure(loaded.message());
-    }
-    BuiltReport built;
-    built.form = std::move(loaded.value());
+    reportdetail::BuilderRun run(doc, context, QStringLiteral("Creating element summary..."), doc.elements.count());
+    ResultOf<BuiltReport> loaded = run.load(ElementSummaryTemplate, [](const QString &) -> QString {
+        // This message names no file, unlike the other reports' messages.
+        return QStringLiteral("Could not load element summary sheet template file. Please try re-installing "
+                              "Torvanbridge.");
+    });
+    if (!loaded)
+        return loaded;
+    BuiltReport built = std::move(loaded.value());
     TAlReport &report = built.report();
-    report.SetPicture(logo);
-    const ProductionValues &v = doc.values;
-    report.AddNamedValue(QStringLiteral("PictureField"), v.PictureTitle);
-    report.AddNamedValue(QStringLiteral("AddressField"), addressText(doc));
-    report.AddNamedValue(QStringLiteral("CompanyField"), v.Company);
-    report.AddNamedValue(QStringLiteral("RefField"), v.Reference);
-    report.AddNamedValue(QStringLiteral("DirField"), v.Director);
-    report.AddNamedValue(QStringLiteral("ProdField"), v.Producer);
-    report.AddNamedValue(QStringLiteral("HeaderField"), QStringLiteral("Element summary - \"") + v.PictureTitle + u'"');
+    pushProductionHeader(report, doc);
+    report.AddNamedValue(QStringLiteral("HeaderField"),
+                         QStringLiteral("Element summary - \"") + doc.values.PictureTitle + u'"');
 
     // Each strip's assignments and day number, read once.
     const int count = doc.strips.count();
@@ -202,10 +164,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
     };
 
     for (int e = 1; e <= doc.elements.count(); ++e) {
-        if (progress) {
-            progress->setPosition(e);
-            progress->keepAlive();
-        }
+        run.step(e);
         const ElementRecord &element = doc.elements[e];
         const int category = categoryOf(element);
         if (!options.categories.contains(category))
@@ -221,7 +180,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
         ResultOf<int> firstDay = dayOf(first);
         ResultOf<int> lastDay = dayOf(last);
         if (!firstDay || !lastDay) {
-            finish();
+            run.finish();
             const QString message = firstDay ? lastDay.message() : firstDay.message();
             doc.prompter().error(message);
             return Result::failure(message);
@@ -234,7 +193,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
                 continue;
             ResultOf<int> day = dayOf(i);
             if (!day) {
-                finish();
+                run.finish();
                 doc.prompter().error(day.message());
                 return Result::failure(day.message());
             }
@@ -260,7 +219,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
                                                               ? QStringLiteral("Yes")
                                                               : QStringLiteral("No"));
     }
-    finish();
+    run.finish();
     return built;
 }
 

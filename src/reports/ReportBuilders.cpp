@@ -39,6 +39,57 @@ ResultOf<std::unique_ptr<ReportForm>> LoadBuilderTemplate(ScheduleDocument &doc,
     return loaded;
 }
 
+BuilderRun::BuilderRun(ScheduleDocument &doc, const ReportBuildContext &context, const QString &progressText,
+                       int maximum)
+    : m_doc(doc)
+    , m_context(context)
+{
+    doc.status().setBusy(true);
+    m_logo = LoadLogo(doc);
+    if (PrintingProgress *progress = context.progress) {
+        progress->setText(progressText);
+        progress->setMaximum(maximum);
+        progress->setPosition(0);
+        progress->showProgress();
+    }
+}
+
+BuilderRun::~BuilderRun()
+{
+    finish();
+}
+
+ResultOf<BuiltReport> BuilderRun::load(const char *fileName, const std::function<QString(const QString &path)> &message)
+{
+    ResultOf<std::unique_ptr<ReportForm>> loaded = LoadBuilderTemplate(m_doc, fileName, m_context, message);
+    if (!loaded) {
+        finish();
+        return Result::failure(loaded.message());
+    }
+    BuiltReport built;
+    built.form = std::move(loaded.value());
+    built.report().SetPicture(m_logo);
+    return built;
+}
+
+void BuilderRun::step(int position)
+{
+    if (PrintingProgress *progress = m_context.progress) {
+        progress->setPosition(position);
+        progress->keepAlive();
+    }
+}
+
+void BuilderRun::finish()
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    if (m_context.progress)
+        m_context.progress->hideProgress();
+    m_doc.status().setBusy(false);
+}
+
 QList<bool> AssignedFlags(ScheduleDocument &doc, int strip)
 {
     QList<bool> flags(doc.elements.count() + 1, false);

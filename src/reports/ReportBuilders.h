@@ -15,6 +15,7 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace tb {
@@ -118,6 +119,32 @@ namespace reportdetail {
 ResultOf<std::unique_ptr<ReportForm>> LoadBuilderTemplate(ScheduleDocument &doc, const char *fileName,
                                                           const ReportBuildContext &context,
                                                           const std::function<QString(const QString &path)> &message);
+
+// The frame a builder runs in: busy and the progress window from the start until
+// finish(), which the frame's end calls as well. The logo is read before the progress
+// shows, as each report has always done.
+class BuilderRun
+{
+public:
+    BuilderRun(ScheduleDocument &doc, const ReportBuildContext &context, const QString &progressText, int maximum);
+    ~BuilderRun();
+    BuilderRun(const BuilderRun &) = delete;
+    BuilderRun &operator=(const BuilderRun &) = delete;
+
+    // Loads the template into a fresh report with the logo set. A failure has been shown
+    // (see LoadBuilderTemplate) and has finished the run.
+    ResultOf<BuiltReport> load(const char *fileName, const std::function<QString(const QString &path)> &message);
+    // Moves the progress bar on and lets pending window messages run.
+    void step(int position);
+    // Hides the progress window and ends busy; only the first call counts.
+    void finish();
+
+private:
+    ScheduleDocument &m_doc;
+    const ReportBuildContext &m_context;
+    QImage m_logo;
+    bool m_finished = false;
+};
 
 // Which elements a strip is assigned, read the way IsAssigned reads the list: an item
 // that is no number ends the list there and shows "Error reading stip assignments!" once.

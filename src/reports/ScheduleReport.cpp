@@ -49,7 +49,7 @@ public:
     }
 
     // Returns a failure for a day field that is no number.
-    Result build(PrintingProgress *progress, bool *nothingToPrint, int *rows)
+    Result build(reportdetail::BuilderRun &run, bool *nothingToPrint, int *rows)
     {
         const StripTable &strips = m_doc.strips;
         const int count = strips.count();
@@ -69,10 +69,7 @@ public:
         const int lastDay = m_options.allDays ? 999 : m_options.toDay - 1;
         // 4. The day loop.
         while (i <= count && d <= lastDay) {
-            if (progress) {
-                progress->setPosition(i);
-                progress->keepAlive();
-            }
+            run.step(i);
             while (i <= count) {
                 ResultOf<int> day = FieldNumber(strips[i][StripField::DayNumber]);
                 if (!day)
@@ -274,41 +271,25 @@ private:
 ResultOf<BuiltReport> CreateSchedulePages(ScheduleDocument &doc, const ScheduleReportOptions &options,
                                           const ReportBuildContext &context)
 {
-    doc.status().setBusy(true);
-    const QImage logo = LoadLogo(doc);
-    const char *templateName = options.oneLine ? OnelineTemplate : ShootSchTemplate;
-    PrintingProgress *progress = context.progress;
-    if (progress) {
-        progress->setText(options.oneLine ? QStringLiteral("Creating one-line schedule...")
-                                          : QStringLiteral("Creating shooting schedule..."));
-        progress->setMaximum(doc.strips.count());
-        progress->setPosition(0);
-        progress->showProgress();
-    }
-    auto finish = [&] {
-        if (progress)
-            progress->hideProgress();
-        doc.status().setBusy(false);
-    };
-    ResultOf<std::unique_ptr<ReportForm>> loaded =
-        reportdetail::LoadBuilderTemplate(doc, templateName, context, [](const QString &path) -> QString {
+    reportdetail::BuilderRun run(doc, context,
+                                 options.oneLine ? QStringLiteral("Creating one-line schedule...")
+                                                 : QStringLiteral("Creating shooting schedule..."),
+                                 doc.strips.count());
+    ResultOf<BuiltReport> loaded =
+        run.load(options.oneLine ? OnelineTemplate : ShootSchTemplate, [](const QString &path) -> QString {
             return QStringLiteral("Could not load schedule template file (") + path +
                    QStringLiteral("). Please try re-installing Torvanbridge.");
         });
-    if (!loaded) {
-        finish();
-        return Result::failure(loaded.message());
-    }
-    BuiltReport built;
-    built.form = std::move(loaded.value());
+    if (!loaded)
+        return loaded;
+    BuiltReport built = std::move(loaded.value());
     TAlReport &report = built.report();
-    // 2. The logo and the titles.
-    report.SetPicture(logo);
+    // 2. The titles (the frame has set the logo).
     report.AddNamedValue(QStringLiteral("PictureField"), u'"' + doc.values.PictureTitle + u'"');
     report.AddNamedValue(QStringLiteral("CompanyField"), doc.values.Company);
     ScheduleBuilder builder(doc, options, report);
-    Result result = builder.build(progress, &built.nothingToPrint, &built.rows);
-    finish();
+    Result result = builder.build(run, &built.nothingToPrint, &built.rows);
+    run.finish();
     if (!result) {
         doc.prompter().error(result.message());
         return result;

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "reports/ReportBuilders.h"
-#include "reports/ReportPrinting.h"
+#include "reports/ReportPrintDialog.h"
 
-#include <QDialog>
-
-#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -14,11 +10,9 @@ class TfrmElUse;
 
 namespace tb {
 
-class ScheduleDocument;
-
 // "Print element summary": one row per element of the ticked categories, with its first
 // and last day, the span and the days used.
-class TfrmElUse : public QDialog
+class TfrmElUse : public ReportPrintDialog
 {
     Q_OBJECT
 
@@ -27,28 +21,16 @@ public:
     ~TfrmElUse() override;
 
     ElementSummaryOptions options() const;
-    ReportPrinterChoice &printerChoice() { return m_printer; }
-    std::function<void(const QString &page)> showHelp;
 
     Ui::TfrmElUse &form() { return *ui; }
 
-public Q_SLOTS:
-    void done(int result) override;
-
 protected:
-    void showEvent(QShowEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void fillChoices() override;
+    ResultOf<BuiltReport> buildPages(const ReportBuildContext &context) override;
+    QString pdfFileName() const override;
 
 private:
-    void FormShow();
-    void PrintButClick();
-    void PreviewButClick();
-    bool CreatePages();
-
-    ScheduleDocument &m_doc;
     std::unique_ptr<Ui::TfrmElUse> ui;
-    ReportPrinterChoice m_printer;
-    BuiltReport m_built;
 };
 
 } // namespace tb

@@ -28,37 +28,24 @@ QString band(const QString &name, int top, int height, const QString &type, cons
 {
     return QStringLiteral("  object %1: tAlBand\n    Top = %2\n    Width = 500\n    Height = %3\n"
                           "    BandType = %4\n%5%6  end\n")
-        .arg(name)
-        .arg(top)
-        .arg(height)
-        .arg(type, extra, children);
+        .arg(name, QString::number(top), QString::number(height), type, extra, children);
 }
 
 QString fieldOn(const QString &name, int left = 0, int top = 0, const QString &extra = {})
 {
     return QStringLiteral("    object %1: TAlField\n      Left = %2\n      Top = %3\n      Width = 100\n"
                           "      Height = 14\n%4    end\n")
-        .arg(name)
-        .arg(left)
-        .arg(top)
-        .arg(extra);
+        .arg(name, QString::number(left), QString::number(top), extra);
 }
 
 std::unique_ptr<ReportForm> makeForm(const QString &bands)
 {
-    const QString text =
-        QStringLiteral("object F: TForm\n  object R: TAlReport\n  end\n") + bands + QStringLiteral("end\n");
-    ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("test.dfm"));
-    if (!parsed) {
-        qWarning() << parsed.message();
-        return nullptr;
-    }
-    auto built = BuildReportForm(parsed.value(), QStringLiteral("test.dfm"));
-    if (!built) {
+    ResultOf<DfmObject> parsed =
+        ParseDfmText("object F: TForm\n  object R: TAlReport\n  end\n" + bands + "end\n", "t.dfm");
+    auto built = parsed ? BuildReportForm(parsed.value(), "t.dfm") : Result::failure(parsed.message());
+    if (!built)
         qWarning() << built.message();
-        return nullptr;
-    }
-    return std::move(built.value());
+    return built ? std::move(built.value()) : nullptr;
 }
 
 // The bands of each page by name, e.g. "Head Col D D | Head Col D Foot".
@@ -82,18 +69,66 @@ const PlacedControl *controlOf(const PlacedBand &band, const QString &name)
     return nullptr;
 }
 
-LayoutPage pageOf(int height, int width = 10000)
+LayoutPage pageOf(int height)
 {
-    LayoutPage page;
-    page.pageWidth = width;
-    page.pageHeight = height;
-    return page;
+    return {10000, height};
 }
 
-void pushRows(TAlReport &report, const QString &field, int count)
+// Pushes values by a short description: "N*3" pushes 1, 2, 3 to N; "Day=a,b" pushes a and
+// b to Day; several are separated by ";".
+void pushValues(TAlReport &report, const QString &spec)
 {
-    for (int i = 1; i <= count; ++i)
-        report.AddNamedValue(field, QString::number(i));
+    for (const QString &part : spec.split(u';', Qt::SkipEmptyParts)) {
+        const qsizetype star = part.indexOf(u'*');
+        if (star > 0) {
+            for (int i = 1; i <= part.mid(star + 1).toInt(); ++i)
+                report.AddNamedValue(part.left(star), QString::number(i));
+        } else {
+            const qsizetype eq = part.indexOf(u'=');
+            for (const QString &value : part.mid(eq + 1).split(u','))
+                report.AddNamedValue(part.left(eq), value);
+        }
+    }
+}
+
+QString link(const QString &header, const QString &footer)
+{
+    return QStringLiteral("  object L: TAlDetailLink\n    GroupHeader = %1\n%2    GroupBand = D\n"
+                          "    DataSource = Day\n  end\n")
+        .arg(header, footer.isEmpty() ? QString() : QStringLiteral("    GroupFooter = %1\n").arg(footer));
+}
+
+// Page header, column titles, detail rows and a page footer.
+QString pagedBands()
+{
+    return band("Head", 0, 20, "alr_PageHeader") + band("Col", 20, 10, "alr_DetailHeader") +
+           band("D", 30, 30, "alr_Detail", {}, fieldOn("N")) + band("Foot", 60, 10, "alr_PageFooter");
+}
+
+// Day groups around the detail rows, headed by column titles.
+QString groupBands(bool withFooter)
+{
+    return band("Col", 0, 10, "alr_DetailHeader") + band("D", 10, 30, "alr_Detail", {}, fieldOn("N")) +
+           band("GH", 100, 10, "alr_GroupHeader", {}, fieldOn("Day")) +
+           (withFooter ? band("GF", 110, 10, "alr_GroupFooter", {}, fieldOn("DayEnd")) : QString()) +
+           link("GH", withFooter ? "GF" : "");
+}
+
+// A template laid out with its values, kept together as the layout points into the form.
+struct Laid
+{
+    std::unique_ptr<ReportForm> form;
+    ReportLayout layout;
+};
+
+Laid layOut(const QString &bands, const QString &values, int height)
+{
+    Laid laid{makeForm(bands), {}};
+    if (laid.form) {
+        pushValues(*laid.form->report, values);
+        laid.layout = LayOutReport(*laid.form->report, pageOf(height));
+    }
+    return laid;
 }
 
 } // namespace
@@ -105,19 +140,13 @@ class TestAlLayout : public QObject
 private Q_SLOTS:
     void scaling_data();
     void scaling();
-    void detailWithoutValuesPrintsOnce();
-    void detailRepeatsWhileAnyFieldHasAValue();
-    void pageBreaksRepeatDetailHeaders();
-    void footersSitAtTheUsableBottom();
-    void titleAndFootersOnlyGiveOnePage();
+    void bandsOnPages_data();
+    void bandsOnPages();
+    void detailRowsTakeTheirValues();
+    void repeatedHeadersAndFootersPlacement();
     void sameNameFieldsOnlyFirstReceives();
     void columnsFillLeftToRight();
-    void groupBreaksThroughADetailLink();
-    void groupHeaderRepeatsOnANewPage();
-    void lastRowKeepsItsGroupFooter();
-    void firstAndLaterPageHeaders();
-    void newPageBand();
-    void tooTallBandStillPrints();
+    void groupBandsShowTheirRow();
     void marginsAndPrinterOffsets();
     void expandGrowsTheBand();
     void clipModes();
@@ -153,26 +182,76 @@ void TestAlLayout::scaling()
     QCOMPARE(MillimetresToDots(10, 600), 237);     // 236.7 + 0.5
 }
 
-void TestAlLayout::detailWithoutValuesPrintsOnce()
+void TestAlLayout::bandsOnPages_data()
 {
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name")));
-    QVERIFY(form);
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
-    QCOMPARE(bandNames(layout), QStringLiteral("D"));
-    QCOMPARE(controlOf(layout.pages[0].bands[0], "Name")->text, QString());
-    QVERIFY(controlOf(layout.pages[0].bands[0], "Name")->lines.isEmpty());
+    QTest::addColumn<QString>("bands");
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QString>("pages"); // the bands of each page by name
+    const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
+    QTest::newRow("detail without values prints once") << detail << "" << 10000 << "D";
+    QTest::newRow("detail repeats while any field has a value")
+        << band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)) << "A*2;B*4" << 10000 << "D D D D";
+    // Room for the header, the column titles, three rows and the footer, exactly.
+    QTest::newRow("page breaks repeat detail headers")
+        << pagedBands() << "N*10" << H20 + H10 + 3 * H30 + H10 + 1
+        << "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot";
+    QTest::newRow("title and footer only")
+        << band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Title Foot";
+    QTest::newRow("footers alone make a page") << band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Foot";
+    QTest::newRow("first and later page headers")
+        << band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
+               band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
+               band("Every", 20, 10, "alr_PageHeader") +
+               band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
+               band("D", 30, 30, "alr_Detail", {}, fieldOn("N"))
+        << "N*3" << 2 * H10 + 2 * H30 + 1 << "First Every D D | Later Every D";
+    QTest::newRow("new page band") << band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
+                                          band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) +
+                                          band("Foot", 40, 10, "alr_PageFooter") +
+                                          band("Closing", 30, 10, "alr_ReportFooter")
+                                   << "N*2" << 5000 << "Title Foot | D D Closing Foot";
+    // Each row is taller than what is left below the header: it starts a new page and is
+    // drawn there anyway, once, rather than asking for pages for ever.
+    QTest::newRow("too tall band still prints")
+        << band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")) << "N*2"
+        << H20 + H30 / 2 << "Head D | Head D";
+    QTest::newRow("group breaks through a detail link")
+        << groupBands(true) << "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3" << 10000 << "Col GH D D GF GH D GF GH D D GF";
+    // Column titles, the group header and two rows per page.
+    QTest::newRow("group header repeats on a new page")
+        << groupBands(false) << "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2" << 2 * H10 + 2 * H30 + 1
+        << "Col GH D D | Col GH D D | Col GH D";
+    // Room for two rows but not for the footer after the second: the second row goes to
+    // the next page with its footer, rather than leave a footer alone there.
+    QTest::newRow("last row keeps its group footer")
+        << groupBands(true) << "N*2;Day=Day 1,Day 1" << 2 * H10 + 2 * H30 + 1 << "Col GH D | Col GH D GF";
+    QTest::newRow("columns") << band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                                    band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n")
+                             << "N*4" << 5000 << "D D D D Foot Foot";
 }
 
-void TestAlLayout::detailRepeatsWhileAnyFieldHasAValue()
+void TestAlLayout::bandsOnPages()
 {
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    pushRows(report, "A", 2);
-    pushRows(report, "B", 4);
-    const ReportLayout layout = LayOutReport(report, pageOf(10000));
-    QCOMPARE(bandNames(layout), QStringLiteral("D D D D"));
-    const auto &bands = layout.pages[0].bands;
+    QFETCH(QString, bands);
+    QFETCH(QString, values);
+    QFETCH(int, height);
+    QFETCH(QString, pages);
+    const Laid laid = layOut(bands, values, height);
+    QVERIFY(laid.form);
+    QCOMPARE(bandNames(laid.layout), pages);
+    // A second run starts again from the first values.
+    QCOMPARE(bandNames(LayOutReport(*laid.form->report, pageOf(height))), pages);
+}
+
+void TestAlLayout::detailRowsTakeTheirValues()
+{
+    const Laid empty = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name")), "", 10000);
+    QCOMPARE(controlOf(empty.layout.pages[0].bands[0], "Name")->text, QString());
+    QVERIFY(controlOf(empty.layout.pages[0].bands[0], "Name")->lines.isEmpty());
+
+    const Laid laid = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000);
+    const auto &bands = laid.layout.pages[0].bands;
     QCOMPARE(controlOf(bands[1], "A")->text, QStringLiteral("2"));
     QCOMPARE(controlOf(bands[3], "A")->text, QString());
     QCOMPARE(controlOf(bands[3], "B")->text, QStringLiteral("4"));
@@ -180,49 +259,25 @@ void TestAlLayout::detailRepeatsWhileAnyFieldHasAValue()
         QCOMPARE(bands[i].rect.top(), i * H20);
         QCOMPARE(bands[i].row, i);
     }
-    // A second run starts again from the first values.
-    QCOMPARE(bandNames(LayOutReport(report, pageOf(10000))), QStringLiteral("D D D D"));
 }
 
-void TestAlLayout::pageBreaksRepeatDetailHeaders()
+void TestAlLayout::repeatedHeadersAndFootersPlacement()
 {
-    auto form = makeForm(band("Head", 0, 20, "alr_PageHeader") + band("Col", 20, 10, "alr_DetailHeader") +
-                         band("D", 30, 30, "alr_Detail", {}, fieldOn("N")) + band("Foot", 60, 10, "alr_PageFooter"));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 10);
-    // Room for the header, the column titles, three rows and the footer, exactly.
     const int height = H20 + H10 + 3 * H30 + H10 + 1;
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(height));
-    QCOMPARE(bandNames(layout), QStringLiteral("Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | "
-                                               "Head Col D Foot"));
-    const auto &second = layout.pages[1].bands;
+    const Laid laid = layOut(pagedBands(), "N*10", height);
+    const auto &second = laid.layout.pages[1].bands;
     QCOMPARE(second[1].rect.top(), H20);
     QCOMPARE(second[2].rect.top(), H20 + H10);
     QCOMPARE(controlOf(second[2], "N")->text, QStringLiteral("4"));
-}
+    QCOMPARE(second[5].rect.top(), height - 1 - H10); // the footer at the usable bottom
 
-void TestAlLayout::footersSitAtTheUsableBottom()
-{
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) + band("Foot1", 40, 10, "alr_PageFooter") +
-                         band("Foot2", 50, 20, "alr_PageFooter"));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 1);
-    const int height = 5000;
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(height));
-    QCOMPARE(bandNames(layout), QStringLiteral("D Foot1 Foot2"));
-    const int usableBottom = height - 1 - H10 - H20;
-    QCOMPARE(layout.pages[0].bands[1].rect.top(), usableBottom);
-    QCOMPARE(layout.pages[0].bands[2].rect.top(), usableBottom + H10);
-}
-
-void TestAlLayout::titleAndFootersOnlyGiveOnePage()
-{
-    auto form = makeForm(band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter"));
-    QVERIFY(form);
-    QCOMPARE(bandNames(LayOutReport(*form->report, pageOf(5000))), QStringLiteral("Title Foot"));
-    // With no band to print at all, the footers still make one page.
-    auto footersOnly = makeForm(band("Foot", 40, 10, "alr_PageFooter"));
-    QCOMPARE(bandNames(LayOutReport(*footersOnly->report, pageOf(5000))), QStringLiteral("Foot"));
+    // Footers stack upward from the usable bottom.
+    const Laid footers = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
+                                    band("Foot1", 40, 10, "alr_PageFooter") + band("Foot2", 50, 20, "alr_PageFooter"),
+                                "N*1", 5000);
+    const int usableBottom = 5000 - 1 - H10 - H20;
+    QCOMPARE(footers.layout.pages[0].bands[1].rect.top(), usableBottom);
+    QCOMPARE(footers.layout.pages[0].bands[2].rect.top(), usableBottom + H10);
 }
 
 void TestAlLayout::sameNameFieldsOnlyFirstReceives()
@@ -245,13 +300,10 @@ void TestAlLayout::sameNameFieldsOnlyFirstReceives()
 
 void TestAlLayout::columnsFillLeftToRight()
 {
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
-                         band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 4);
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(5000));
-    QCOMPARE(bandNames(layout), QStringLiteral("D D D D Foot Foot"));
-    const auto &b = layout.pages[0].bands;
+    const Laid laid = layOut(band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                                 band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
+                             "N*4", 5000);
+    const auto &b = laid.layout.pages[0].bands;
     const int step = MillimetresToDots(20, 1200);
     QCOMPARE(b[0].rect.topLeft(), QPoint(0, 0));
     QCOMPARE(b[1].rect.topLeft(), QPoint(step, 0));
@@ -262,103 +314,20 @@ void TestAlLayout::columnsFillLeftToRight()
     QCOMPARE(b[5].rect.topLeft(), QPoint(step, 2 * H20));
 }
 
-void TestAlLayout::groupBreaksThroughADetailLink()
+void TestAlLayout::groupBandsShowTheirRow()
 {
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("Scene")) +
-                         band("GH", 100, 10, "alr_GroupHeader", {}, fieldOn("Day")) +
-                         band("GF", 110, 10, "alr_GroupFooter", {}, fieldOn("DayEnd")) +
-                         QStringLiteral("  object L: TAlDetailLink\n    GroupHeader = GH\n    GroupFooter = GF\n"
-                                        "    GroupBand = D\n    DataSource = Day\n  end\n"));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    const QStringList days = {"Day 1", "Day 1", "Day 2", "Day 3", "Day 3"};
-    for (int i = 0; i < days.size(); ++i) {
-        report.AddNamedValue("Scene", QString::number(i + 1));
-        report.AddNamedValue("Day", days[i]);
-        report.AddNamedValue("DayEnd", "End of " + days[i]);
-    }
-    const ReportLayout layout = LayOutReport(report, pageOf(10000));
-    QCOMPARE(bandNames(layout), QStringLiteral("GH D D GF GH D GF GH D D GF"));
-    const auto &b = layout.pages[0].bands;
     // The group bands show the row that opens or closes the group.
-    QCOMPARE(controlOf(b[0], "Day")->text, QStringLiteral("Day 1"));
-    QCOMPARE(controlOf(b[3], "DayEnd")->text, QStringLiteral("End of Day 1"));
-    QCOMPARE(controlOf(b[4], "Day")->text, QStringLiteral("Day 2"));
-    QCOMPARE(controlOf(b[10], "DayEnd")->text, QStringLiteral("End of Day 3"));
-    QCOMPARE(b[1].rect.top(), H10);
-}
-
-void TestAlLayout::groupHeaderRepeatsOnANewPage()
-{
-    auto form = makeForm(band("Col", 0, 10, "alr_DetailHeader") + band("D", 10, 30, "alr_Detail", {}, fieldOn("N")) +
-                         band("GH", 100, 10, "alr_GroupHeader", {}, fieldOn("Day")) +
-                         QStringLiteral("  object L: TAlDetailLink\n    GroupHeader = GH\n    GroupBand = D\n"
-                                        "    DataSource = Day\n  end\n"));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    for (int i = 0; i < 5; ++i) {
-        report.AddNamedValue("N", QString::number(i + 1));
-        report.AddNamedValue("Day", i < 4 ? "Day 1" : "Day 2");
-    }
-    // Column titles, the group header and two rows per page.
-    const int height = H10 + H10 + 2 * H30 + 1;
-    const ReportLayout layout = LayOutReport(report, pageOf(height));
-    QCOMPARE(bandNames(layout), QStringLiteral("Col GH D D | Col GH D D | Col GH D"));
-    QCOMPARE(controlOf(layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
-    QCOMPARE(controlOf(layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
-}
-
-void TestAlLayout::lastRowKeepsItsGroupFooter()
-{
-    auto form =
-        makeForm(band("Col", 0, 10, "alr_DetailHeader") + band("D", 10, 30, "alr_Detail", {}, fieldOn("N")) +
-                 band("GH", 100, 10, "alr_GroupHeader", {}, fieldOn("Day")) + band("GF", 110, 10, "alr_GroupFooter") +
-                 QStringLiteral("  object L: TAlDetailLink\n    GroupHeader = GH\n    GroupFooter = GF\n"
-                                "    GroupBand = D\n    DataSource = Day\n  end\n"));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    for (int i = 0; i < 2; ++i) {
-        report.AddNamedValue("N", QString::number(i + 1));
-        report.AddNamedValue("Day", "Day 1");
-    }
-    // Room for two rows but not for the footer after the second: the second row goes to
-    // the next page with its footer, rather than leave a footer alone there.
-    const int height = H10 + H10 + 2 * H30 + 1;
-    QCOMPARE(bandNames(LayOutReport(report, pageOf(height))), QStringLiteral("Col GH D | Col GH D GF"));
-}
-
-void TestAlLayout::firstAndLaterPageHeaders()
-{
-    auto form = makeForm(band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
-                         band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
-                         band("Every", 20, 10, "alr_PageHeader") +
-                         band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
-                         band("D", 30, 30, "alr_Detail", {}, fieldOn("N")));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 3);
-    const int height = 2 * H10 + 2 * H30 + 1;
-    QCOMPARE(bandNames(LayOutReport(*form->report, pageOf(height))), QStringLiteral("First Every D D | Later Every D"));
-}
-
-void TestAlLayout::newPageBand()
-{
-    auto form = makeForm(band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
-                         band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) + band("Foot", 40, 10, "alr_PageFooter") +
-                         band("Closing", 30, 10, "alr_ReportFooter"));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 2);
-    QCOMPARE(bandNames(LayOutReport(*form->report, pageOf(5000))), QStringLiteral("Title Foot | D D Closing Foot"));
-}
-
-void TestAlLayout::tooTallBandStillPrints()
-{
-    auto form = makeForm(band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")));
-    QVERIFY(form);
-    pushRows(*form->report, "N", 2);
-    // Each row is taller than what is left below the header: it starts a new page and is
-    // drawn there anyway, once, rather than asking for pages for ever.
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(H20 + H30 / 2));
-    QCOMPARE(bandNames(layout), QStringLiteral("Head D | Head D"));
+    const Laid laid = layOut(groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3;DayEnd=E1,E1,E2,E3,E3", 10000);
+    const auto &b = laid.layout.pages[0].bands; // Col GH D D GF GH D GF GH D D GF
+    QCOMPARE(controlOf(b[1], "Day")->text, QStringLiteral("Day 1"));
+    QCOMPARE(controlOf(b[4], "DayEnd")->text, QStringLiteral("E1"));
+    QCOMPARE(controlOf(b[5], "Day")->text, QStringLiteral("Day 2"));
+    QCOMPARE(controlOf(b[11], "DayEnd")->text, QStringLiteral("E3"));
+    QCOMPARE(b[2].rect.top(), 2 * H10);
+    // A group header repeated on a new page shows the group's row again.
+    const Laid paged = layOut(groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2", 2 * H10 + 2 * H30 + 1);
+    QCOMPARE(controlOf(paged.layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
+    QCOMPARE(controlOf(paged.layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
 }
 
 void TestAlLayout::marginsAndPrinterOffsets()
@@ -438,7 +407,7 @@ void TestAlLayout::systemFields()
     static_cast<TAlSysField *>(form->find("Salr_Formname"))->formName = QStringLiteral("test.dfm");
     TAlReport &report = *form->report;
     report.now = QDateTime(QDate(2027, 4, 5), QTime(9, 30));
-    pushRows(report, "N", 3);
+    pushValues(report, "N*3");
     const ReportLayout layout = LayOutReport(report, pageOf(H20 * 2 + ScaleToOutput(80, 1200, 96) + 1));
     QCOMPARE(layout.pages.size(), 2);
     const PlacedBand &foot = layout.pages[1].bands.last();
@@ -482,7 +451,7 @@ void TestAlLayout::previewAndPrintBreakAlike()
     auto form = makeForm(band("Head", 0, 40, "alr_PageHeader") + band("Col", 40, 12, "alr_DetailHeader") +
                          band("D", 52, 17, "alr_Detail", {}, fieldOn("N")) + band("Foot", 70, 23, "alr_PageFooter"));
     QVERIFY(form);
-    pushRows(*form->report, "N", 400);
+    pushValues(*form->report, "N*400");
     // A printer with unprintable borders, as a PDF writer with margins stands for one.
     const QString path = TempPath("breaks.pdf");
     QPdfWriter writer(path);
@@ -506,7 +475,7 @@ void TestAlLayout::pdfIsWrittenWholeOrNotAtAll()
 {
     auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")));
     QVERIFY(form);
-    pushRows(*form->report, "N", 3);
+    pushValues(*form->report, "N*3");
     const QString path = TempPath("report.pdf");
     QVERIFY(WriteReportPdf(*form->report, path, tPapersize::alr_Letter).ok());
     QFile pdf(path);
