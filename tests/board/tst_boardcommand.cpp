@@ -12,20 +12,11 @@ using namespace tb::test;
 
 namespace {
 
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
+using Run = tb::test::CliRun;
 
 Run cli(const QStringList &args)
 {
-    QProcess process;
-    process.start(QStringLiteral(TB_CLI_PATH), QStringList{"--locale", "en_US"} + args);
-    process.waitForFinished(60000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return tb::test::RunCli(args);
 }
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");

@@ -8,26 +8,11 @@ using namespace tb::test;
 
 namespace {
 
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
+using Run = tb::test::CliRun;
 
 Run cli(const QStringList &args)
 {
-    QProcess process;
-    process.start(QStringLiteral(TB_CLI_PATH), QStringList{"--locale", "en_US"} + args);
-    process.waitForFinished(60000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    return tb::test::RunCli(args);
 }
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
@@ -44,7 +29,7 @@ private Q_SLOTS:
         const QString out = TempPath("example-resaved.tbf");
         const Run run = cli({"resave", Example, "-o", out});
         QCOMPARE(run.code, 0);
-        QCOMPARE(readAll(out), readAll(Example));
+        QCOMPARE(ReadFileBytes(out), ReadFileBytes(Example));
     }
 
     void info()

@@ -20,14 +20,6 @@ const QString OpenError = QStringLiteral(
 const QString HeaderError =
     QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return {};
-    return f.readAll();
-}
-
 void writeAll(const QString &path, const QByteArray &bytes)
 {
     QFile f(path);
@@ -95,7 +87,7 @@ private Q_SLOTS:
         ScheduleDocument doc;
         const QString path = TempPath("empty.tbf");
         QVERIFY(SaveDocument(doc, path).ok());
-        const QByteArray bytes = readAll(path);
+        const QByteArray bytes = ReadFileBytes(path);
         QVERIFY(bytes.endsWith("\r\n"));
         const QList<QByteArray> lines = bytes.chopped(1).split('\n');
         QCOMPARE(lines.size(), 223);
@@ -134,8 +126,8 @@ private Q_SLOTS:
         QVERIFY(OpenDocument(reopened, first).ok());
         QCOMPARE(ScheduleFileLines(reopened), before);
         QVERIFY(SaveDocument(reopened, second).ok());
-        const QByteArray a = readAll(first);
-        QCOMPARE(readAll(second), a);
+        const QByteArray a = ReadFileBytes(first);
+        QCOMPARE(ReadFileBytes(second), a);
         QCOMPARE(a.count('\n'), 223 + 20 * (doc.strips.count() + doc.elements.count()));
     }
 
@@ -155,7 +147,7 @@ private Q_SLOTS:
         doc.values.PictureTitle = title;
         const QString path = TempPath("enc.tbf");
         QVERIFY(SaveDocument(doc, path).ok());
-        const QByteArray bytes = readAll(path);
+        const QByteArray bytes = ReadFileBytes(path);
         QCOMPARE(bytes.split('\n').at(2), expectedLine + '\r');
         QVERIFY(!bytes.startsWith("\xEF\xBB\xBF"));
         ScheduleDocument reopened;
@@ -184,7 +176,7 @@ private Q_SLOTS:
         QVERIFY(OpenDocument(reopened, in).ok());
         QCOMPARE(reopened.values.PictureTitle, QString::fromUtf8("René’s \u0081 Film"));
         QVERIFY(SaveDocument(reopened, out).ok());
-        QCOMPARE(readAll(out), bytes);
+        QCOMPARE(ReadFileBytes(out), bytes);
     }
 
     void openProgressAndStatus()
@@ -366,7 +358,7 @@ private Q_SLOTS:
         const bool folderLocked = !QFile(TempPath("probe")).open(QIODevice::WriteOnly); // root ignores permissions
         if (folderLocked) {
             QVERIFY(!SaveDocument(doc, existing).ok());
-            QCOMPARE(readAll(existing), QByteArray("precious"));
+            QCOMPARE(ReadFileBytes(existing), QByteArray("precious"));
         }
         QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }

@@ -76,9 +76,9 @@ LayoutPage pageOf(int height)
 
 // Pushes values by a short description: "N*3" pushes 1, 2, 3 to N; "Day=a,b" pushes a and
 // b to Day; several are separated by ";".
-void pushValues(TAlReport &report, const QString &spec)
+void pushValues(TAlReport &report, const QString &values)
 {
-    for (const QString &part : spec.split(u';', Qt::SkipEmptyParts)) {
+    for (const QString &part : values.split(u';', Qt::SkipEmptyParts)) {
         const qsizetype star = part.indexOf(u'*');
         if (star > 0) {
             for (int i = 1; i <= part.mid(star + 1).toInt(); ++i)

@@ -10,20 +10,11 @@ using namespace tb::test;
 
 namespace {
 
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
+using Run = tb::test::CliRun;
 
 Run cli(const QStringList &args)
 {
-    QProcess process;
-    process.start(QStringLiteral(TB_CLI_PATH), QStringList{"--locale", "en_US"} + args);
-    process.waitForFinished(120000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return tb::test::RunCli(args);
 }
 
 QByteArray head(const QString &path)

@@ -10,11 +10,7 @@ using namespace tb::test;
 
 namespace {
 
-struct Run
-{
-    int code = -1;
-    QString err;
-};
+using Run = CliRun;
 
 // Scenes 1 (3 pages), 2 (4 pages), a divider, scene 3 (12 pages), a banner and a
 // divider; Friday start, Saturdays and Sundays off.
@@ -41,10 +37,7 @@ Run cli(QStringList args, const QString &out)
 {
     args.insert(1, Input());
     args << "-o" << out;
-    QProcess process;
-    process.start(QStringLiteral(TB_CLI_PATH), QStringList{"--locale", "en_US"} + args);
-    process.waitForFinished(60000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
+    return RunCli(args);
 }
 
 } // namespace

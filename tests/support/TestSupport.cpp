@@ -3,6 +3,8 @@
 #include "document/Records.h"
 
 #include <QDir>
+#include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 namespace tb::test {
@@ -69,6 +71,21 @@ QString TempPath(const QString &fileName)
 {
     static QTemporaryDir dir;
     return QDir(dir.path()).filePath(fileName);
+}
+
+CliRun RunCli(const QStringList &args)
+{
+    QProcess process;
+    process.start(QStringLiteral(TB_CLI_PATH), QStringList{"--locale", "en_US"} + args);
+    process.waitForFinished(60000);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QByteArray ReadFileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace tb::test

@@ -77,4 +77,17 @@ QString Kinds(const ScheduleDocument &doc);
 // A path inside a fresh temporary folder that lives until the test program ends.
 QString TempPath(const QString &fileName);
 
+// What a run of the command-line tool gave back.
+struct CliRun
+{
+    int code = -1;
+    QString out;
+    QString err;
+};
+// Runs torvanbridge-cli with the arguments, in the en_US locale, and waits for it.
+CliRun RunCli(const QStringList &args);
+
+// The bytes of a file; empty when it cannot be read.
+QByteArray ReadFileBytes(const QString &path);
+
 } // namespace tb::test
