@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 namespace tb {
@@ -32,9 +33,26 @@ const QString &numberText(int n)
     return scratch;
 }
 
+// The strip kinds as the single characters field 7 holds.
+constexpr char16_t SceneKind = u'1';
+constexpr char16_t DividerKind = u'2';
+constexpr char16_t RestDayKind = u'3';
+constexpr char16_t BannerKind = u'4';
+
+// Texts written by this pass are usually the very same shared string as last time, so
+// the storage is compared before the characters.
+bool sameText(const QString &a, const QString &b)
+{
+    return a.size() == b.size() &&
+           (a.constData() == b.constData() || std::memcmp(a.constData(), b.constData(), a.size() * sizeof(QChar)) == 0);
+}
+
 void setIfChanged(StripTable &strips, int i, StripField field, const QString &value)
 {
-    if (strips[i][field] != value) // const read first: no detach when equal
+    // Read through the const table: a write access would first check the table for
+    // sharing, and most fields keep their text.
+    const StripTable &rows = strips;
+    if (!sameText(rows[i][field], value))
         strips[i].set(field, value);
 }
 
@@ -105,12 +123,14 @@ void RecalculateDays(ScheduleDocument &doc)
     float p = 0.0f; // page sums are kept in single precision, as the totals always were
 
     for (int i = 1; i <= strips.count(); ++i) {
-        const QString &kind = rows[i].kind();
-        if (kind == StripKinds::Scene) {
+        const QString &kindText = rows[i].kind();
+        // The kind is one digit; anything else is a row of no known kind.
+        const char16_t kind = kindText.size() == 1 ? kindText.front().unicode() : u'\0';
+        if (kind == SceneKind) {
             p = float(double(p) + PageLengthOf(rows[i]));
             setIfChanged(strips, i, StripField::DayNumber, numberText(d));
             setIfChanged(strips, i, StripField::ShootDayNumber, numberText(s));
-        } else if (kind == StripKinds::DayDivider) {
+        } else if (kind == DividerKind) {
             ++doc.days.dividers;
             ++d;
             ++s;
@@ -119,7 +139,7 @@ void RecalculateDays(ScheduleDocument &doc)
             setIfChanged(strips, i, StripField::PageLength, legacy::SingleToText(p));
             setIfChanged(strips, i, StripField::SceneNumber, hasStart ? DayDateText(start, d) : QString());
             p = 0.0f;
-        } else if (kind == StripKinds::Banner) {
+        } else if (kind == BannerKind) {
             ++doc.days.banners;
             // A banner of n days counts n production days but only one shooting-day
             // number; schedules have always been numbered this way.
@@ -138,8 +158,7 @@ void RecalculateDays(ScheduleDocument &doc)
         // strip of the board. "D" tests the weekday (1 Sunday .. 7 Saturday) of the day
         // just ended, so that the rest day itself falls on the weekday the user ticked
         // (1 Monday .. 7 Sunday); "S" tests the day number modulo 7.
-        if ((byWeekday || byCycle) && i < strips.count() &&
-            (kind == StripKinds::DayDivider || kind == StripKinds::AutoRestDay)) {
+        if ((byWeekday || byCycle) && i < strips.count() && (kind == DividerKind || kind == RestDayKind)) {
             const int digit = byWeekday ? legacy::DayOfWeek(legacy::SerialToDate(start + d - 1)) : d % 7;
             if (rule.contains(QChar(u'0' + digit))) {
                 Result inserted = strips.insertRows(i + 1, 1);
