@@ -1,4 +1,5 @@
 #include "TfrmAddElement.h"
+#include "widgets/HelpWindow.h"
 
 #include "ui_TfrmAddElement.h"
 
@@ -6,7 +7,6 @@
 
 #include "document/ScheduleDocument.h"
 
-#include <QShortcut>
 #include <QShowEvent>
 
 namespace tb {
@@ -24,8 +24,7 @@ TfrmAddElement::TfrmAddElement(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmAddElement::CancelButClick);
     // Only a choice made by the user replaces the ID; filling the form does not.
     connect(m_ui->CatCombo, &QComboBox::activated, this, &TfrmAddElement::CatComboChange);
-    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpRequested(HelpPage); });
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmAddElement::~TfrmAddElement() = default;

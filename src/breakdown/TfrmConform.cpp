@@ -1,4 +1,5 @@
 #include "TfrmConform.h"
+#include "widgets/HelpWindow.h"
 
 #include "ui_TfrmConform.h"
 
@@ -7,7 +8,6 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QShortcut>
 #include <QShowEvent>
 
 namespace tb {
@@ -44,8 +44,7 @@ TfrmConform::TfrmConform(ScheduleDocument &doc, QWidget *parent)
     grid->installEventFilter(this);
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmConform::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmConform::CancelButClick);
-    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpRequested(HelpPage); });
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmConform::~TfrmConform() = default;

@@ -1,4 +1,5 @@
 #include "TfrmProdInfo.h"
+#include "widgets/HelpWindow.h"
 
 #include "ui_TfrmProdInfo.h"
 
@@ -11,7 +12,6 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QPixmap>
-#include <QShortcut>
 #include <QShowEvent>
 
 namespace tb {
@@ -39,8 +39,7 @@ TfrmProdInfo::TfrmProdInfo(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmProdInfo::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmProdInfo::CancelbutClick);
     connect(m_ui->LogoBut, &QPushButton::clicked, this, &TfrmProdInfo::LogoButClick);
-    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpRequested(HelpPage); });
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmProdInfo::~TfrmProdInfo() = default;

@@ -1,4 +1,5 @@
 #include "TfrmSort.h"
+#include "widgets/HelpWindow.h"
 
 #include "ui_TfrmSort.h"
 
@@ -8,7 +9,6 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QShortcut>
 #include <QShowEvent>
 
 namespace tb {
@@ -53,8 +53,7 @@ TfrmSort::TfrmSort(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->UnSortBut, &QPushButton::clicked, this, &TfrmSort::UnSortButClick);
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmSort::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmSort::CancelButClick);
-    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpRequested(HelpPage); });
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmSort::~TfrmSort() = default;

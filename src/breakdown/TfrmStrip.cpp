@@ -1,4 +1,5 @@
 #include "TfrmStrip.h"
+#include "widgets/HelpWindow.h"
 
 #include "ui_TfrmStrip.h"
 
@@ -15,7 +16,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShowEvent>
 #include <QWidgetAction>
 
@@ -89,8 +89,7 @@ TfrmStrip::TfrmStrip(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->SetEdit, &QComboBox::editTextChanged, this, &TfrmStrip::SceneEditChange);
     connect(m_ui->NotesMemo, &QPlainTextEdit::textChanged, this, &TfrmStrip::SceneEditChange);
 
-    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpRequested(HelpPage); });
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmStrip::~TfrmStrip() = default;

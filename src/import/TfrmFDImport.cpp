@@ -1,4 +1,5 @@
 #include "TfrmFDImport.h"
+#include "widgets/HelpWindow.h"
 
 #include "FinalDraftImport.h"
 #include "ui_TfrmFDImport.h"
@@ -15,6 +16,7 @@ TfrmFDImport::TfrmFDImport(ScheduleDocument &doc, QWidget *parent)
     , ui(std::make_unique<Ui::TfrmFDImport>())
 {
     ui->setupUi(this);
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(QString::fromLatin1(HelpPage)); });
 
     chooseFile = [this](const QString &title, const QString &current) {
         return QFileDialog::getOpenFileName(this, title, current.isEmpty() ? QString() : QFileInfo(current).path(),
@@ -36,15 +38,6 @@ void TfrmFDImport::showEvent(QShowEvent *event)
     if (!event->spontaneous())
         FormShow();
     QDialog::showEvent(event);
-}
-
-void TfrmFDImport::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::HelpContents)) {
-        Q_EMIT helpRequested(QString::fromLatin1(HelpPage));
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 void TfrmFDImport::FormShow()

@@ -1,4 +1,5 @@
 #include "TfrmImportScript.h"
+#include "widgets/HelpWindow.h"
 
 #include "ImportText.h"
 #include "ui_TfrmImportScript.h"
@@ -79,6 +80,7 @@ TfrmImportScript::TfrmImportScript(ScheduleDocument &doc, QWidget *parent)
     , ui(std::make_unique<Ui::TfrmImportScript>())
 {
     ui->setupUi(this);
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(QString::fromLatin1(HelpPage)); });
     ui->ImportEdit->setFont(QFont(QStringLiteral("Courier New"), 10));
     ui->PBar->setRange(0, 100);
     ui->DayList->addItems(DefaultDayWords());
@@ -155,15 +157,6 @@ void TfrmImportScript::showEvent(QShowEvent *event)
     if (!event->spontaneous())
         FormShow();
     QDialog::showEvent(event);
-}
-
-void TfrmImportScript::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::HelpContents)) {
-        Q_EMIT helpRequested(QString::fromLatin1(HelpPage));
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 void TfrmImportScript::FormShow()

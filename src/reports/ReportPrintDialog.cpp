@@ -1,4 +1,5 @@
 #include "ReportPrintDialog.h"
+#include "widgets/HelpWindow.h"
 
 #include "reports/TfrmPrintingIt.h"
 
@@ -15,7 +16,12 @@ ReportPrintDialog::ReportPrintDialog(ScheduleDocument &doc, QString helpPage, QW
     : QDialog(parent)
     , m_doc(doc)
     , m_helpPage(std::move(helpPage))
-{}
+{
+    InstallHelpKey(this, [this] {
+        if (showHelp)
+            showHelp(m_helpPage);
+    });
+}
 
 ReportPrintDialog::~ReportPrintDialog() = default;
 
@@ -40,15 +46,6 @@ void ReportPrintDialog::showEvent(QShowEvent *event)
 {
     FormShow();
     QDialog::showEvent(event);
-}
-
-void ReportPrintDialog::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_F1 && showHelp) {
-        showHelp(m_helpPage);
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 void ReportPrintDialog::FormShow()

@@ -59,7 +59,6 @@ protected:
     virtual QString pdfFileName() const = 0;
 
     void showEvent(QShowEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
     ScheduleDocument &m_doc;
 

@@ -1,4 +1,5 @@
 #include "SchedulingDialog.h"
+#include "widgets/HelpWindow.h"
 
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
@@ -11,16 +12,8 @@ SchedulingDialog::SchedulingDialog(ScheduleDocument &doc, QString helpPage, QWid
     : QDialog(parent)
     , m_doc(doc)
     , m_helpPage(std::move(helpPage))
-{}
-
-void SchedulingDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
-        Q_EMIT helpRequested(m_helpPage);
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
+    InstallHelpKey(this, [this] { Q_EMIT helpRequested(m_helpPage); });
 }
 
 void SchedulingDialog::report(const Result &result) const

@@ -26,7 +26,6 @@ Q_SIGNALS:
     void helpRequested(const QString &page);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     // Shows the message of a failure that the user has not been told about yet.
     void report(const Result &result) const;
 

@@ -1,5 +1,7 @@
 #include "HelpWindow.h"
 
+#include <QKeyEvent>
+
 #include <QAction>
 #include <QFile>
 #include <QShortcut>
@@ -79,12 +81,39 @@ QString HelpWindow::currentPage() const
     return m_browser->source().fileName();
 }
 
+namespace {
+
+// Catches F1 on its way to the dialog. A key no control of the dialog uses travels
+// from the focused control up to the dialog, so this sees it wherever the focus is.
+class HelpKeyFilter : public QObject
+{
+public:
+    HelpKeyFilter(std::function<void()> showHelp, QObject *parent)
+        : QObject(parent)
+        , m_showHelp(std::move(showHelp))
+    {}
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+            return false;
+        m_showHelp();
+        return true;
+    }
+
+private:
+    std::function<void()> m_showHelp;
+};
+
+} // namespace
+
 void InstallHelpKey(QWidget *dialog, std::function<void()> showHelp)
 {
-    auto *key = new QShortcut(QKeySequence(Qt::Key_F1), dialog);
-    // A dialog is a window of its own: the key works wherever the focus is in it.
-    key->setContext(Qt::WindowShortcut);
-    QObject::connect(key, &QShortcut::activated, dialog, std::move(showHelp));
+    dialog->installEventFilter(new HelpKeyFilter(std::move(showHelp), dialog));
 }
 
 } // namespace tb
