@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QFile>
-#include <QShortcut>
 #include <QStyle>
 #include <QTextBrowser>
 #include <QToolBar>
