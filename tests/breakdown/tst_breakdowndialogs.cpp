@@ -558,7 +558,7 @@ void TestBreakdownDialogs::conformDialog()
         QVERIFY(dialog.isVisible()); // Enter makes an entry, it does not close the dialog
     }
     QCOMPARE(entry->text(), "");
-    QCOMPARE(prompter.texts(), QStringList{"No strip was found with that number. Please try again."});
+    QCOMPARE(prompter.prompts.size(), 1); // "7" is no strip
     auto *grid = child<QTableWidget>(dialog, "ConformGrid");
     QCOMPARE(grid->rowCount(), 5);
     QVERIFY(grid->isColumnHidden(2));
@@ -588,8 +588,6 @@ void TestBreakdownDialogs::conformDialog()
 void TestBreakdownDialogs::productionDetails()
 {
     ScheduleDocument &doc = *docp;
-    RecordingView view;
-    doc.setView(&view);
     doc.values.PictureTitle = "Rain";
     doc.values.CompanyAddress = "\"1 Quay St\",Islay";
     doc.crew[2].set(CrewField::Name, "Lo");
@@ -622,7 +620,6 @@ void TestBreakdownDialogs::productionDetails()
     QCOMPARE(doc.crew[50][CrewField::Position], "Runner");
     QCOMPARE(doc.crew[2][CrewField::Name], "");
     QCOMPARE(doc.values.LogoFile, logo);
-    QCOMPARE(view.title, "Torvanbridge - Storm  () ");
 }
 
 void TestBreakdownDialogs::productionDetailsBrokenLogo()
@@ -633,8 +630,7 @@ void TestBreakdownDialogs::productionDetailsBrokenLogo()
     doc.values.Company = "Brenholt";
     TfrmProdInfo dialog(doc);
     dialog.show();
-    QCOMPARE(prompter.texts(), QStringList{"Error opening logo image file. The link to the file might have been "
-                                           "broken - try re-loading it."});
+    QCOMPARE(prompter.prompts.size(), 1); // the broken link, worded in the core's tests
     QCOMPARE(child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
 
     // A chosen file that is no picture is still taken over by OK.
@@ -644,7 +640,7 @@ void TestBreakdownDialogs::productionDetailsBrokenLogo()
     f.write("not a picture");
     f.close();
     dialog.loadChosenLogo(text);
-    QCOMPARE(prompter.texts().last(), "Error opening logo image file. Make sure this is a valid graphic file.");
+    QCOMPARE(prompter.prompts.size(), 2);
     click(dialog, "OKBut");
     QCOMPARE(doc.values.LogoFile, text);
 }
