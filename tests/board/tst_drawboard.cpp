@@ -238,12 +238,11 @@ void TestDrawBoard::stripColours_data()
         kind("error kind", strip("7", "N", "E"), StripSlot::NightExt),
         kind("divider", strip("2", "D", "I"), StripSlot::DayDivider),
         kind("rest day", strip("3"), StripSlot::AutoRestDay);
-    QTest::newRow("banner pair") << strip("4", {}, {}, "clNavy,clWhite") << QColor(0, 0, 128) << QColor(Qt::white);
-    QTest::newRow("banner hex") << strip("4", {}, {}, "$0000FF00,clYellow") << QColor(0, 255, 0) << QColor(Qt::yellow);
-    QTest::newRow("banner no comma") << strip("4", {}, {}, "clRed") << slot(StripSlot::Banner)
-                                     << slot(StripSlot::Banner);
-    QTest::newRow("banner bad name") << strip("4", {}, {}, "clNothing,nonsense") << slot(StripSlot::Banner)
-                                     << ink(StripSlot::Banner);
+    Row("banner pair", strip("4", {}, {}, "clNavy,clWhite"), QColor(0, 0, 128), QColor(Qt::white)),
+        Row("banner hex", strip("4", {}, {}, "$0000FF00,clYellow"), QColor(0, 255, 0), QColor(Qt::yellow)),
+        Row("banner no comma", strip("4", {}, {}, "clRed"), slot(StripSlot::Banner), slot(StripSlot::Banner)),
+        Row("banner bad name", strip("4", {}, {}, "clNothing,nonsense"), slot(StripSlot::Banner),
+            ink(StripSlot::Banner));
 }
 
 void TestDrawBoard::stripColours()
@@ -288,45 +287,34 @@ void TestDrawBoard::descriptionTexts_data()
     scene.set(StripField::Synopsis, "Tom waits");
     scene.set(StripField::Sequence, "Act two");
     scene.set(StripField::Notes, "Rain towers");
-    QTest::newRow("location over synopsis") << scene << 12 << 7 << true << "HARBOUR WALL"
-                                            << "Tom waits";
-    QTest::newRow("scene and sequence") << scene << 2 << 11 << true << "Scene 12A"
-                                        << "Act two";
-    QTest::newRow("notes") << scene << 19 << 7 << true << "Rain towers"
-                           << "Tom waits";
+    Row("location over synopsis", scene, 12, 7, true, "HARBOUR WALL", "Tom waits"),
+        Row("scene and sequence", scene, 2, 11, true, "Scene 12A", "Act two"),
+        Row("notes", scene, 19, 7, true, "Rain towers", "Tom waits");
 
     StripRecord divider = strip("2");
     divider.set(StripField::DayNumber, "4");
     divider.set(StripField::ShootDayNumber, "3");
     divider.set(StripField::SceneNumber, "Thu, April 8, 2027");
     divider.set(StripField::PageLength, "4.875");
-    QTest::newRow("divider, shooting days") << divider << 12 << 7 << true << "END SHOOT DAY 3    (4 7/8 pages)"
-                                            << "Thu, April 8, 2027";
-    QTest::newRow("divider, production days") << divider << 12 << 7 << false << "END DAY 4    (4 7/8 pages)"
-                                              << "Thu, April 8, 2027";
+    Row("divider, shooting days", divider, 12, 7, true, "END SHOOT DAY 3    (4 7/8 pages)", "Thu, April 8, 2027"),
+        Row("divider, production days", divider, 12, 7, false, "END DAY 4    (4 7/8 pages)", "Thu, April 8, 2027");
     divider.set(StripField::PageLength, "0");
-    QTest::newRow("divider without pages") << divider << 12 << 7 << false << "END DAY 4    "
-                                           << "Thu, April 8, 2027";
+    Row("divider without pages", divider, 12, 7, false, "END DAY 4    ", "Thu, April 8, 2027");
 
     StripRecord rest = strip("3");
     rest.set(StripField::DayNumber, "6");
     rest.set(StripField::SceneNumber, "Sat, April 10, 2027");
-    QTest::newRow("rest day, shooting days") << rest << 12 << 7 << true << "REST DAY"
-                                             << "Sat, April 10, 2027";
-    QTest::newRow("rest day, production days") << rest << 12 << 7 << false << "DAY 6  -  REST DAY"
-                                               << "Sat, April 10, 2027";
+    Row("rest day, shooting days", rest, 12, 7, true, "REST DAY", "Sat, April 10, 2027"),
+        Row("rest day, production days", rest, 12, 7, false, "DAY 6  -  REST DAY", "Sat, April 10, 2027");
 
     StripRecord banner = strip("4");
     banner.set(StripField::Synopsis, "TRAVEL DAY");
     banner.set(StripField::DayCount, "2");
-    QTest::newRow("banner of two days") << banner << 12 << 7 << true << "TRAVEL DAY"
-                                        << "(2 day banner)";
+    Row("banner of two days", banner, 12, 7, true, "TRAVEL DAY", "(2 day banner)");
     banner.set(StripField::DayCount, "0");
-    QTest::newRow("banner of no days") << banner << 12 << 7 << true << "TRAVEL DAY"
-                                       << "  ";
+    Row("banner of no days", banner, 12, 7, true, "TRAVEL DAY", "  ");
 
-    QTest::newRow("error kind") << strip("9") << 12 << 7 << true << "???"
-                                << "Strip type error";
+    Row("error kind", strip("9"), 12, 7, true, "???", "Strip type error");
 }
 
 void TestDrawBoard::descriptionTexts()
@@ -351,17 +339,16 @@ void TestDrawBoard::hintTexts_data()
     scene.set(StripField::SceneNumber, "31");
     scene.set(StripField::Location, "Truro market");
     scene.set(StripField::Synopsis, "The crowd turns");
-    QTest::newRow("scene") << scene << "Scene: 31\rINT/EXT. TRURO MARKET - DUSK\rThe crowd turns";
+    Row("scene", scene, "Scene: 31\rINT/EXT. TRURO MARKET - DUSK\rThe crowd turns");
     scene.set(StripField::IntExt, "X");
     scene.set(StripField::DayNight, "DWN");
-    QTest::newRow("scene, odd int/ext") << scene << "Scene: 31\rTRURO MARKET - DAWN\rThe crowd turns";
+    Row("scene, odd int/ext", scene, "Scene: 31\rTRURO MARKET - DAWN\rThe crowd turns");
     StripRecord divider = strip("2");
     divider.set(StripField::DayNumber, "5");
     divider.set(StripField::ShootDayNumber, "4");
     divider.set(StripField::PageLength, "2.25");
-    QTest::newRow("divider") << divider << "END SHOOTING DAY 4\rEND PRODUCTION DAY 5\rTotal pages: 2 2/8";
-    Row("rest day", strip("3"), "REST DAY");
-    QTest::newRow("banner") << strip("4", {}, {}, "clRed,clWhite") << "";
+    Row("divider", divider, "END SHOOTING DAY 4\rEND PRODUCTION DAY 5\rTotal pages: 2 2/8"),
+        Row("rest day", strip("3"), "REST DAY"), Row("banner", strip("4", {}, {}, "clRed,clWhite"), "");
 }
 
 void TestDrawBoard::hintTexts()
@@ -448,11 +435,9 @@ void TestDrawBoard::returnedText_data()
     QTest::addColumn<QString>("result");
     // 800 x 600: the strips start at x = 200 and the element rows at y = 291 (screen)
     // or 288 + 3 (names); 15 strips and 18 rows fit, partly, on the screen.
-    Row("all fit", 10, 10, 1, false, " 10 10");
-    QTest::newRow("screen, cut") << 30 << 40 << 1 << false << " 15 18";
-    QTest::newRow("screen, scrolled") << 30 << 40 << 5 << false << " 19 18";
-    QTest::newRow("printing, whole only") << 30 << 40 << 1 << true << " 14 17";
-    QTest::newRow("past the end") << 30 << 40 << 25 << false << " 30 18";
+    Row("all fit", 10, 10, 1, false, " 10 10"), Row("screen, cut", 30, 40, 1, false, " 15 18"),
+        Row("screen, scrolled", 30, 40, 5, false, " 19 18"), Row("printing, whole only", 30, 40, 1, true, " 14 17"),
+        Row("past the end", 30, 40, 25, false, " 30 18");
 }
 
 void TestDrawBoard::returnedText()
