@@ -16,6 +16,13 @@ Q_DECLARE_METATYPE(tb::StripRecord)
 
 namespace {
 
+// Adds one data row; short rows share a line.
+template <typename... T>
+void Row(const char *tag, T... values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
 QString ExamplePath()
 {
     return qEnvironmentVariable("TB_SOURCE_DIR") + QStringLiteral("/examples/harbour-lights.tbf");
@@ -143,10 +150,8 @@ void TestDrawBoard::geometry_data()
     QTest::addColumn<int>("rowH");
     QTest::addColumn<int>("colW");
     QTest::addColumn<int>("margin");
-    QTest::newRow("60%") << 0.6 << 24 << 11 << 120 << 2;
-    QTest::newRow("90%") << 0.9 << 36 << 16 << 180 << 3;
-    QTest::newRow("130%") << 1.3 << 52 << 23 << 260 << 4;
-    QTest::newRow("140%") << 1.4 << 56 << 25 << 280 << 4;
+    Row("60%", 0.6, 24, 11, 120, 2), Row("90%", 0.9, 36, 16, 180, 3), Row("130%", 1.3, 52, 23, 260, 4),
+        Row("140%", 1.4, 56, 25, 280, 4);
 }
 
 void TestDrawBoard::geometry()
@@ -185,14 +190,8 @@ void TestDrawBoard::zoomSteps_data()
     QTest::addColumn<double>("scale");
     QTest::addColumn<int>("index");
     QTest::addColumn<double>("snapped");
-    QTest::newRow("60%") << 0.6 << 0 << 0.6;
-    QTest::newRow("70%") << 0.7 << 1 << 0.7;
-    QTest::newRow("100%") << 1.0 << 4 << 1.0;
-    QTest::newRow("140%") << 1.4 << 8 << 1.4;
-    QTest::newRow("125%") << 1.25 << -1 << 1.0;
-    QTest::newRow("50%") << 0.5 << -1 << 1.0;
-    QTest::newRow("150%") << 1.5 << -1 << 1.0;
-    QTest::newRow("zero") << 0.0 << -1 << 1.0;
+    Row("60%", 0.6, 0, 0.6), Row("70%", 0.7, 1, 0.7), Row("100%", 1.0, 4, 1.0), Row("140%", 1.4, 8, 1.4),
+        Row("125%", 1.25, -1, 1.0), Row("50%", 0.5, -1, 1.0), Row("150%", 1.5, -1, 1.0), Row("zero", 0.0, -1, 1.0);
 }
 
 void TestDrawBoard::zoomSteps()
@@ -225,26 +224,25 @@ void TestDrawBoard::stripColours_data()
     const BoardStyle s = distinctStyle();
     auto slot = [&](StripSlot x) { return s.backgroundOf(x); };
     auto ink = [&](StripSlot x) { return s.textOf(x); };
-    QTest::newRow("day ext") << strip("1", "D", "E") << slot(StripSlot::DayExt) << ink(StripSlot::DayExt);
-    QTest::newRow("day int") << strip("1", "D", "I") << slot(StripSlot::DayInt) << ink(StripSlot::DayInt);
-    QTest::newRow("day int/ext") << strip("1", "D", "I/E") << slot(StripSlot::DayIntExt) << ink(StripSlot::DayIntExt);
-    QTest::newRow("night ext") << strip("1", "N", "E") << slot(StripSlot::NightExt) << ink(StripSlot::NightExt);
-    QTest::newRow("night int") << strip("1", "N", "I") << slot(StripSlot::NightInt) << ink(StripSlot::NightInt);
-    QTest::newRow("night i/e") << strip("1", "N", "I/E") << slot(StripSlot::NightIntExt) << ink(StripSlot::NightIntExt);
-    QTest::newRow("dawn is day") << strip("1", "DWN", "E") << slot(StripSlot::DayExt) << ink(StripSlot::DayExt);
-    QTest::newRow("dusk is night") << strip("1", "DSK", "I") << slot(StripSlot::NightInt) << ink(StripSlot::NightInt);
-    QTest::newRow("lower case") << strip("1", "d", "I") << slot(StripSlot::Unknown) << ink(StripSlot::Unknown);
-    QTest::newRow("odd int/ext") << strip("1", "D", "X") << slot(StripSlot::Unknown) << ink(StripSlot::Unknown);
-    QTest::newRow("blank") << strip("1") << slot(StripSlot::Unknown) << ink(StripSlot::Unknown);
-    QTest::newRow("error kind") << strip("7", "N", "E") << slot(StripSlot::NightExt) << ink(StripSlot::NightExt);
-    QTest::newRow("divider") << strip("2", "D", "I") << slot(StripSlot::DayDivider) << ink(StripSlot::DayDivider);
-    QTest::newRow("rest day") << strip("3") << slot(StripSlot::AutoRestDay) << ink(StripSlot::AutoRestDay);
-    QTest::newRow("banner pair") << strip("4", {}, {}, "clNavy,clWhite") << QColor(0, 0, 128) << QColor(Qt::white);
-    QTest::newRow("banner hex") << strip("4", {}, {}, "$0000FF00,clYellow") << QColor(0, 255, 0) << QColor(Qt::yellow);
-    QTest::newRow("banner no comma") << strip("4", {}, {}, "clRed") << slot(StripSlot::Banner)
-                                     << slot(StripSlot::Banner);
-    QTest::newRow("banner bad name") << strip("4", {}, {}, "clNothing,nonsense") << slot(StripSlot::Banner)
-                                     << ink(StripSlot::Banner);
+    // A strip drawn in the colours of its slot.
+    auto kind = [&](const char *tag, const StripRecord &strip, StripSlot x) { Row(tag, strip, slot(x), ink(x)); };
+    kind("day ext", strip("1", "D", "E"), StripSlot::DayExt), kind("day int", strip("1", "D", "I"), StripSlot::DayInt),
+        kind("day int/ext", strip("1", "D", "I/E"), StripSlot::DayIntExt),
+        kind("night ext", strip("1", "N", "E"), StripSlot::NightExt),
+        kind("night int", strip("1", "N", "I"), StripSlot::NightInt),
+        kind("night i/e", strip("1", "N", "I/E"), StripSlot::NightIntExt),
+        kind("dawn is day", strip("1", "DWN", "E"), StripSlot::DayExt),
+        kind("dusk is night", strip("1", "DSK", "I"), StripSlot::NightInt),
+        kind("lower case", strip("1", "d", "I"), StripSlot::Unknown),
+        kind("odd int/ext", strip("1", "D", "X"), StripSlot::Unknown), kind("blank", strip("1"), StripSlot::Unknown),
+        kind("error kind", strip("7", "N", "E"), StripSlot::NightExt),
+        kind("divider", strip("2", "D", "I"), StripSlot::DayDivider),
+        kind("rest day", strip("3"), StripSlot::AutoRestDay);
+    Row("banner pair", strip("4", {}, {}, "clNavy,clWhite"), QColor(0, 0, 128), QColor(Qt::white)),
+        Row("banner hex", strip("4", {}, {}, "$0000FF00,clYellow"), QColor(0, 255, 0), QColor(Qt::yellow)),
+        Row("banner no comma", strip("4", {}, {}, "clRed"), slot(StripSlot::Banner), slot(StripSlot::Banner)),
+        Row("banner bad name", strip("4", {}, {}, "clNothing,nonsense"), slot(StripSlot::Banner),
+            ink(StripSlot::Banner));
 }
 
 void TestDrawBoard::stripColours()
@@ -260,13 +258,9 @@ void TestDrawBoard::usesElement_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<int>("element");
     QTest::addColumn<bool>("uses");
-    QTest::newRow("first") << "1,5,12" << 1 << true;
-    QTest::newRow("middle") << "1,5,12" << 5 << true;
-    QTest::newRow("last") << "1,5,12" << 12 << true;
-    QTest::newRow("digit of another") << "1,5,12" << 2 << false;
-    QTest::newRow("empty") << "" << 1 << false;
-    QTest::newRow("leading blank") << " 7" << 7 << true;
-    QTest::newRow("not a number") << "x,3" << 3 << true;
+    Row("first", "1,5,12", 1, true), Row("middle", "1,5,12", 5, true), Row("last", "1,5,12", 12, true),
+        Row("digit of another", "1,5,12", 2, false), Row("empty", "", 1, false), Row("leading blank", " 7", 7, true),
+        Row("not a number", "x,3", 3, true);
 }
 
 void TestDrawBoard::usesElement()
@@ -293,45 +287,34 @@ void TestDrawBoard::descriptionTexts_data()
     scene.set(StripField::Synopsis, "Tom waits");
     scene.set(StripField::Sequence, "Act two");
     scene.set(StripField::Notes, "Rain towers");
-    QTest::newRow("location over synopsis") << scene << 12 << 7 << true << "HARBOUR WALL"
-                                            << "Tom waits";
-    QTest::newRow("scene and sequence") << scene << 2 << 11 << true << "Scene 12A"
-                                        << "Act two";
-    QTest::newRow("notes") << scene << 19 << 7 << true << "Rain towers"
-                           << "Tom waits";
+    Row("location over synopsis", scene, 12, 7, true, "HARBOUR WALL", "Tom waits"),
+        Row("scene and sequence", scene, 2, 11, true, "Scene 12A", "Act two"),
+        Row("notes", scene, 19, 7, true, "Rain towers", "Tom waits");
 
     StripRecord divider = strip("2");
     divider.set(StripField::DayNumber, "4");
     divider.set(StripField::ShootDayNumber, "3");
     divider.set(StripField::SceneNumber, "Thu, April 8, 2027");
     divider.set(StripField::PageLength, "4.875");
-    QTest::newRow("divider, shooting days") << divider << 12 << 7 << true << "END SHOOT DAY 3    (4 7/8 pages)"
-                                            << "Thu, April 8, 2027";
-    QTest::newRow("divider, production days") << divider << 12 << 7 << false << "END DAY 4    (4 7/8 pages)"
-                                              << "Thu, April 8, 2027";
+    Row("divider, shooting days", divider, 12, 7, true, "END SHOOT DAY 3    (4 7/8 pages)", "Thu, April 8, 2027"),
+        Row("divider, production days", divider, 12, 7, false, "END DAY 4    (4 7/8 pages)", "Thu, April 8, 2027");
     divider.set(StripField::PageLength, "0");
-    QTest::newRow("divider without pages") << divider << 12 << 7 << false << "END DAY 4    "
-                                           << "Thu, April 8, 2027";
+    Row("divider without pages", divider, 12, 7, false, "END DAY 4    ", "Thu, April 8, 2027");
 
     StripRecord rest = strip("3");
     rest.set(StripField::DayNumber, "6");
     rest.set(StripField::SceneNumber, "Sat, April 10, 2027");
-    QTest::newRow("rest day, shooting days") << rest << 12 << 7 << true << "REST DAY"
-                                             << "Sat, April 10, 2027";
-    QTest::newRow("rest day, production days") << rest << 12 << 7 << false << "DAY 6  -  REST DAY"
-                                               << "Sat, April 10, 2027";
+    Row("rest day, shooting days", rest, 12, 7, true, "REST DAY", "Sat, April 10, 2027"),
+        Row("rest day, production days", rest, 12, 7, false, "DAY 6  -  REST DAY", "Sat, April 10, 2027");
 
     StripRecord banner = strip("4");
     banner.set(StripField::Synopsis, "TRAVEL DAY");
     banner.set(StripField::DayCount, "2");
-    QTest::newRow("banner of two days") << banner << 12 << 7 << true << "TRAVEL DAY"
-                                        << "(2 day banner)";
+    Row("banner of two days", banner, 12, 7, true, "TRAVEL DAY", "(2 day banner)");
     banner.set(StripField::DayCount, "0");
-    QTest::newRow("banner of no days") << banner << 12 << 7 << true << "TRAVEL DAY"
-                                       << "  ";
+    Row("banner of no days", banner, 12, 7, true, "TRAVEL DAY", "  ");
 
-    QTest::newRow("error kind") << strip("9") << 12 << 7 << true << "???"
-                                << "Strip type error";
+    Row("error kind", strip("9"), 12, 7, true, "???", "Strip type error");
 }
 
 void TestDrawBoard::descriptionTexts()
@@ -356,17 +339,16 @@ void TestDrawBoard::hintTexts_data()
     scene.set(StripField::SceneNumber, "31");
     scene.set(StripField::Location, "Truro market");
     scene.set(StripField::Synopsis, "The crowd turns");
-    QTest::newRow("scene") << scene << "Scene: 31\rINT/EXT. TRURO MARKET - DUSK\rThe crowd turns";
+    Row("scene", scene, "Scene: 31\rINT/EXT. TRURO MARKET - DUSK\rThe crowd turns");
     scene.set(StripField::IntExt, "X");
     scene.set(StripField::DayNight, "DWN");
-    QTest::newRow("scene, odd int/ext") << scene << "Scene: 31\rTRURO MARKET - DAWN\rThe crowd turns";
+    Row("scene, odd int/ext", scene, "Scene: 31\rTRURO MARKET - DAWN\rThe crowd turns");
     StripRecord divider = strip("2");
     divider.set(StripField::DayNumber, "5");
     divider.set(StripField::ShootDayNumber, "4");
     divider.set(StripField::PageLength, "2.25");
-    QTest::newRow("divider") << divider << "END SHOOTING DAY 4\rEND PRODUCTION DAY 5\rTotal pages: 2 2/8";
-    QTest::newRow("rest day") << strip("3") << "REST DAY";
-    QTest::newRow("banner") << strip("4", {}, {}, "clRed,clWhite") << "";
+    Row("divider", divider, "END SHOOTING DAY 4\rEND PRODUCTION DAY 5\rTotal pages: 2 2/8"),
+        Row("rest day", strip("3"), "REST DAY"), Row("banner", strip("4", {}, {}, "clRed,clWhite"), "");
 }
 
 void TestDrawBoard::hintTexts()
@@ -453,11 +435,9 @@ void TestDrawBoard::returnedText_data()
     QTest::addColumn<QString>("result");
     // 800 x 600: the strips start at x = 200 and the element rows at y = 291 (screen)
     // or 288 + 3 (names); 15 strips and 18 rows fit, partly, on the screen.
-    QTest::newRow("all fit") << 10 << 10 << 1 << false << " 10 10";
-    QTest::newRow("screen, cut") << 30 << 40 << 1 << false << " 15 18";
-    QTest::newRow("screen, scrolled") << 30 << 40 << 5 << false << " 19 18";
-    QTest::newRow("printing, whole only") << 30 << 40 << 1 << true << " 14 17";
-    QTest::newRow("past the end") << 30 << 40 << 25 << false << " 30 18";
+    Row("all fit", 10, 10, 1, false, " 10 10"), Row("screen, cut", 30, 40, 1, false, " 15 18"),
+        Row("screen, scrolled", 30, 40, 5, false, " 19 18"), Row("printing, whole only", 30, 40, 1, true, " 14 17"),
+        Row("past the end", 30, 40, 25, false, " 30 18");
 }
 
 void TestDrawBoard::returnedText()

@@ -36,6 +36,28 @@ int Scene(ScheduleDocument &doc, const QString &scene, const QString &location, 
     return row;
 }
 
+// Scenes "1".."n" at locations "A", "B", ... with a prompter and a conform list made for them.
+struct ConformBoard
+{
+    explicit ConformBoard(int scenes = 3)
+    {
+        doc.setPrompter(&prompter);
+        for (int i = 1; i <= scenes; ++i)
+            Scene(doc, QString::number(i), QString(QChar(u'A' + i - 1)));
+        list.reset(doc);
+    }
+    bool enter(std::initializer_list<const char *> entries)
+    {
+        bool all = true;
+        for (const char *entry : entries)
+            all = list.enter(prompter, entry) && all;
+        return all;
+    }
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    ConformList list;
+};
+
 QString Column(const QList<SortRow> &rows, int column)
 {
     QStringList out;
@@ -64,7 +86,6 @@ private Q_SLOTS:
     void conformDeleteFreesTheSheet();
     void conformDeclined();
     void renumber();
-    void renumberDeclined();
 };
 
 void TestStripOrder::initTestCase()
@@ -183,10 +204,8 @@ void TestStripOrder::conformEntries()
     ScheduleDocument doc;
     ScriptedPrompter prompter;
     doc.setPrompter(&prompter);
-    for (int i = 1; i <= 4; ++i) {
-        const int row = Scene(doc, QStringLiteral("S%1").arg(i), QStringLiteral("LOC%1").arg(i));
-        doc.strips[row].set(StripField::Synopsis, QStringLiteral("syn %1").arg(i));
-    }
+    for (int i = 1; i <= 4; ++i)
+        doc.strips[Scene(doc, QStringLiteral("S%1").arg(i), "LOC")].set(StripField::Synopsis, QString::number(i));
     AddDivider(doc);
     ConformList list;
     list.reset(doc);
@@ -196,7 +215,7 @@ void TestStripOrder::conformEntries()
         QVERIFY(list.enter(prompter, entry));
     QCOMPARE(list.entries().size(), 5);
     QCOMPARE(list.entries()[0].code, "3");
-    QCOMPARE(list.entries()[0].description, "LOC3, syn 3");
+    QCOMPARE(list.entries()[0].description, "LOC, 3");
     QCOMPARE(list.entries()[1].code, "D");
     QCOMPARE(list.entries()[1].description, "--- Divider ---");
     QCOMPARE(list.entries()[3].code, "B");
@@ -222,98 +241,75 @@ void TestStripOrder::conformEntries()
 
 void TestStripOrder::conformRefusals()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Scene(doc, "1", "A");
-    Scene(doc, "2", "B");
-    Scene(doc, "3", "C");
-    ConformList list;
-    list.reset(doc);
-    QVERIFY(list.enter(prompter, "2"));
-    QVERIFY(!list.enter(prompter, "2"));
-    QVERIFY(!list.enter(prompter, "02")); // matched as text
-    QVERIFY(!list.enter(prompter, "9"));
-    QVERIFY(!list.enter(prompter, ""));
-    QCOMPARE(prompter.texts(),
+    ConformBoard b;
+    QVERIFY(b.list.enter(b.prompter, "2"));
+    QVERIFY(!b.list.enter(b.prompter, "2"));
+    QVERIFY(!b.list.enter(b.prompter, "02")); // matched as text
+    QVERIFY(!b.list.enter(b.prompter, "9"));
+    QVERIFY(!b.list.enter(b.prompter, ""));
+    const QString notFound = "No strip was found with that number. Please try again.";
+    QCOMPARE(b.prompter.texts(),
              QStringList({"That breakdown number has already been entered. The numbers need to be unique to each and "
                           "every strip.",
-                          "No strip was found with that number. Please try again.",
-                          "No strip was found with that number. Please try again.",
-                          "No strip was found with that number. Please try again."}));
+                          notFound, notFound, notFound}));
     // The refusals left one empty line, which the next entry fills.
-    QCOMPARE(list.entries().size(), 2);
-    QVERIFY(list.entries()[1].isEmpty());
-    QVERIFY(list.enter(prompter, "1"));
-    QCOMPARE(list.entries().size(), 2);
-    QCOMPARE(list.entries()[1].code, "1");
+    QCOMPARE(b.list.entries().size(), 2);
+    QVERIFY(b.list.entries()[1].isEmpty());
+    QVERIFY(b.list.enter(b.prompter, "1"));
+    QCOMPARE(b.list.entries().size(), 2);
+    QCOMPARE(b.list.entries()[1].code, "1");
 
     // An empty line left at the end becomes an empty strip.
-    QVERIFY(!list.enter(prompter, "9"));
-    prompter.answers = {Answer::Yes};
-    QVERIFY(list.apply(doc));
-    QCOMPARE(doc.strips.count(), 3);
-    QCOMPARE(Board(doc), "2 1 ?");
+    QVERIFY(!b.list.enter(b.prompter, "9"));
+    b.prompter.answers = {Answer::Yes};
+    QVERIFY(b.list.apply(b.doc));
+    QCOMPARE(b.doc.strips.count(), 3);
+    QCOMPARE(Board(b.doc), "2 1 ?");
 }
 
 void TestStripOrder::conformDeleteFreesTheSheet()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Scene(doc, "1", "A");
-    Scene(doc, "2", "B");
-    ConformList list;
-    list.reset(doc);
-    QVERIFY(list.enter(prompter, "1"));
-    QVERIFY(list.enter(prompter, "+"));
-    QVERIFY(list.enter(prompter, "2"));
-    QVERIFY(list.isUsed(0));
-    list.remove(0);
-    QVERIFY(!list.isUsed(0));
-    QCOMPARE(list.entries().size(), 2);
-    list.remove(0); // a divider line: nothing to free
-    QCOMPARE(list.entries().size(), 1);
-    list.remove(0); // the last line is emptied, not removed
-    QCOMPARE(list.entries().size(), 1);
-    QVERIFY(list.entries()[0].isEmpty());
-    QVERIFY(!list.isUsed(1));
-    QVERIFY(list.enter(prompter, "2"));
-    QVERIFY(list.enter(prompter, "1"));
-    QVERIFY(prompter.prompts.isEmpty());
+    ConformBoard b(2);
+    QVERIFY(b.enter({"1", "+", "2"}));
+    QVERIFY(b.list.isUsed(0));
+    b.list.remove(0);
+    QVERIFY(!b.list.isUsed(0));
+    QCOMPARE(b.list.entries().size(), 2);
+    b.list.remove(0); // a divider line: nothing to free
+    QCOMPARE(b.list.entries().size(), 1);
+    b.list.remove(0); // the last line is emptied, not removed
+    QCOMPARE(b.list.entries().size(), 1);
+    QVERIFY(b.list.entries()[0].isEmpty());
+    QVERIFY(!b.list.isUsed(1));
+    QVERIFY(b.enter({"2", "1"}));
+    QVERIFY(b.prompter.prompts.isEmpty());
 }
 
 void TestStripOrder::conformDeclined()
 {
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Scene(doc, "1", "A");
-    Scene(doc, "2", "B");
-    Scene(doc, "3", "C");
-    ConformList list;
-    list.reset(doc);
-    QVERIFY(list.enter(prompter, "3"));
-    prompter.answers = {Answer::No};
-    QVERIFY(!list.apply(doc));
-    QCOMPARE(Board(doc), "1 2 3");
-    QCOMPARE(doc.undo.UndoDepth, 0);
-    QCOMPARE(prompter.texts(), QStringList{"You have entered less strips than exist in the current schedule. Any "
-                                           "strips you have not entered will be removed.\r\rAre you sure this is OK?"});
-    QCOMPARE(prompter.prompts[0].kind, MessageKind::Warning);
+    ConformBoard b;
+    QVERIFY(b.enter({"3"}));
+    b.prompter.answers = {Answer::No};
+    QVERIFY(!b.list.apply(b.doc));
+    QCOMPARE(Board(b.doc), "1 2 3");
+    QCOMPARE(b.doc.undo.UndoDepth, 0);
+    QCOMPARE(b.prompter.texts(),
+             QStringList{"You have entered less strips than exist in the current schedule. Any "
+                         "strips you have not entered will be removed.\r\rAre you sure this is OK?"});
+    QCOMPARE(b.prompter.prompts[0].kind, MessageKind::Warning);
     // Asked also when more lines than strips were entered.
-    QVERIFY(list.enter(prompter, "+"));
-    QVERIFY(list.enter(prompter, "+"));
-    QVERIFY(list.enter(prompter, "+"));
-    prompter.answers = {Answer::Yes};
-    QVERIFY(list.apply(doc));
-    QCOMPARE(prompter.prompts.size(), 2);
-    QCOMPARE(Board(doc), "3 | | |");
+    QVERIFY(b.enter({"+", "+", "+"}));
+    b.prompter.answers = {Answer::Yes};
+    QVERIFY(b.list.apply(b.doc));
+    QCOMPARE(b.prompter.prompts.size(), 2);
+    QCOMPARE(Board(b.doc), "3 | | |");
 }
 
 void TestStripOrder::renumber()
 {
     ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
     Scene(doc, "a", "A");
     const int divider = AddDivider(doc);
     doc.strips[divider].set(StripField::StripId, "77");
@@ -321,6 +317,14 @@ void TestStripOrder::renumber()
     doc.strips[1].set(StripField::StripId, "40");
     doc.strips[3].set(StripField::StripId, "12");
     doc.values.NextStripId = 40;
+    prompter.answers = {Answer::No};
+    QVERIFY(!ResetBreakdownNumbering(doc));
+    QCOMPARE(doc.strips[1][StripField::StripId], "40");
+    QCOMPARE(prompter.texts(), QStringList{"Are you sure you wish to reset all breakdown sheet numbers to match the "
+                                           "current strip order on the board?"});
+    QCOMPARE(prompter.prompts[0].kind, MessageKind::Confirmation);
+
+    prompter.answers = {Answer::Yes};
     QVERIFY(ResetBreakdownNumbering(doc));
     QCOMPARE(doc.strips[1][StripField::StripId], "1");
     QCOMPARE(doc.strips[2][StripField::StripId], "77");
@@ -333,21 +337,6 @@ void TestStripOrder::renumber()
     dividers.values.NextStripId = 9;
     QVERIFY(ResetBreakdownNumbering(dividers));
     QCOMPARE(dividers.values.NextStripId, 0);
-}
-
-void TestStripOrder::renumberDeclined()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Scene(doc, "a", "A");
-    doc.strips[1].set(StripField::StripId, "40");
-    prompter.answers = {Answer::No};
-    QVERIFY(!ResetBreakdownNumbering(doc));
-    QCOMPARE(doc.strips[1][StripField::StripId], "40");
-    QCOMPARE(prompter.texts(), QStringList{"Are you sure you wish to reset all breakdown sheet numbers to match the "
-                                           "current strip order on the board?"});
-    QCOMPARE(prompter.prompts[0].kind, MessageKind::Confirmation);
 }
 
 QTEST_GUILESS_MAIN(TestStripOrder)

@@ -8,6 +8,17 @@
 
 using namespace tb::legacy;
 
+namespace {
+
+// Adds one data row. The tables below list several rows to a line.
+template <typename... T>
+void row(const char *tag, T... values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
+} // namespace
+
 class TestLegacyText : public QObject
 {
     Q_OBJECT
@@ -19,19 +30,14 @@ private slots:
     {
         QTest::addColumn<QStringList>("items");
         QTest::addColumn<QString>("text");
-        QTest::newRow("no items") << QStringList() << "";
-        QTest::newRow("one empty item") << QStringList{""} << "\"\"";
-        QTest::newRow("two empty items") << QStringList{"", ""} << ",";
-        QTest::newRow("plain") << QStringList{"a", "b"} << "a,b";
-        QTest::newRow("empty in the middle") << QStringList{"a", "", "b"} << "a,,b";
-        QTest::newRow("empty first") << QStringList{"", "a"} << ",a";
-        QTest::newRow("empty last") << QStringList{"a", ""} << "a,";
-        QTest::newRow("blank") << QStringList{"a b", "c"} << "\"a b\",c";
-        QTest::newRow("comma") << QStringList{"a,b"} << "\"a,b\"";
-        QTest::newRow("quotes doubled") << QStringList{"say \"hi\""} << "\"say \"\"hi\"\"\"";
-        QTest::newRow("lone quote") << QStringList{"\""} << "\"\"\"\"";
-        QTest::newRow("control character") << QStringList{"a\tb"} << "\"a\tb\"";
-        QTest::newRow("non-ASCII unquoted") << QStringList{"café", "日本"} << "café,日本";
+        row("no items", QStringList(), ""), row("one empty item", QStringList{""}, "\"\""),
+            row("two empty items", QStringList{"", ""}, ","), row("plain", QStringList{"a", "b"}, "a,b"),
+            row("empty in the middle", QStringList{"a", "", "b"}, "a,,b"),
+            row("empty first", QStringList{"", "a"}, ",a"), row("empty last", QStringList{"a", ""}, "a,"),
+            row("blank", QStringList{"a b", "c"}, "\"a b\",c"), row("comma", QStringList{"a,b"}, "\"a,b\""),
+            row("quotes doubled", QStringList{"say \"hi\""}, "\"say \"\"hi\"\"\""),
+            row("lone quote", QStringList{"\""}, "\"\"\"\""), row("control character", QStringList{"a\tb"}, "\"a\tb\""),
+            row("non-ASCII unquoted", QStringList{"café", "日本"}, "café,日本");
     }
 
     void joinCommaText()
@@ -45,22 +51,19 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("items");
-        QTest::newRow("empty") << "" << QStringList();
-        QTest::newRow("only blanks") << " \t " << QStringList();
-        QTest::newRow("quoted empty") << "\"\"" << QStringList{""};
-        QTest::newRow("blank separates") << "a b" << QStringList{"a", "b"};
-        QTest::newRow("text after quote") << "\"a\"b,c" << QStringList{"a", "b", "c"};
-        QTest::newRow("trailing comma") << "a," << QStringList{"a", ""};
-        QTest::newRow("trailing comma then blank") << "a, " << QStringList{"a"};
-        QTest::newRow("leading comma") << ",a" << QStringList{"", "a"};
-        QTest::newRow("double comma") << "a,,b" << QStringList{"a", "", "b"};
-        QTest::newRow("blanks around") << "  a , b  " << QStringList{"a", "b"};
-        QTest::newRow("doubled quotes") << "\"a \"\"q\"\" b\",c" << QStringList{"a \"q\" b", "c"};
-        QTest::newRow("quote inside unquoted") << "x\"y\"" << QStringList{"x\"y\""};
-        QTest::newRow("unclosed quote") << "\"open, end" << QStringList{"open, end"};
-        QTest::newRow("unclosed after doubled") << "\"a\"\"" << QStringList{"a\""};
-        QTest::newRow("NUL ends the text") << QString::fromLatin1("a,b\0c,d", 7) << QStringList{"a", "b"};
-        QTest::newRow("non-ASCII") << "Łódź,日本 é" << QStringList{"Łódź", "日本", "é"};
+        row("empty", "", QStringList()), row("only blanks", " \t ", QStringList()),
+            row("quoted empty", "\"\"", QStringList{""}), row("blank separates", "a b", QStringList{"a", "b"}),
+            row("text after quote", "\"a\"b,c", QStringList{"a", "b", "c"}),
+            row("trailing comma", "a,", QStringList{"a", ""}),
+            row("trailing comma then blank", "a, ", QStringList{"a"}), row("leading comma", ",a", QStringList{"", "a"}),
+            row("double comma", "a,,b", QStringList{"a", "", "b"}),
+            row("blanks around", "  a , b  ", QStringList{"a", "b"}),
+            row("doubled quotes", "\"a \"\"q\"\" b\",c", QStringList{"a \"q\" b", "c"}),
+            row("quote inside unquoted", "x\"y\"", QStringList{"x\"y\""}),
+            row("unclosed quote", "\"open, end", QStringList{"open, end"}),
+            row("unclosed after doubled", "\"a\"\"", QStringList{"a\""}),
+            row("NUL ends the text", QString::fromLatin1("a,b\0c,d", 7), QStringList{"a", "b"}),
+            row("non-ASCII", "Łódź,日本 é", QStringList{"Łódź", "日本", "é"});
     }
 
     void splitCommaText()
@@ -104,31 +107,19 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("ok");
         QTest::addColumn<int>("value");
-        QTest::newRow("leading zeros") << "00012" << true << 12;
-        QTest::newRow("negative") << "-42" << true << -42;
-        QTest::newRow("plus") << "+7" << true << 7;
-        QTest::newRow("leading blanks") << " \t 12" << true << 12;
-        QTest::newRow("trailing blank") << "12 " << false << 0;
-        QTest::newRow("empty") << "" << false << 0;
-        QTest::newRow("sign only") << "-" << false << 0;
-        QTest::newRow("dollar only") << "$" << false << 0;
-        QTest::newRow("0x only") << "0x" << false << 0;
-        QTest::newRow("hex") << "$1F" << true << 31;
-        QTest::newRow("hex lower case") << "$ff" << true << 255;
-        QTest::newRow("0x") << "0x10" << true << 16;
-        QTest::newRow("0X") << "0X10" << true << 16;
-        QTest::newRow("negative hex") << "-$10" << true << -16;
-        QTest::newRow("int max") << "2147483647" << true << std::numeric_limits<int>::max();
-        QTest::newRow("int max + 1") << "2147483648" << false << 0;
-        QTest::newRow("int min") << "-2147483648" << true << std::numeric_limits<int>::min();
-        QTest::newRow("int min - 1") << "-2147483649" << false << 0;
-        QTest::newRow("hex all bits") << "$FFFFFFFF" << true << -1;
-        QTest::newRow("system colour") << "$FF00000F" << true << int(0xFF00000Fu - 0x100000000ll);
-        QTest::newRow("hex too long") << "$100000000" << false << 0;
-        QTest::newRow("fraction") << "1.5" << false << 0;
-        QTest::newRow("letters after") << "12a" << false << 0;
-        QTest::newRow("bad hex digit") << "$1G" << false << 0;
-        QTest::newRow("non-ASCII digit") << "\u0663" << false << 0;
+        row("leading zeros", "00012", true, 12), row("negative", "-42", true, -42), row("plus", "+7", true, 7),
+            row("leading blanks", " \t 12", true, 12), row("trailing blank", "12 ", false, 0),
+            row("empty", "", false, 0), row("sign only", "-", false, 0), row("dollar only", "$", false, 0),
+            row("0x only", "0x", false, 0), row("hex", "$1F", true, 31), row("hex lower case", "$ff", true, 255),
+            row("0x", "0x10", true, 16), row("0X", "0X10", true, 16), row("negative hex", "-$10", true, -16),
+            row("int max", "2147483647", true, std::numeric_limits<int>::max()),
+            row("int max + 1", "2147483648", false, 0),
+            row("int min", "-2147483648", true, std::numeric_limits<int>::min()),
+            row("int min - 1", "-2147483649", false, 0), row("hex all bits", "$FFFFFFFF", true, -1),
+            row("system colour", "$FF00000F", true, int(0xFF00000Fu - 0x100000000ll)),
+            row("hex too long", "$100000000", false, 0), row("fraction", "1.5", false, 0),
+            row("letters after", "12a", false, 0), row("bad hex digit", "$1G", false, 0),
+            row("non-ASCII digit", "\u0663", false, 0);
     }
 
     void strToInt()
@@ -146,27 +137,18 @@ private slots:
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<QString>("text");
-        QTest::newRow("0.75") << 0.75 << "0.75";
-        QTest::newRow("serial and half day") << 46082.5 << "46082.5";
-        QTest::newRow("1/3") << 1.0 / 3 << "0.333333333333333";
-        QTest::newRow("2/3") << 2.0 / 3 << "0.666666666666667";
-        QTest::newRow("0.1+0.2") << 0.1 + 0.2 << "0.3";
-        QTest::newRow("18 digits") << 123456789012345678.0 << "1.23456789012346E17";
-        QTest::newRow("1e15") << 1e15 << "1E15";
-        QTest::newRow("15 nines") << 999999999999999.0 << "999999999999999";
-        QTest::newRow("rounds up to 1e15") << 999999999999999.9 << "1E15";
-        QTest::newRow("1e-5") << 0.00001 << "0.00001";
-        QTest::newRow("1e-6") << 0.000001 << "1E-6";
-        QTest::newRow("1.5e20") << 1.5e20 << "1.5E20";
-        QTest::newRow("negative small") << -2.25e-7 << "-2.25E-7";
-        QTest::newRow("negative") << -12.5 << "-12.5";
-        QTest::newRow("zero") << 0.0 << "0";
-        QTest::newRow("negative zero") << -0.0 << "0";
-        QTest::newRow("tie rounds away from zero") << 12345678901234.25 << "12345678901234.3";
-        QTest::newRow("largest") << std::numeric_limits<double>::max() << "1.79769313486232E308";
-        QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << "NAN";
-        QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << "INF";
-        QTest::newRow("minus infinity") << -std::numeric_limits<double>::infinity() << "-INF";
+        row("0.75", 0.75, "0.75"), row("serial and half day", 46082.5, "46082.5"),
+            row("1/3", 1.0 / 3, "0.333333333333333"), row("2/3", 2.0 / 3, "0.666666666666667"),
+            row("0.1+0.2", 0.1 + 0.2, "0.3"), row("18 digits", 123456789012345678.0, "1.23456789012346E17"),
+            row("1e15", 1e15, "1E15"), row("15 nines", 999999999999999.0, "999999999999999"),
+            row("rounds up to 1e15", 999999999999999.9, "1E15"), row("1e-5", 0.00001, "0.00001"),
+            row("1e-6", 0.000001, "1E-6"), row("1.5e20", 1.5e20, "1.5E20"), row("negative small", -2.25e-7, "-2.25E-7"),
+            row("negative", -12.5, "-12.5"), row("zero", 0.0, "0"), row("negative zero", -0.0, "0"),
+            row("tie rounds away from zero", 12345678901234.25, "12345678901234.3"),
+            row("largest", std::numeric_limits<double>::max(), "1.79769313486232E308"),
+            row("NaN", std::numeric_limits<double>::quiet_NaN(), "NAN"),
+            row("infinity", std::numeric_limits<double>::infinity(), "INF"),
+            row("minus infinity", -std::numeric_limits<double>::infinity(), "-INF");
     }
 
     void floatToText()
@@ -180,14 +162,9 @@ private slots:
     {
         QTest::addColumn<float>("value");
         QTest::addColumn<QString>("text");
-        QTest::newRow("3.375") << 3.375f << "3.375";
-        QTest::newRow("0.1") << 0.1f << "0.1";
-        QTest::newRow("1.1") << 1.1f << "1.1";
-        QTest::newRow("negative zero") << -0.0f << "0";
-        QTest::newRow("negative") << -2.5f << "-2.5";
-        QTest::newRow("small") << 0.001f << "0.001";
-        QTest::newRow("large") << 1e10f << "10000000000";
-        QTest::newRow("2^24") << 16777216.0f << "16777216";
+        row("3.375", 3.375f, "3.375"), row("0.1", 0.1f, "0.1"), row("1.1", 1.1f, "1.1"),
+            row("negative zero", -0.0f, "0"), row("negative", -2.5f, "-2.5"), row("small", 0.001f, "0.001"),
+            row("large", 1e10f, "10000000000"), row("2^24", 16777216.0f, "16777216");
     }
 
     void singleToText()
@@ -206,29 +183,16 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("ok");
         QTest::addColumn<double>("value");
-        QTest::newRow("comma") << "0,5" << true << 0.5;
-        QTest::newRow("blanks") << " \t1.25 " << true << 1.25;
-        QTest::newRow("integer") << "-3" << true << -3.0;
-        QTest::newRow("plus") << "+3" << true << 3.0;
-        QTest::newRow("exponent") << "1E-2" << true << 0.01;
-        QTest::newRow("exponent with plus") << "1e+3" << true << 1000.0;
-        QTest::newRow("comma and exponent") << "2,5e1" << true << 25.0;
-        QTest::newRow("no integer part") << ".5" << true << 0.5;
-        QTest::newRow("no fraction digits") << "5." << true << 5.0;
-        QTest::newRow("written back") << FloatToText(2.0 / 3) << true << 0.666666666666667;
-        QTest::newRow("empty") << "" << false << 0.0;
-        QTest::newRow("blank") << "  " << false << 0.0;
-        QTest::newRow("separator only") << "," << false << 0.0;
-        QTest::newRow("garbage") << "abc" << false << 0.0;
-        QTest::newRow("two separators") << "1.2.3" << false << 0.0;
-        QTest::newRow("mixed separators") << "1,000.5" << false << 0.0;
-        QTest::newRow("inner blank") << "1 000" << false << 0.0;
-        QTest::newRow("exponent without digits") << "1e" << false << 0.0;
-        QTest::newRow("exponent only") << "e5" << false << 0.0;
-        QTest::newRow("two signs") << "--1" << false << 0.0;
-        QTest::newRow("hex") << "0x10" << false << 0.0;
-        QTest::newRow("NAN") << "NAN" << false << 0.0;
-        QTest::newRow("out of range") << "1e400" << false << 0.0;
+        row("comma", "0,5", true, 0.5), row("blanks", " \t1.25 ", true, 1.25), row("integer", "-3", true, -3.0),
+            row("plus", "+3", true, 3.0), row("exponent", "1E-2", true, 0.01),
+            row("exponent with plus", "1e+3", true, 1000.0), row("comma and exponent", "2,5e1", true, 25.0),
+            row("no integer part", ".5", true, 0.5), row("no fraction digits", "5.", true, 5.0),
+            row("written back", FloatToText(2.0 / 3), true, 0.666666666666667), row("empty", "", false, 0.0),
+            row("blank", "  ", false, 0.0), row("separator only", ",", false, 0.0), row("garbage", "abc", false, 0.0),
+            row("two separators", "1.2.3", false, 0.0), row("mixed separators", "1,000.5", false, 0.0),
+            row("inner blank", "1 000", false, 0.0), row("exponent without digits", "1e", false, 0.0),
+            row("exponent only", "e5", false, 0.0), row("two signs", "--1", false, 0.0), row("hex", "0x10", false, 0.0),
+            row("NAN", "NAN", false, 0.0), row("out of range", "1e400", false, 0.0);
     }
 
     void floatFromText()
@@ -245,11 +209,8 @@ private slots:
     {
         QTest::addColumn<int>("value");
         QTest::addColumn<QString>("text");
-        QTest::newRow("one digit") << 7 << "  7";
-        QTest::newRow("three digits") << 120 << "120";
-        QTest::newRow("four digits") << 1234 << "1234";
-        QTest::newRow("negative") << -5 << " -5";
-        QTest::newRow("zero") << 0 << "  0";
+        row("one digit", 7, "  7"), row("three digits", 120, "120"), row("four digits", 1234, "1234"),
+            row("negative", -5, " -5"), row("zero", 0, "  0");
     }
 
     void pad3()
@@ -265,11 +226,9 @@ private slots:
     {
         QTest::addColumn<QDate>("date");
         QTest::addColumn<double>("serial");
-        QTest::newRow("serial zero") << QDate(1899, 12, 30) << 0.0;
-        QTest::newRow("day before") << QDate(1899, 12, 29) << -1.0;
-        QTest::newRow("1900-01-01") << QDate(1900, 1, 1) << 2.0;
-        QTest::newRow("2000-01-01") << QDate(2000, 1, 1) << 36526.0;
-        QTest::newRow("2026-03-06") << QDate(2026, 3, 6) << 46087.0;
+        row("serial zero", QDate(1899, 12, 30), 0.0), row("day before", QDate(1899, 12, 29), -1.0),
+            row("1900-01-01", QDate(1900, 1, 1), 2.0), row("2000-01-01", QDate(2000, 1, 1), 36526.0),
+            row("2026-03-06", QDate(2026, 3, 6), 46087.0);
     }
 
     void dateToSerial()
@@ -284,12 +243,10 @@ private slots:
     {
         QTest::addColumn<double>("serial");
         QTest::addColumn<QDate>("date");
-        QTest::newRow("time of day") << 46087.75 << QDate(2026, 3, 6);
-        QTest::newRow("negative with time") << -1.5 << QDate(1899, 12, 29);
-        QTest::newRow("just below zero") << -0.25 << QDate(1899, 12, 30);
-        QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << QDate();
-        QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << QDate();
-        QTest::newRow("huge") << 1e300 << QDate();
+        row("time of day", 46087.75, QDate(2026, 3, 6)), row("negative with time", -1.5, QDate(1899, 12, 29)),
+            row("just below zero", -0.25, QDate(1899, 12, 30)),
+            row("NaN", std::numeric_limits<double>::quiet_NaN(), QDate()),
+            row("infinity", std::numeric_limits<double>::infinity(), QDate()), row("huge", 1e300, QDate());
     }
 
     void serialToDate()
@@ -305,26 +262,19 @@ private slots:
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("text");
         const QDate friday(2026, 3, 6);
-        auto row = [](const char *tag, QDate date, const QString &pattern, const QString &text) {
-            QTest::newRow(tag) << date << pattern << text;
-        };
-        row("day fields", friday, "d dd ddd dddd", "6 06 Fri Friday");
-        row("ddddd", friday, "ddddd", "3/6/2026");
-        row("dddddd", friday, "dddddd", "Friday, March 6, 2026");
-        row("eight d", friday, "dddddddd", "Friday, March 6, 2026");
-        row("month fields", friday, "m mm mmm mmmm", "3 03 Mar March");
-        row("year fields", friday, "y yy yyy yyyy", "26 26 2026 2026");
-        row("yy pads", QDate(2005, 11, 23), "yy", "05");
-        row("two-digit day and month", QDate(2005, 11, 23), "d/m", "23/11");
-        row("upper case", friday, "DD/MM/YYYY", "06/03/2026");
-        row("mixed case are two fields", friday, "dD", "66");
-        row("day and month", friday, DayMonthPattern, "6/3");
-        row("day date", friday, DayDatePattern, "Fri, March 6, 2026");
-        row("double-quoted text", friday, "\"day\" d", "day 6");
-        row("single-quoted text", friday, "'m' m", "m 3");
-        row("unclosed quote", friday, "d 'my", "6 my");
-        row("other characters", friday, "[d-m]", "[6-3]");
-        row("invalid date", QDate(), "d/m/yyyy", "");
+        row("day fields", friday, "d dd ddd dddd", "6 06 Fri Friday"), row("ddddd", friday, "ddddd", "3/6/2026"),
+            row("dddddd", friday, "dddddd", "Friday, March 6, 2026"),
+            row("eight d", friday, "dddddddd", "Friday, March 6, 2026"),
+            row("month fields", friday, "m mm mmm mmmm", "3 03 Mar March"),
+            row("year fields", friday, "y yy yyy yyyy", "26 26 2026 2026"),
+            row("yy pads", QDate(2005, 11, 23), "yy", "05"),
+            row("two-digit day and month", QDate(2005, 11, 23), "d/m", "23/11"),
+            row("upper case", friday, "DD/MM/YYYY", "06/03/2026"), row("mixed case are two fields", friday, "dD", "66"),
+            row("day and month", friday, DayMonthPattern, "6/3"),
+            row("day date", friday, DayDatePattern, "Fri, March 6, 2026"),
+            row("double-quoted text", friday, "\"day\" d", "day 6"), row("single-quoted text", friday, "'m' m", "m 3"),
+            row("unclosed quote", friday, "d 'my", "6 my"), row("other characters", friday, "[d-m]", "[6-3]"),
+            row("invalid date", QDate(), "d/m/yyyy", "");
     }
 
     void formatDate()
@@ -347,10 +297,7 @@ private slots:
     void shortDateFormat_data()
     {
         QTest::addColumn<QString>("format");
-        QTest::newRow("en_US") << "M/d/yyyy";
-        QTest::newRow("en_GB") << "dd/MM/yyyy";
-        QTest::newRow("de_DE") << "dd.MM.yyyy";
-        QTest::newRow("ko_KR") << "yyyy. M. d.";
+        row("en_US", "M/d/yyyy"), row("en_GB", "dd/MM/yyyy"), row("de_DE", "dd.MM.yyyy"), row("ko_KR", "yyyy. M. d.");
     }
 
     void shortDateFormat()
@@ -371,28 +318,23 @@ private slots:
         QTest::addColumn<QString>("localeName");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QDate>("date");
-        auto row = [](const char *tag, const QString &locale, const QString &text, QDate date) {
-            QTest::newRow(tag) << locale << text << date;
-        };
-        row("en_US four-digit year", "en_US", "3/6/2026", QDate(2026, 3, 6));
-        row("en_US leading zeros", "en_US", "03/06/2026", QDate(2026, 3, 6));
-        row("en_US two-digit year", "en_US", "3/6/26", QDate(2026, 3, 6));
-        row("en_US year 75", "en_US", "3/6/75", QDate(1975, 3, 6));
-        row("en_US year 49", "en_US", "3/6/49", QDate(2049, 3, 6));
-        row("en_US year 50", "en_US", "3/6/50", QDate(1950, 3, 6));
-        row("en_US leap day 00", "en_US", "2/29/00", QDate(2000, 2, 29));
-        row("en_US blanks around", "en_US", " 3/6/2026 ", QDate(2026, 3, 6));
-        row("en_US month 13", "en_US", "13/6/2026", QDate());
-        row("en_US no year", "en_US", "3/6", QDate());
-        row("en_US three-digit year", "en_US", "3/6/026", QDate());
-        row("en_US trailing text", "en_US", "3/6/2026x", QDate());
-        row("en_US empty", "en_US", "", QDate());
-        row("en_GB", "en_GB", "06/03/2026", QDate(2026, 3, 6));
-        row("en_GB two-digit year", "en_GB", "6/3/26", QDate(2026, 3, 6));
-        row("de_DE", "de_DE", "06.03.26", QDate(2026, 3, 6));
-        row("de_DE without zeros", "de_DE", "6.3.2026", QDate(2026, 3, 6));
-        row("de_DE 31 February", "de_DE", "31.02.2026", QDate());
-        row("ko_KR", "ko_KR", "26. 3. 6.", QDate(2026, 3, 6));
+        row("en_US four-digit year", "en_US", "3/6/2026", QDate(2026, 3, 6)),
+            row("en_US leading zeros", "en_US", "03/06/2026", QDate(2026, 3, 6)),
+            row("en_US two-digit year", "en_US", "3/6/26", QDate(2026, 3, 6)),
+            row("en_US year 75", "en_US", "3/6/75", QDate(1975, 3, 6)),
+            row("en_US year 49", "en_US", "3/6/49", QDate(2049, 3, 6)),
+            row("en_US year 50", "en_US", "3/6/50", QDate(1950, 3, 6)),
+            row("en_US leap day 00", "en_US", "2/29/00", QDate(2000, 2, 29)),
+            row("en_US blanks around", "en_US", " 3/6/2026 ", QDate(2026, 3, 6)),
+            row("en_US month 13", "en_US", "13/6/2026", QDate()), row("en_US no year", "en_US", "3/6", QDate()),
+            row("en_US three-digit year", "en_US", "3/6/026", QDate()),
+            row("en_US trailing text", "en_US", "3/6/2026x", QDate()), row("en_US empty", "en_US", "", QDate()),
+            row("en_GB", "en_GB", "06/03/2026", QDate(2026, 3, 6)),
+            row("en_GB two-digit year", "en_GB", "6/3/26", QDate(2026, 3, 6)),
+            row("de_DE", "de_DE", "06.03.26", QDate(2026, 3, 6)),
+            row("de_DE without zeros", "de_DE", "6.3.2026", QDate(2026, 3, 6)),
+            row("de_DE 31 February", "de_DE", "31.02.2026", QDate()),
+            row("ko_KR", "ko_KR", "26. 3. 6.", QDate(2026, 3, 6));
     }
 
     void parseShortDate()
@@ -407,11 +349,8 @@ private slots:
     {
         QTest::addColumn<QDate>("date");
         QTest::addColumn<int>("day");
-        QTest::newRow("Sunday") << QDate(2026, 3, 1) << 1;
-        QTest::newRow("Monday") << QDate(2026, 3, 2) << 2;
-        QTest::newRow("Friday") << QDate(2026, 3, 6) << 6;
-        QTest::newRow("Saturday") << QDate(2026, 3, 7) << 7;
-        QTest::newRow("invalid") << QDate() << 0;
+        row("Sunday", QDate(2026, 3, 1), 1), row("Monday", QDate(2026, 3, 2), 2), row("Friday", QDate(2026, 3, 6), 6),
+            row("Saturday", QDate(2026, 3, 7), 7), row("invalid", QDate(), 0);
     }
 
     void dayOfWeek()
@@ -427,18 +366,12 @@ private slots:
     {
         QTest::addColumn<quint32>("value");
         QTest::addColumn<QString>("text");
-        QTest::newRow("clBlack") << 0x000000u << "clBlack";
-        QTest::newRow("clRed") << 0x0000FFu << "clRed";
-        QTest::newRow("clMoneyGreen") << 0xC0DCC0u << "clMoneyGreen";
-        QTest::newRow("clMedGray") << 0xA4A0A0u << "clMedGray";
-        QTest::newRow("clScrollBar") << 0xFF000000u << "clScrollBar";
-        QTest::newRow("clBtnFace") << 0xFF00000Fu << "clBtnFace";
-        QTest::newRow("clInfoBk") << 0xFF000018u << "clInfoBk";
-        QTest::newRow("clNone") << 0x1FFFFFFFu << "clNone";
-        QTest::newRow("clDefault") << 0x20000000u << "clDefault";
-        QTest::newRow("unnamed colour") << 0x00123456u << "$00123456";
-        QTest::newRow("unnamed small") << 0x0000000Au << "$0000000A";
-        QTest::newRow("unnamed system colour") << 0xFF00001Au << "$FF00001A";
+        row("clBlack", 0x000000u, "clBlack"), row("clRed", 0x0000FFu, "clRed"),
+            row("clMoneyGreen", 0xC0DCC0u, "clMoneyGreen"), row("clMedGray", 0xA4A0A0u, "clMedGray"),
+            row("clScrollBar", 0xFF000000u, "clScrollBar"), row("clBtnFace", 0xFF00000Fu, "clBtnFace"),
+            row("clInfoBk", 0xFF000018u, "clInfoBk"), row("clNone", 0x1FFFFFFFu, "clNone"),
+            row("clDefault", 0x20000000u, "clDefault"), row("unnamed colour", 0x00123456u, "$00123456"),
+            row("unnamed small", 0x0000000Au, "$0000000A"), row("unnamed system colour", 0xFF00001Au, "$FF00001A");
     }
 
     void colorValueNames()
@@ -456,14 +389,10 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("ok");
         QTest::addColumn<quint32>("value");
-        QTest::newRow("lower-case name") << "clbtnface" << true << 0xFF00000Fu;
-        QTest::newRow("upper-case name") << "CLRED" << true << 0x0000FFu;
-        QTest::newRow("hex") << "$00FF8000" << true << 0x00FF8000u;
-        QTest::newRow("decimal") << "255" << true << 0x0000FFu;
-        QTest::newRow("negative decimal") << "-16777201" << true << 0xFF00000Fu;
-        QTest::newRow("unknown name") << "clBogus" << false << 0u;
-        QTest::newRow("empty") << "" << false << 0u;
-        QTest::newRow("HTML form") << "#FF0000" << false << 0u;
+        row("lower-case name", "clbtnface", true, 0xFF00000Fu), row("upper-case name", "CLRED", true, 0x0000FFu),
+            row("hex", "$00FF8000", true, 0x00FF8000u), row("decimal", "255", true, 0x0000FFu),
+            row("negative decimal", "-16777201", true, 0xFF00000Fu), row("unknown name", "clBogus", false, 0u),
+            row("empty", "", false, 0u), row("HTML form", "#FF0000", false, 0u);
     }
 
     void stringToColorValue()
@@ -480,12 +409,10 @@ private slots:
     {
         QTest::addColumn<QColor>("color");
         QTest::addColumn<QString>("text");
-        QTest::newRow("red") << QColor(255, 0, 0) << "clRed";
-        QTest::newRow("money green") << QColor(192, 220, 192) << "clMoneyGreen";
-        QTest::newRow("parts in BGR order") << QColor(0x12, 0x34, 0x56) << "$00563412";
-        QTest::newRow("button face is no name") << QColor(212, 208, 200) << "$00C8D0D4";
-        QTest::newRow("invalid") << QColor() << "clNone";
-        QTest::newRow("transparent") << QColor(0, 0, 0, 0) << "clNone";
+        row("red", QColor(255, 0, 0), "clRed"), row("money green", QColor(192, 220, 192), "clMoneyGreen"),
+            row("parts in BGR order", QColor(0x12, 0x34, 0x56), "$00563412"),
+            row("button face is no name", QColor(212, 208, 200), "$00C8D0D4"), row("invalid", QColor(), "clNone"),
+            row("transparent", QColor(0, 0, 0, 0), "clNone");
     }
 
     void colorToString()
@@ -499,18 +426,14 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QColor>("color");
-        QTest::newRow("clRed") << "clRed" << QColor(255, 0, 0);
-        QTest::newRow("clSkyBlue") << "clSkyBlue" << QColor(166, 202, 240);
-        QTest::newRow("hex in BGR order") << "$00563412" << QColor(0x12, 0x34, 0x56);
-        QTest::newRow("decimal blue") << "16711680" << QColor(0, 0, 255);
-        QTest::newRow("clBtnFace") << "clBtnFace" << QColor(212, 208, 200);
-        QTest::newRow("clHighlight") << "clHighlight" << QColor(10, 36, 106);
-        QTest::newRow("clInfoBk") << "clInfoBk" << QColor(255, 255, 225);
-        QTest::newRow("cl3DDkShadow") << "cl3DDkShadow" << QColor(64, 64, 64);
-        QTest::newRow("system colour by number") << "$FF000001" << QColor(58, 110, 165);
-        QTest::newRow("clNone") << "clNone" << QColor(0, 0, 0, 0);
-        QTest::newRow("clDefault") << "clDefault" << QColor(0, 0, 0);
-        QTest::newRow("garbage") << "garbage" << QColor();
+        row("clRed", "clRed", QColor(255, 0, 0)), row("clSkyBlue", "clSkyBlue", QColor(166, 202, 240)),
+            row("hex in BGR order", "$00563412", QColor(0x12, 0x34, 0x56)),
+            row("decimal blue", "16711680", QColor(0, 0, 255)), row("clBtnFace", "clBtnFace", QColor(212, 208, 200)),
+            row("clHighlight", "clHighlight", QColor(10, 36, 106)), row("clInfoBk", "clInfoBk", QColor(255, 255, 225)),
+            row("cl3DDkShadow", "cl3DDkShadow", QColor(64, 64, 64)),
+            row("system colour by number", "$FF000001", QColor(58, 110, 165)),
+            row("clNone", "clNone", QColor(0, 0, 0, 0)), row("clDefault", "clDefault", QColor(0, 0, 0)),
+            row("garbage", "garbage", QColor());
     }
 
     void stringToColor()
@@ -526,16 +449,10 @@ private slots:
     {
         QTest::addColumn<int>("byte");
         QTest::addColumn<int>("character");
-        QTest::newRow("euro") << 0x80 << 0x20AC;
-        QTest::newRow("undefined 0x81") << 0x81 << 0x81;
-        QTest::newRow("undefined 0x8D") << 0x8D << 0x8D;
-        QTest::newRow("right single quote") << 0x92 << 0x2019;
-        QTest::newRow("em dash") << 0x97 << 0x2014;
-        QTest::newRow("undefined 0x9D") << 0x9D << 0x9D;
-        QTest::newRow("Y diaeresis") << 0x9F << 0x178;
-        QTest::newRow("no-break space") << 0xA0 << 0xA0;
-        QTest::newRow("e acute") << 0xE9 << 0xE9;
-        QTest::newRow("y diaeresis") << 0xFF << 0xFF;
+        row("euro", 0x80, 0x20AC), row("undefined 0x81", 0x81, 0x81), row("undefined 0x8D", 0x8D, 0x8D),
+            row("right single quote", 0x92, 0x2019), row("em dash", 0x97, 0x2014), row("undefined 0x9D", 0x9D, 0x9D),
+            row("Y diaeresis", 0x9F, 0x178), row("no-break space", 0xA0, 0xA0), row("e acute", 0xE9, 0xE9),
+            row("y diaeresis", 0xFF, 0xFF);
     }
 
     void windows1252Bytes()
@@ -560,14 +477,10 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("canEncode");
-        QTest::newRow("ASCII") << "plain text" << true;
-        QTest::newRow("Latin-1") << "café" << true;
-        QTest::newRow("code page specials") << "€‚„…“”–—™" << true;
-        QTest::newRow("undefined byte") << QString(QChar(0x81)) << true;
-        QTest::newRow("C1 control with a byte taken") << QString(QChar(0x80)) << false;
-        QTest::newRow("Polish") << "Łódź" << false;
-        QTest::newRow("Japanese") << "日本" << false;
-        QTest::newRow("outside the BMP") << "\U0001F3AC" << false;
+        row("ASCII", "plain text", true), row("Latin-1", "café", true), row("code page specials", "€‚„…“”–—™", true),
+            row("undefined byte", QString(QChar(0x81)), true),
+            row("C1 control with a byte taken", QString(QChar(0x80)), false), row("Polish", "Łódź", false),
+            row("Japanese", "日本", false), row("outside the BMP", "\U0001F3AC", false);
     }
 
     void canEncodeWindows1252()
@@ -586,22 +499,22 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
-        QTest::newRow("ASCII") << QByteArray("Scene 12, INT.") << "Scene 12, INT.";
-        QTest::newRow("1252 e acute") << QByteArray("caf\xE9") << "café";
-        QTest::newRow("UTF-8 e acute") << QByteArray("caf\xC3\xA9") << "café";
-        QTest::newRow("UTF-8 after a long ASCII run") << QByteArray("0123456789abcdef\xC3\xA9") << "0123456789abcdefé";
-        QTest::newRow("1252 after a long ASCII run") << QByteArray("0123456789abcdef\xE9") << "0123456789abcdefé";
-        QTest::newRow("UTF-8 Japanese") << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC") << "日本";
-        QTest::newRow("byte order mark dropped") << QByteArray("\xEF\xBB\xBF"
-                                                               "abc")
-                                                 << "abc";
-        QTest::newRow("1252 quotes") << QByteArray("\x93quoted\x94") << "“quoted”";
-        QTest::newRow("UTF-8 then stray byte") << QByteArray("\xC3\xA9\xE9") << "Ã©é";
-        QTest::newRow("overlong form") << QByteArray("\xC0\xAF") << "À¯";
-        QTest::newRow("overlong three-byte form") << QByteArray("\xE0\x80\xAF") << "à€¯";
-        QTest::newRow("surrogate") << QByteArray("\xED\xA0\x80") << "í\u00A0€";
-        QTest::newRow("above U+10FFFF") << QByteArray("\xF4\x90\x80\x80") << "ô\u0090€€";
-        QTest::newRow("cut sequence") << QByteArray("\xE6\x97") << "æ—";
+        row("ASCII", QByteArray("Scene 12, INT."), "Scene 12, INT."),
+            row("1252 e acute", QByteArray("caf\xE9"), "café"), row("UTF-8 e acute", QByteArray("caf\xC3\xA9"), "café"),
+            row("UTF-8 after a long ASCII run", QByteArray("0123456789abcdef\xC3\xA9"), "0123456789abcdefé"),
+            row("1252 after a long ASCII run", QByteArray("0123456789abcdef\xE9"), "0123456789abcdefé"),
+            row("UTF-8 Japanese", QByteArray("\xE6\x97\xA5\xE6\x9C\xAC"), "日本"),
+            row("byte order mark dropped",
+                QByteArray("\xEF\xBB\xBF"
+                           "abc"),
+                "abc"),
+            row("1252 quotes", QByteArray("\x93quoted\x94"), "“quoted”"),
+            row("UTF-8 then stray byte", QByteArray("\xC3\xA9\xE9"), "Ã©é"),
+            row("overlong form", QByteArray("\xC0\xAF"), "À¯"),
+            row("overlong three-byte form", QByteArray("\xE0\x80\xAF"), "à€¯"),
+            row("surrogate", QByteArray("\xED\xA0\x80"), "í\u00A0€"),
+            row("above U+10FFFF", QByteArray("\xF4\x90\x80\x80"), "ô\u0090€€"),
+            row("cut sequence", QByteArray("\xE6\x97"), "æ—");
     }
 
     void decodeFileText()
@@ -615,11 +528,11 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("Latin-1 in 1252") << "café" << QByteArray("caf\xE9");
-        QTest::newRow("specials in 1252") << "“x” – €" << QByteArray("\x93x\x94 \x96 \x80");
-        QTest::newRow("Polish in UTF-8") << "Łódź" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA");
-        QTest::newRow("Japanese in UTF-8") << "日本" << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC");
-        QTest::newRow("one character decides") << "café 日" << QByteArray("caf\xC3\xA9 \xE6\x97\xA5");
+        row("Latin-1 in 1252", "café", QByteArray("caf\xE9")),
+            row("specials in 1252", "“x” – €", QByteArray("\x93x\x94 \x96 \x80")),
+            row("Polish in UTF-8", "Łódź", QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA")),
+            row("Japanese in UTF-8", "日本", QByteArray("\xE6\x97\xA5\xE6\x9C\xAC")),
+            row("one character decides", "café 日", QByteArray("caf\xC3\xA9 \xE6\x97\xA5"));
     }
 
     void encodeFileText()

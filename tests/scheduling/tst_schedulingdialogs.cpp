@@ -202,7 +202,6 @@ void TestSchedulingDialogs::bannerEdit()
     QCOMPARE(Kinds(doc), "1 4");
     QCOMPARE(doc.strips[row][StripField::StripColour], "clRed,$00C0FFEE"); // names kept as stored
     QCOMPARE(doc.strips[row][StripField::DayCount], "0");
-    QCOMPARE(doc.undoCaption, "Undo Edit banner");
 }
 
 void TestSchedulingDialogs::bannerPalette()
