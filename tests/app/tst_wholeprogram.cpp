@@ -5,13 +5,27 @@
 #include "app/MenuActions.h"
 #include "app/TfrmMain.h"
 #include "board/BoardView.h"
+#include "breakdown/TfrmAddElement.h"
+#include "breakdown/TfrmStrip.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
+#include "import/ImportCommandSteps.h"
+#include "import/TfrmFDImport.h"
+#include "import/TfrmImportScript.h"
+#include "scheduling/SchedulingMenu.h"
+#include "widgets/HelpWindow.h"
+#include "widgets/PanelStatusBar.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -23,6 +37,7 @@ using namespace tb::test;
 namespace {
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
+const QString ImportData = QStringLiteral(TB_SOURCE_DIR "/tests/import/data");
 
 // Entries of the reports that come with the call sheet, the day out of days and the
 // board printing: no subsystem serves them yet.
@@ -50,20 +65,30 @@ struct Program
         main->show();
         return QTest::qWaitFor([&] { return main->firstShowDone(); }, 5000);
     }
-    // Runs the trigger of a modal dialog and returns that dialog's caption; the dialog
-    // is cancelled.
-    QString dialogOf(const std::function<void()> &trigger)
+    // Runs the trigger of a modal dialog and returns that dialog's caption (empty when
+    // none opened). `step` runs on the dialog, which is then cancelled if still open.
+    QString dialogOf(const std::function<void()> &trigger, const std::function<void(QDialog *)> &step = {})
     {
+        // Polled: a command may spin the event loop (saving, say) before its dialog shows.
         QString caption;
-        QTimer::singleShot(0, [&] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-                caption = dialog->windowTitle();
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            poll.stop();
+            caption = dialog->windowTitle();
+            QCOMPARE(dialog->parentWidget(), main.get());
+            if (step)
+                step(dialog);
+            if (dialog->isVisible())
                 dialog->reject();
-            }
         });
+        poll.start(5);
         trigger();
         return caption;
     }
+    void trigger(const QString &entry) { main->findAction(entry)->trigger(); }
 
     ScheduleDocument doc;
     ScriptedPrompter prompter;
@@ -104,47 +129,298 @@ private Q_SLOTS:
         QCOMPARE(disabled, expected);
     }
 
+    void dialogsAreMadeOnce()
+    {
+        Program p;
+        const QList<TfrmStrip *> strips = p.main->findChildren<TfrmStrip *>();
+        QCOMPARE(strips.size(), 1);
+        QCOMPARE(p.main->findChildren<TfrmAddElement *>().size(), 1);
+        // The scene editor's "Add new..." uses the element menu's dialog.
+        QCOMPARE(strips.first()->elementDialog(), p.main->findChild<TfrmAddElement *>());
+        QCOMPARE(p.main->findChildren<SchedulingCommands *>().size(), 1);
+        QCOMPARE(p.main->findChildren<TfrmImportScript *>().size(), 1);
+        QCOMPARE(p.main->findChildren<TfrmFDImport *>().size(), 1);
+    }
+
     void entriesOpenTheirDialogs_data()
     {
         QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("edit scene") << "Editscene1" << QString("Edit scene breakdown #11");
-        QTest::newRow("add element") << "Addelement1" << QString("Add new element");
-        QTest::newRow("production details") << "Maindetails1" << QString("Production details");
-        QTest::newRow("auto pages") << "Automaticdaydividers1" << QString("Automatic day dividers");
-        QTest::newRow("rest days") << "Autorestdays1" << QString("Defualt rest days");
-        QTest::newRow("start date") << "Startdate1" << QString("Start date");
-        QTest::newRow("sort strips") << "Sortstrips1" << QString("Sort strips");
-        QTest::newRow("shooting schedule") << "Shootingschedule1" << QString("Print schedule");
-        QTest::newRow("import script") << "Importscript1" << QString("Script import (TXT file)");
+        QTest::addColumn<int>("selected");    // the strip selected; element 1 is selected too
+        QTest::addColumn<QString>("caption"); // empty: nothing opens
+        QTest::addColumn<QString>("help");    // the page F1 in the dialog opens; empty: not tried
+        QTest::newRow("edit scene") << "Editscene1" << 1 << "Edit scene breakdown #11"
+                                    << "scene-breakdown.html";
+        QTest::newRow("edit scene, pop-up") << "PopEditscene1" << 1 << "Edit scene breakdown #11"
+                                            << "";
+        QTest::newRow("edit scene on a divider") << "PopEditscene1" << 0 << ""
+                                                 << "";
+        QTest::newRow("add scene") << "Addscene1" << 1 << "New scene breakdown #"
+                                   << "";
+        QTest::newRow("add scene, pop-up") << "PopAddscene1" << 1 << "New scene breakdown #"
+                                           << "";
+        QTest::newRow("insert scene, pop-up") << "PopInsertscene1" << 1 << "New scene breakdown #"
+                                              << "";
+        QTest::newRow("add element") << "Addelement1" << 1 << "Add new element"
+                                     << "";
+        QTest::newRow("edit element, pop-up") << "PopEditelement1" << 1 << "Edit element \""
+                                              << "";
+        QTest::newRow("production details") << "Maindetails1" << 1 << "Production details"
+                                            << "";
+        QTest::newRow("auto pages") << "Automaticdaydividers1" << 1 << "Automatic day dividers"
+                                    << "";
+        QTest::newRow("rest days") << "Autorestdays1" << 1 << "Defualt rest days"
+                                   << "";
+        QTest::newRow("start date") << "Startdate1" << 1 << "Start date"
+                                    << "";
+        QTest::newRow("hold days") << "Holddays1" << 1 << "Hold days"
+                                   << "hold-days.html";
+        QTest::newRow("sort strips") << "Sortstrips1" << 1 << "Sort strips"
+                                     << "";
+        QTest::newRow("conform strip order") << "Conformstriporder1" << 1 << "Conform strip order"
+                                             << "";
+        QTest::newRow("shooting schedule") << "Shootingschedule1" << 1 << "Print schedule"
+                                           << "shooting-schedule.html";
+        QTest::newRow("breakdown sheets") << "Breakdownsheets1" << 1 << "Print script breakdown sheets"
+                                          << "breakdown-sheets.html";
+        QTest::newRow("element summary") << "Elementsummary1" << 1 << "Print element summary"
+                                         << "element-summary.html";
+        QTest::newRow("import script") << "Importscript1" << 1 << "Script import (TXT file)"
+                                       << "import-script.html";
     }
 
     void entriesOpenTheirDialogs()
     {
         QFETCH(QString, entry);
+        QFETCH(int, selected);
         QFETCH(QString, caption);
+        QFETCH(QString, help);
         Program p;
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
-        p.doc.SelStart = p.doc.SelEnd = 1;
+        if (!selected) { // the first day divider
+            for (int i = 1; i <= p.doc.strips.count() && !selected; ++i)
+                if (p.doc.strips[i].isDayDivider())
+                    selected = i;
+        }
+        p.doc.SelStart = p.doc.SelEnd = selected;
+        p.doc.SelElement = 1;
         SetModified(p.doc);
         ClearModified(p.doc);
-        QCOMPARE(p.dialogOf([&] { p.main->findAction(entry)->trigger(); }), caption);
+        const QString shown = p.dialogOf([&] { p.trigger(entry); },
+                                         [&](QDialog *dialog) {
+                                             if (help.isEmpty())
+                                                 return;
+                                             dialog->activateWindow();
+                                             QVERIFY(QTest::qWaitForWindowActive(dialog));
+                                             QTest::keyClick(dialog, Qt::Key_F1);
+                                         });
+        if (caption.endsWith('#') || caption.endsWith('"'))
+            QVERIFY2(shown.startsWith(caption), qPrintable(shown));
+        else
+            QCOMPARE(shown, caption);
+        if (!help.isEmpty()) {
+            QVERIFY(p.main->helpWindow());
+            QCOMPARE(p.main->helpWindow()->currentPage(), help);
+        }
     }
 
-    void doubleClickOnABannerEditsIt()
+    void sceneEntriesAddWhereTheyShould_data()
     {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("menu") << "Addscene1"
+                              << "1 3 2";
+        QTest::newRow("pop-up") << "PopAddscene1"
+                                << "1 3 2";
+        QTest::newRow("insert, pop-up") << "PopInsertscene1"
+                                        << "1 2 3";
+    }
+
+    void sceneEntriesAddWhereTheyShould()
+    {
+        QFETCH(QString, entry);
+        Program p;
+        AddScene(p.doc, "1", "1");
+        AddScene(p.doc, "3", "1");
+        p.doc.SelStart = p.doc.SelEnd = 2;
+        SetModified(p.doc);
+        p.dialogOf([&] { p.trigger(entry); },
+                   [](QDialog *dialog) {
+                       QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "2");
+                       dialog->findChild<QPushButton *>("OKBut")->click();
+                   });
+        QStringList order;
+        for (int i = 1; i <= p.doc.strips.count(); ++i)
+            order.append(p.doc.strips[i][StripField::SceneNumber]);
+        QTEST(order.join(u' '), "order");
+    }
+
+    void entriesRunTheirOperations_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("strips");   // Kinds() after
+        QTest::addColumn<QString>("elements"); // descriptions and board ids after
+        const QString kinds = "1 1 2 4";
+        const QString elements = "ANNA=5 LAMP=Prp BEN=6";
+        QTest::newRow("add day divider, pop-up") << "PopAdddaydivider1"
+                                                 << "1 1 2 4 2" << elements;
+        QTest::newRow("remove day dividers") << "Removealldaydividers1"
+                                             << "1 1 4" << elements;
+        QTest::newRow("remove banners") << "Removeallbanners1"
+                                        << "1 1 2" << elements;
+        QTest::newRow("reset cast numbering") << "Reordercastnumbering1" << kinds << "ANNA=1 LAMP=Prp BEN=2";
+        QTest::newRow("sort elements") << "Sortelements1" << kinds << "ANNA=5 BEN=6 LAMP=Prp";
+    }
+
+    void entriesRunTheirOperations()
+    {
+        QFETCH(QString, entry);
+        Program p;
+        AddScene(p.doc, "2", "1");
+        AddScene(p.doc, "1", "1");
+        AddDivider(p.doc);
+        AddBanner(p.doc, "Travel");
+        AddElement(p.doc, "ANNA", 1, "5");
+        AddElement(p.doc, "LAMP", 5, "Prp");
+        AddElement(p.doc, "BEN", 1, "6");
+        p.doc.SelStart = p.doc.SelEnd = 1;
+        SetModified(p.doc);
+        p.trigger(entry); // questions answered Yes
+        QTEST(Kinds(p.doc), "strips");
+        QStringList elements;
+        for (int i = 1; i <= p.doc.elements.count(); ++i)
+            elements.append(p.doc.elements[i][ElementField::Description] + "=" +
+                            p.doc.elements[i][ElementField::BoardId]);
+        QTEST(elements.join(u' '), "elements");
+
+        p.trigger("Resetbreakdownnumbering1");
+        QCOMPARE(p.doc.undo.levels[1].label, "reset breakdown numbering");
+    }
+
+    // A double click on the board edits the scene, or the banner when a banner is the
+    // selection.
+    void doubleClickEditsTheSelection_data()
+    {
+        QTest::addColumn<bool>("bannerRequest");
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("scene") << false << 1 << "Edit scene breakdown #1";
+        QTest::newRow("banner") << true << 2 << "Banner";
+        QTest::newRow("banner request on a scene") << true << 1 << "";
+    }
+
+    void doubleClickEditsTheSelection()
+    {
+        QFETCH(bool, bannerRequest);
         Program p;
         QVERIFY(p.start());
-        QVERIFY(OpenDocument(p.doc, Example).ok());
-        int banner = 0;
-        for (int i = 1; i <= p.doc.strips.count() && !banner; ++i)
-            if (p.doc.strips[i].isBanner())
-                banner = i;
-        QVERIFY(banner > 0);
-        p.doc.SelStart = p.doc.SelEnd = banner;
+        AddScene(p.doc, "1", "1");
+        AddBanner(p.doc, "Travel");
+        QFETCH(int, selected);
+        p.doc.SelStart = p.doc.SelEnd = selected;
         SetModified(p.doc);
-        QCOMPARE(p.dialogOf([&] { Q_EMIT p.main->board()->editBannerRequested(); }), "Banner");
+        BoardView *board = p.main->board();
+        QTEST(p.dialogOf([&] {
+            if (bannerRequest)
+                Q_EMIT board->editBannerRequested();
+            else
+                Q_EMIT board->editSceneRequested();
+        }),
+              "caption");
+    }
+
+    void finalDraftImport_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<int>("saves");
+        QTest::addColumn<bool>("imports");
+        QTest::newRow("Yes saves first") << Answer::Yes << 1 << true;
+        QTest::newRow("Cancel") << Answer::Cancel << 0 << false;
+    }
+
+    void finalDraftImport()
+    {
+        QFETCH(Answer, answer);
+        QFETCH(int, saves);
+        QFETCH(bool, imports);
+        Program p;
+        QVERIFY(p.start());
+        AddScene(p.doc, "99", "3");
+        const QString file = TempPath("before-final-draft.tbf"); // Save writes here, no dialog
+        QVERIFY(SaveDocument(p.doc, file).ok());
+        p.doc.FileName = file;
+        SetModified(p.doc);
+        p.prompter.answers = {answer};
+        QSignalSpy save(p.main->findAction("Save1"), &QAction::triggered);
+        PanelStatusBar *status = p.main->statusPanels();
+        QString statusWhileShown;
+        int stripsWhileShown = -1;
+        const QString caption = p.dialogOf(
+            [&] { p.trigger("ImportFinalDraft1"); },
+            [&](QDialog *dialog) {
+                statusWhileShown = status->panelText(StatusSink::MessagePanel);
+                stripsWhileShown = p.doc.strips.count();
+                dialog->findChild<QLineEdit *>("SceneEdit")->setText(QDir(ImportData).filePath("fd-scene-report.txt"));
+                dialog->findChild<QLineEdit *>("ScriptEdit")
+                    ->setText(QDir(ImportData).filePath("fd-script-report.txt"));
+                dialog->findChild<QPushButton *>("ImportBut")->click();
+            });
+        QCOMPARE(p.prompter.texts(), QStringList{FinalDraftSaveQuestion});
+        QCOMPARE(save.count(), saves);
+        QCOMPARE(!caption.isEmpty(), imports);
+        if (imports) {
+            QCOMPARE(statusWhileShown, "Importing script...");
+            QCOMPARE(stripsWhileShown, 0); // emptied before the dialog
+            QCOMPARE(status->panelText(StatusSink::MessagePanel), "");
+            QCOMPARE(p.doc.strips.count(), 5);
+        } else {
+            QCOMPARE(p.doc.strips.count(), 1);
+        }
+    }
+
+    // The wizard asks about unsaved changes only at Import!, so that cancelling there
+    // keeps the open schedule and the wizard.
+    void scriptImportAsksAtImport()
+    {
+        QTemporaryDir folder;
+        {
+            QFile script(QDir(folder.path()).filePath("kitchen.txt"));
+            QVERIFY(script.open(QIODevice::WriteOnly));
+            script.write("FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n"
+                         "EXT. BARN - DAY\n\n          JOHN\n    Later.\n");
+        }
+        Program p;
+        QVERIFY(p.start());
+        AddScene(p.doc, "99", "3");
+        SetModified(p.doc);
+        p.prompter.answers = {Answer::Cancel, Answer::No};
+        QSignalSpy save(p.main->findAction("Save1"), &QAction::triggered);
+        auto *wizard = p.main->findChild<TfrmImportScript *>();
+        wizard->setDirectory(folder.path());
+        const auto next = [wizard] { wizard->findChild<QPushButton *>("NextBut")->click(); };
+        p.dialogOf([&] { p.trigger("Importscript1"); },
+                   [&](QDialog *) {
+                       next();
+                       auto *files = wizard->findChild<QListWidget *>("FileListBox1");
+                       files->setCurrentItem(files->findItems("kitchen.txt", Qt::MatchExactly).value(0));
+                       QVERIFY(wizard->selectedFile().endsWith("kitchen.txt"));
+                       next();
+                       next();
+                       next();
+                       next(); // Import!, Cancel on the question
+                       QVERIFY(wizard->isVisible());
+                       QCOMPARE(p.doc.strips[1][StripField::SceneNumber], "99");
+                       next(); // Import! again, No: imported without saving
+                   });
+        QCOMPARE(p.prompter.texts(), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
+        QCOMPARE(save.count(), 0);
+        QCOMPARE(wizard->result(), int(QDialog::Accepted));
+        QCOMPARE(p.doc.strips.count(), 2);
+        QCOMPARE(p.doc.strips[1][StripField::Location], "KITCHEN");
+        // The window keeps its message panel; "Modified" reaches it.
+        QCOMPARE(p.main->statusPanels()->panelText(StatusSink::ModifiedPanel), "Modified");
+        QVERIFY(!p.main->statusPanels()->panelText(StatusSink::MessagePanel).startsWith("Import progress"));
+        QVERIFY(!QApplication::overrideCursor());
     }
 };
 

@@ -1,15 +1,10 @@
 #include "ImportTestSupport.h"
 
-#include "app/CommandHost.h"
-#include "app/MenuActions.h"
 #include "document/DocumentOperations.h"
 #include "import/FinalDraftImport.h"
-#include "import/ImportCommandSteps.h"
-#include "import/InstallImportCommands.h"
 #include "import/TfrmFDImport.h"
 #include "import/TfrmImportScript.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -26,8 +21,6 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
-
-#include <cstdlib>
 
 using namespace tb;
 using namespace tb::test;
@@ -91,40 +84,6 @@ void SelectFile(TfrmImportScript &wizard, const QString &name)
     QCOMPARE(wizard.selectedFile(), QDir(wizard.directory()).filePath(name));
 }
 
-// The main window as the import commands see it.
-class FakeHost : public CommandHost
-{
-public:
-    FakeHost()
-    {
-        for (const char *name : {actions::Save1, actions::Importscript1, actions::ImportFinalDraft1}) {
-            auto *a = new QAction(&mainWindow);
-            a->setObjectName(QString::fromLatin1(name));
-            m_actions.insert(QByteArray(name), a);
-        }
-        QObject::connect(m_actions.value(actions::Save1), &QAction::triggered, [this] { ++saves; });
-        doc.setPrompter(&prompter);
-        doc.setStatusSink(&status);
-    }
-    ScheduleDocument &document() override { return doc; }
-    QWidget *window() override { return &mainWindow; }
-    QAction *action(const char *objectName) override { return m_actions.value(QByteArray(objectName)); }
-    Settings &settings() override { std::abort(); } // the import commands read no preferences
-    void repaintBoard() override { ++repaints; }
-    void showHelp(const QString &page) override { help.append(page); }
-
-    QWidget mainWindow;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    RecordingStatus status;
-    int saves = 0;
-    int repaints = 0;
-    QStringList help;
-
-private:
-    QHash<QByteArray, QAction *> m_actions;
-};
-
 } // namespace
 
 class TestImportDialogs : public QObject
@@ -138,9 +97,6 @@ private Q_SLOTS:
     void wizardFont();
     void wizardWordLists();
     void finalDraftDialog();
-    void menuCommandFinalDraft_data();
-    void menuCommandFinalDraft();
-    void menuCommandScript();
 };
 
 void TestImportDialogs::wizardPages()
@@ -398,117 +354,6 @@ void TestImportDialogs::finalDraftDialog()
     QVERIFY(import->isEnabled());
     QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
-}
-
-void TestImportDialogs::menuCommandFinalDraft_data()
-{
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("imports");
-    QTest::addColumn<int>("saves");
-    QTest::newRow("Yes saves first") << Answer::Yes << true << 1;
-    QTest::newRow("No") << Answer::No << true << 0;
-    QTest::newRow("Cancel") << Answer::Cancel << false << 0;
-}
-
-void TestImportDialogs::menuCommandFinalDraft()
-{
-    QFETCH(Answer, answer);
-    QFETCH(bool, imports);
-    QFETCH(int, saves);
-
-    FakeHost host;
-    InstallImportCommands(host);
-    AddScene(host.doc, QStringLiteral("99"), QStringLiteral("3"));
-    SetModified(host.doc);
-    host.prompter.answers = {answer};
-
-    bool shown = false;
-    QString statusWhileShown;
-    QTimer::singleShot(0, &host.mainWindow, [&] {
-        auto *dialog = host.mainWindow.findChild<TfrmFDImport *>();
-        if (!dialog || !dialog->isVisible())
-            return;
-        shown = true;
-        statusWhileShown = host.status.panels.value(StatusSink::MessagePanel);
-        QCOMPARE(host.doc.strips.count(), 0); // emptied before the dialog
-        child<QLineEdit>(dialog, "SceneEdit")->setText(QDir(DataDir).filePath("fd-scene-report.txt"));
-        child<QLineEdit>(dialog, "ScriptEdit")->setText(QDir(DataDir).filePath("fd-script-report.txt"));
-        QTest::mouseClick(child<QPushButton>(dialog, "ImportBut"), Qt::LeftButton);
-    });
-    host.action(actions::ImportFinalDraft1)->trigger();
-    if (!imports) // the timer is still pending: let it find no dialog
-        QTest::qWait(10);
-
-    QCOMPARE(host.prompter.texts(), QStringList{FinalDraftSaveQuestion});
-    QCOMPARE(host.saves, saves);
-    QCOMPARE(shown, imports);
-    if (imports) {
-        QCOMPARE(statusWhileShown, QStringLiteral("Importing script..."));
-        QCOMPARE(host.status.panels.value(StatusSink::MessagePanel), QString());
-        QCOMPARE(host.doc.strips.count(), 5);
-        QCOMPARE(host.repaints, 1);
-    } else {
-        QCOMPARE(host.doc.strips.count(), 1);
-        QCOMPARE(host.repaints, 0);
-    }
-}
-
-void TestImportDialogs::menuCommandScript()
-{
-    ScriptFolder folder;
-    FakeHost host;
-    InstallImportCommands(host);
-    AddScene(host.doc, "99", "3");
-    SetModified(host.doc);
-    host.prompter.answers = {Answer::Cancel, Answer::No};
-
-    TfrmImportScript *wizard = nullptr;
-    QTimer::singleShot(0, &host.mainWindow, [&] {
-        wizard = host.mainWindow.findChild<TfrmImportScript *>();
-        QVERIFY(wizard && wizard->isVisible());
-        wizard->setDirectory(folder.dir.path());
-        Click(wizard, "NextBut");
-        SelectFile(*wizard, "kitchen.txt");
-        Click(wizard, "NextBut");
-        child<QSpinBox>(wizard, "LinesSpin")->setValue(7);
-        Click(wizard, "NextBut");
-        Click(wizard, "NextBut");
-        // Import!, Cancel on the question: the wizard stays, the schedule too.
-        Click(wizard, "NextBut");
-        QVERIFY(wizard->isVisible());
-        QCOMPARE(host.doc.strips[1][StripField::SceneNumber], "99");
-        // Import! again, No: the import goes ahead without saving.
-        Click(wizard, "NextBut");
-    });
-    host.action(actions::Importscript1)->trigger();
-
-    QCOMPARE(host.prompter.texts(), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
-    QCOMPARE(host.saves, 0);
-    QVERIFY(!wizard->isVisible());
-    QCOMPARE(wizard->result(), int(QDialog::Accepted));
-    QCOMPARE(host.doc.strips.count(), 2);
-    QCOMPARE(host.doc.strips[1][StripField::Location], "KITCHEN");
-    QCOMPARE(host.doc.strips[2][StripField::Location], "BARN");
-    // Seven lines a page: the kitchen scene runs 7 lines, one page.
-    QCOMPARE(host.doc.strips[1][StripField::PageLength], "1");
-    QCOMPARE(host.doc.elements.count(), 2);
-    QCOMPARE(host.repaints, 1);
-    QCOMPARE(child<QLabel>(wizard, "ImportLab")->text(), "Import progress : 3 - BARN");
-    QCOMPARE(child<QProgressBar>(wizard, "PBar")->value(), 100);
-    // The main window keeps its message panel; "Modified" reaches it.
-    QCOMPARE(host.status.panels.value(StatusSink::ModifiedPanel), "Modified");
-    QVERIFY(!host.status.panels.value(StatusSink::MessagePanel).startsWith("Import progress"));
-    QVERIFY(&host.doc.status() == &host.status);
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-    QCOMPARE(host.prompter.prompts.size(), 2);
-
-    // F1 in either dialog asks the window for its help page.
-    wizard->show();
-    QTest::keyClick(wizard, Qt::Key_F1);
-    auto *finalDraft = host.mainWindow.findChild<TfrmFDImport *>();
-    finalDraft->show();
-    QTest::keyClick(finalDraft, Qt::Key_F1);
-    QCOMPARE(host.help, (QStringList{"import-script.html", "final-draft-import.html"}));
 }
 
 QTEST_MAIN(TestImportDialogs)

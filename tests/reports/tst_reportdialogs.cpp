@@ -2,8 +2,6 @@
 
 #include "TestSupport.h"
 
-#include "app/CommandHost.h"
-#include "app/MenuActions.h"
 #include "document/ScheduleFile.h"
 #include "reports/AlPreview.h"
 #include "reports/AlPrinter.h"
@@ -19,7 +17,6 @@
 #include "ui_TfrmPrintBS.h"
 #include "ui_TfrmShootSch.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
@@ -69,40 +66,6 @@ int pdfPages(const QString &path)
                data.count("/Type /Page ") - data.count("/Type /Pages "));
 }
 
-class FakeHost : public CommandHost
-{
-public:
-    explicit FakeHost(ScheduleDocument &doc)
-        : m_doc(doc)
-    {
-        for (const char *name : {actions::Breakdownsheets1, actions::Elementsummary1, actions::Shootingschedule1}) {
-            auto *action = new QAction(&m_window);
-            action->setObjectName(QString::fromLatin1(name));
-            m_actions.append(action);
-        }
-    }
-    ScheduleDocument &document() override { return m_doc; }
-    QWidget *window() override { return &m_window; }
-    QAction *action(const char *objectName) override
-    {
-        for (QAction *a : m_actions)
-            if (a->objectName() == QLatin1String(objectName))
-                return a;
-        return nullptr;
-    }
-    // The report commands never ask for the settings.
-    Settings &settings() override { return *static_cast<Settings *>(nullptr); }
-    void repaintBoard() override {}
-    void showHelp(const QString &page) override { helpPages.append(page); }
-
-    QStringList helpPages;
-
-private:
-    ScheduleDocument &m_doc;
-    QWidget m_window;
-    QList<QAction *> m_actions;
-};
-
 } // namespace
 
 class TestReportDialogs : public QObject
@@ -124,7 +87,6 @@ private Q_SLOTS:
     void breakdownDialogSpecificSheets();
     void elementSummaryDialogCategories();
     void progressWindow();
-    void menuEntriesOpenTheirDialogs();
 
 private:
     ScheduleDocument m_doc;
@@ -438,29 +400,6 @@ void TestReportDialogs::progressWindow()
     QCOMPARE(window.PrintGuage()->value(), 40);
     window.hideProgress();
     QVERIFY(!window.isVisible());
-}
-
-void TestReportDialogs::menuEntriesOpenTheirDialogs()
-{
-    FakeHost host(m_doc);
-    InstallReportCommands(host);
-    const QList<std::pair<const char *, const char *>> entries = {{actions::Breakdownsheets1, "tb::TfrmPrintBS"},
-                                                                  {actions::Elementsummary1, "tb::TfrmElUse"},
-                                                                  {actions::Shootingschedule1, "tb::TfrmShootSch"}};
-    for (const auto &[action, dialogClass] : entries) {
-        QString shown;
-        QTimer::singleShot(0, [&] {
-            QWidget *modal = QApplication::activeModalWidget();
-            if (!modal)
-                return;
-            shown = QString::fromLatin1(modal->metaObject()->className());
-            QTest::keyClick(modal, Qt::Key_F1);
-            static_cast<QDialog *>(modal)->reject();
-        });
-        host.action(action)->trigger();
-        QCOMPARE(shown, QString::fromLatin1(dialogClass));
-    }
-    QCOMPARE(host.helpPages, QStringList({"breakdown-sheets.html", "element-summary.html", "shooting-schedule.html"}));
 }
 
 QTEST_MAIN(TestReportDialogs)

@@ -1,10 +1,7 @@
 #include "SchedulingTestView.h"
 
-#include "app/CommandHost.h"
-#include "app/MenuActions.h"
 #include "document/DocumentOperations.h"
 #include "scheduling/ColourButton.h"
-#include "scheduling/SchedulingMenu.h"
 #include "scheduling/TfrmAutoPages.h"
 #include "scheduling/TfrmBanner.h"
 #include "scheduling/TfrmCalender.h"
@@ -20,7 +17,6 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -28,8 +24,6 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
-
-#include <cstdlib>
 
 using namespace tb;
 using namespace tb::test;
@@ -57,37 +51,6 @@ void clickInModal(const char *button, std::function<void(QWidget *)> before = {}
     });
 }
 
-// The main window as far as the scheduling commands see it: an action for every name
-// asked for, and a help request log.
-class TestHost : public CommandHost
-{
-public:
-    explicit TestHost(ScheduleDocument &doc)
-        : m_doc(doc)
-    {}
-    ScheduleDocument &document() override { return m_doc; }
-    QWidget *window() override { return &m_window; }
-    QAction *action(const char *name) override
-    {
-        QAction *found = m_window.findChild<QAction *>(QString::fromLatin1(name));
-        if (!found) {
-            found = new QAction(QString::fromLatin1(name), &m_window);
-            found->setObjectName(QString::fromLatin1(name));
-        }
-        return found;
-    }
-    Settings &settings() override { std::abort(); } // the scheduling commands use no settings
-    void repaintBoard() override { ++repaints; }
-    void showHelp(const QString &page) override { help.append(page); }
-
-    int repaints = 0;
-    QStringList help;
-
-private:
-    ScheduleDocument &m_doc;
-    QMainWindow m_window;
-};
-
 } // namespace
 
 class TestSchedulingDialogs : public QObject
@@ -106,7 +69,6 @@ private Q_SLOTS:
     void holdDays();
     void lock();
     void inertDialogs();
-    void menuCommands();
 };
 
 void TestSchedulingDialogs::autoPages()
@@ -408,62 +370,6 @@ void TestSchedulingDialogs::inertDialogs()
     QVERIFY(!eod.isVisible());
     QCOMPARE(eod.result(), int(QDialog::Accepted));
     QVERIFY(!doc.Modified);
-}
-
-void TestSchedulingDialogs::menuCommands()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    AddScene(doc, "1", "1");
-    TestHost host(doc);
-    InstallSchedulingCommands(host);
-    InstallSchedulingCommands(host); // once only
-    QCOMPARE(host.window()->findChildren<SchedulingCommands *>().size(), 1);
-    SchedulingCommands *commands = FindSchedulingCommands(host);
-    QVERIFY(commands);
-    QCOMPARE(commands->bannerDialog()->parentWidget(), host.window());
-    commands->setBannerColours({"clAqua", "clMaroon"});
-
-    host.action(actions::PopAdddaydivider1)->trigger();
-    QCOMPARE(Kinds(doc), "1 2");
-    host.action(actions::Insertdaydivider1)->trigger(); // no selection
-    QCOMPARE(prompter.texts().last(),
-             "Ooops! You need to first select a position to insert the day divider. Please try again.");
-
-    clickInModal("OKBut", [](QWidget *modal) {
-        QCOMPARE(modal->windowTitle(), "Banner");
-        child<QLineEdit>(modal, "BannerTextEdit")->setText("Wrap");
-    });
-    host.action(actions::Addbanner1)->trigger();
-    QCOMPARE(Kinds(doc), "1 2 4");
-    QCOMPARE(doc.strips[3][StripField::StripColour], "clAqua,clMaroon");
-
-    host.action(actions::EditBanner1)->trigger(); // nothing selected
-    QCOMPARE(prompter.texts().last(), "You need to select a banner before you can edit it.");
-
-    doc.SelStart = doc.SelEnd = 3;
-    clickInModal("OKBut", [](QWidget *modal) {
-        QCOMPARE(child<QLineEdit>(modal, "BannerTextEdit")->text(), "Wrap");
-        child<QLineEdit>(modal, "BannerTextEdit")->setText("Wrap party");
-    });
-    host.action(actions::EditBanner1)->trigger();
-    QCOMPARE(doc.strips[3][StripField::Synopsis], "Wrap party");
-
-    clickInModal("CancelBut");
-    host.action(actions::Startdate1)->trigger();
-    QCOMPARE(host.repaints, 1); // repainted after the dialog, even on Cancel
-
-    host.action(actions::PopLockstrip1)->trigger(); // no start date: refused before it opens
-    QVERIFY(prompter.texts().last().startsWith("You cannot lock strip(s) to a specific date yet"));
-
-    clickInModal("OKBut", [](QWidget *modal) { QTest::keyClick(modal, Qt::Key_F1); });
-    host.action(actions::Holddays1)->trigger();
-    QCOMPARE(host.help, QStringList{"hold-days.html"});
-
-    prompter.answers = {Answer::Yes};
-    host.action(actions::Removeallbanners1)->trigger();
-    QCOMPARE(Kinds(doc), "1 2");
 }
 
 QTEST_MAIN(TestSchedulingDialogs)
