@@ -11,7 +11,8 @@ packages=(
     libbenchmark-dev    # bench/
     fonts-liberation2   # metric-compatible "Arial" and "Courier New" for the board and reports
     xvfb                # screenshots of the desktop program
-    poppler-utils       # pdftoppm, to look at rendered reports
+    poppler-utils       # pdftoppm and pdftotext: looking at and comparing rendered reports
+    python3             # scripts/make-example.py, used by the output comparison
 )
 
 missing=()

@@ -73,8 +73,8 @@ def blank_strip():
     return [""] * 20
 
 
-def main(path):
-    rng = random.Random(7)
+def main(path, seed=7):
+    rng = random.Random(seed)
     lines = [HEADER, "1.0", "Harbour Lights", "Brenholt Pictures Ltd", "Anna Kerrow", "Declan Mayhew",
              "Ruth Sandoval", "Peter Okafor", "Harbour Lights - shooting script, blue revision"]
     start = datetime.date(2027, 4, 5)  # a Monday
@@ -170,4 +170,5 @@ def main(path):
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
+    # A second argument gives another seed: a different, equally valid schedule.
+    main(sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 7)

@@ -1,0 +1,128 @@
+#!/usr/bin/env bash
+# Runs every whole-document command of torvanbridge-cli on the example schedule, on
+# generated schedules and on the shared screenplays, and writes one line per output
+# (its name and a checksum) to a manifest. Two manifests that compare equal mean the
+# commands gave the same bytes.
+#
+#   scripts/golden-outputs.sh CLI OUTDIR            write OUTDIR/outputs/* and OUTDIR/MANIFEST
+#   scripts/golden-outputs.sh CLI OUTDIR --check F  ... and compare the manifest with F
+#
+# PDF files carry their creation time, so they are compared by their text (pdftotext)
+# and page count; everything else is compared byte for byte.
+set -uo pipefail
+
+cli=$(realpath "$1")
+out=$(realpath -m "$2")
+check=""
+[ "${3:-}" = "--check" ] && check=$(realpath "$4")
+
+top=$(cd "$(dirname "$0")/.." && pwd)
+shared="$top/../shared/screenplays"
+data="$top/tests/import/data"
+
+rm -rf "$out"
+mkdir -p "$out/outputs" "$out/work"
+cd "$out/work" || exit 2
+
+# Settings come from a private, empty folder so that the user's own never change the result.
+export HOME="$out/home" XDG_CONFIG_HOME="$out/home/config" XDG_DATA_HOME="$out/home/data"
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANG=C.UTF-8 TZ=UTC
+
+run() { # run NAME ARGS...: stdout, stderr and exit code of one command
+    local name=$1
+    shift
+    "$cli" --locale en_GB "$@" >"$out/outputs/$name.stdout" 2>"$out/outputs/$name.stderr"
+    echo $? >"$out/outputs/$name.exit"
+}
+
+# The schedules every command runs on.
+python3 "$top/scripts/make-example.py" raw-gen1.tbf 11 >/dev/null
+python3 "$top/scripts/make-example.py" raw-gen2.tbf 23 >/dev/null
+cp "$top/examples/harbour-lights.tbf" example.tbf
+run resave-gen1 resave raw-gen1.tbf -o gen1.tbf
+run resave-gen2 resave raw-gen2.tbf -o gen2.tbf
+run resave-example resave example.tbf -o resaved.tbf
+cp gen1.tbf gen2.tbf resaved.tbf "$out/outputs/"
+docs="example gen1 gen2"
+if [ -d "$shared" ]; then
+    for s in "$shared"/*.txt; do
+        b=$(basename "$s" .txt)
+        run "import-text-$b" import-text "$s" -o "import-$b.tbf"
+        cp "import-$b.tbf" "$out/outputs/" 2>/dev/null
+        docs="$docs import-$b"
+    done
+fi
+run import-fd import-fd "$data/fd-scene-report.txt" "$data/fd-script-report.txt" -o import-fd.tbf
+cp import-fd.tbf "$out/outputs/" 2>/dev/null
+docs="$docs import-fd"
+
+for d in $docs; do
+    in="$d.tbf"
+    [ -f "$in" ] || continue
+    run "$d-info" info "$in"
+    cmd() { # cmd TAG ARGS... : a command that writes a schedule
+        local tag=$1
+        shift
+        run "$d-$tag" "$@"
+        [ -f "$d-$tag.tbf" ] && cp "$d-$tag.tbf" "$out/outputs/"
+    }
+    cmd add-divider add-divider "$in" -o "$d-add-divider.tbf"
+    cmd insert-divider add-divider "$in" -o "$d-insert-divider.tbf" --before 3
+    cmd remove-dividers remove-dividers "$in" -o "$d-remove-dividers.tbf"
+    cmd remove-banners remove-banners "$in" -o "$d-remove-banners.tbf"
+    cmd auto-pages-keep auto-pages "$in" -o "$d-auto-pages-keep.tbf" --max 3
+    cmd auto-pages-split auto-pages "$in" -o "$d-auto-pages-split.tbf" --max 2 --mode split
+    cmd start-date start-date "$in" -o "$d-start-date.tbf" --date 2027-03-01
+    cmd clear-date start-date "$in" -o "$d-clear-date.tbf" --clear
+    run "$d-dated" start-date "$in" -o "$d-dated.tbf" --date 2027-03-01
+    cmd rest-d rest-days "$d-dated.tbf" -o "$d-rest-d.tbf" --rule D67
+    cmd rest-s rest-days "$d-dated.tbf" -o "$d-rest-s.tbf" --rule S5
+    cmd convert-rest convert-rest-days "$d-rest-d.tbf" -o "$d-convert-rest.tbf"
+    cmd lock lock "$d-dated.tbf" -o "$d-lock.tbf" --from 2 --to 3 --date 2027-03-04
+    cmd hold-days hold-days "$in" -o "$d-hold-days.tbf" --days 4
+    cmd sort sort "$in" -o "$d-sort.tbf"
+    cmd sort-keys sort "$in" -o "$d-sort-keys.tbf" --keys scene,daynight,synopsis
+    cmd conform conform "$in" -o "$d-conform.tbf" -- 3 1 + 2 - "*TRAVEL DAY" 4
+    cmd renumber renumber "$in" -o "$d-renumber.tbf"
+    cmd sort-elements sort-elements "$in" -o "$d-sort-elements.tbf"
+    cmd reset-cast reset-cast "$in" -o "$d-reset-cast.tbf"
+    cmd add-scene add-scene "$in" -o "$d-add-scene.tbf" --scene 99A --pages "1 3/8" --int-ext I/E \
+        --day-night N --location "HARBOUR, NORTH" --set "QUAY \"END\"" --synopsis "A, b" --elements 1,2
+    cmd add-element add-element "$in" -o "$d-add-element.tbf" --description "NEW, ONE" --category 1
+    run "$d-board-png" board "$in" -o "$d-board.png"
+    run "$d-board-classic" board "$in" -o "$d-board-classic.png" --colours classic --scale 0.8
+    run "$d-board-pdf" board "$in" -o "$d-board.pdf"
+    cp "$d-board.png" "$d-board-classic.png" "$d-board.pdf" "$out/outputs/" 2>/dev/null
+    for k in schedule oneline breakdown elements; do
+        run "$d-report-$k" report "$k" "$in" -o "$d-report-$k.pdf" --trace
+        cp "$d-report-$k.pdf" "$out/outputs/" 2>/dev/null
+    done
+    run "$d-report-letter" report schedule "$in" -o "$d-report-letter.pdf" --paper letter
+    run "$d-report-oneline-all" report oneline "$in" -o "$d-report-oneline-all.pdf" --all-days --trace
+    run "$d-report-elements-all" report elements "$in" -o "$d-report-elements-all.pdf" \
+        --categories 1,2,3,4,5,6,7,8,9,10,11,12,13,14,15 --trace
+    cp "$d-report-letter.pdf" "$d-report-oneline-all.pdf" "$d-report-elements-all.pdf" "$out/outputs/" 2>/dev/null
+done
+
+# The manifest: one checksum per output, PDFs by their text and page count.
+cd "$out/outputs" || exit 2
+for f in $(ls | sort); do
+    case "$f" in
+    *.pdf)
+        sum=$( { pdfinfo "$f" 2>/dev/null | grep '^Pages:'; pdftotext -layout "$f" - 2>/dev/null; } | sha256sum | cut -c1-16)
+        ;;
+    *) sum=$(sha256sum <"$f" | cut -c1-16) ;;
+    esac
+    echo "$sum  $f"
+done >"$out/MANIFEST"
+
+echo "$(wc -l <"$out/MANIFEST") outputs in $out/MANIFEST"
+if [ -n "$check" ]; then
+    if diff "$check" "$out/MANIFEST" >"$out/DIFF"; then
+        echo "identical to $check"
+    else
+        echo "DIFFERENT from $check:"
+        cat "$out/DIFF"
+        exit 1
+    fi
+fi
