@@ -2,10 +2,10 @@
 
 #include "BenchDocuments.h"
 
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "document/UndoStore.h"
-#include "scheduling/DayCalculation.h"
 
 #include <QTemporaryDir>
 

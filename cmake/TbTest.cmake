@@ -1,7 +1,8 @@
 # tb_add_test(NAME sources... [GUI])
-# Builds one Qt Test executable and registers it with CTest. Every test runs on the
-# offscreen platform with a private configuration and data folder, so no test can
-# read or write the settings of the person running it.
+# Builds one Qt Test executable and registers it with CTest. The program itself moves
+# to a private home, configuration and data folder and to the offscreen platform when
+# it starts (TB_TEST_MAIN), and finds its data through paths fixed here at configure
+# time, so it runs the same under ctest and on its own from any folder.
 function(tb_add_test name)
     cmake_parse_arguments(ARG "GUI" "" "" ${ARGN})
     add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
@@ -9,9 +10,10 @@ function(tb_add_test name)
     if(ARG_GUI)
         target_link_libraries(${name} PRIVATE tbui)
     endif()
+    target_compile_definitions(${name} PRIVATE
+        TB_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+        TB_IMPORT_DATA="${PROJECT_SOURCE_DIR}/tests/core/import/data"
+        TB_SCREENPLAYS_DIR="${PROJECT_SOURCE_DIR}/../shared/screenplays")
     add_test(NAME ${name} COMMAND ${name})
-    set(home ${CMAKE_BINARY_DIR}/test-home/${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;TB_TEST_DATA=${CMAKE_SOURCE_DIR}/tests/data;TB_SOURCE_DIR=${CMAKE_SOURCE_DIR}"
-        TIMEOUT 300)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()

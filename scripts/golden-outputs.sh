@@ -18,7 +18,7 @@ check=""
 
 top=$(cd "$(dirname "$0")/.." && pwd)
 shared="$top/../shared/screenplays"
-data="$top/tests/import/data"
+data="$top/tests/core/import/data"
 
 rm -rf "$out"
 mkdir -p "$out/outputs" "$out/work"
@@ -27,6 +27,8 @@ cd "$out/work" || exit 2
 # Settings come from a private, empty folder so that the user's own never change the result.
 export HOME="$out/home" XDG_CONFIG_HOME="$out/home/config" XDG_DATA_HOME="$out/home/data"
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANG=C.UTF-8 TZ=UTC
+# Reports print the time they were made; this one fixed time makes them repeatable.
+export SOURCE_DATE_EPOCH=1800000000
 
 run() { # run NAME ARGS...: stdout, stderr and exit code of one command
     local name=$1

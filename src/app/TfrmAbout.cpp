@@ -1,4 +1,4 @@
-#include "TfrmAbout.h"
+#include "app/TfrmAbout.h"
 
 #include "ui_TfrmAbout.h"
 

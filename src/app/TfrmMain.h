@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/CommandHost.h"
-#include "app/ShellCommands.h"
 #include "document/DocumentView.h"
+#include "document/ShellCommands.h"
+#include "ui/shell/CommandHost.h"
 
 #include <QHash>
 #include <QMainWindow>

@@ -1,4 +1,4 @@
-#include "TfrmTBSplash.h"
+#include "app/TfrmTBSplash.h"
 
 #include <QPainter>
 

@@ -4,7 +4,7 @@
 #include "app/TfrmTBSplash.h"
 #include "document/ScheduleDocument.h"
 #include "document/Settings.h"
-#include "widgets/MessageBoxPrompter.h"
+#include "ui/shell/MessageBoxPrompter.h"
 
 #include <QApplication>
 

@@ -1,19 +1,19 @@
 #include "TestSupport.h"
 
-#include "app/MenuActions.h"
-#include "app/ShellCommands.h"
 #include "app/TfrmAbout.h"
 #include "app/TfrmMain.h"
-#include "app/TfrmPref.h"
-#include "board/BoardView.h"
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
-#include "scheduling/DayCalculation.h"
-#include "widgets/HelpWindow.h"
-#include "widgets/PanelStatusBar.h"
-#include "widgets/RecentFilesList.h"
+#include "document/ShellCommands.h"
+#include "ui/board/BoardView.h"
+#include "ui/shell/HelpWindow.h"
+#include "ui/shell/MenuActions.h"
+#include "ui/shell/PanelStatusBar.h"
+#include "ui/shell/RecentFilesList.h"
+#include "ui/shell/TfrmPref.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -1019,5 +1019,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMainWindow)
+TB_TEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

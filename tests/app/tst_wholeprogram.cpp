@@ -2,20 +2,20 @@
 
 #include "TestSupport.h"
 
-#include "app/MenuActions.h"
 #include "app/TfrmMain.h"
-#include "board/BoardView.h"
-#include "breakdown/TfrmAddElement.h"
-#include "breakdown/TfrmStrip.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "import/ImportCommandSteps.h"
-#include "import/TfrmFDImport.h"
-#include "import/TfrmImportScript.h"
-#include "scheduling/SchedulingMenu.h"
-#include "widgets/HelpWindow.h"
-#include "widgets/PanelStatusBar.h"
+#include "ui/board/BoardView.h"
+#include "ui/breakdown/TfrmAddElement.h"
+#include "ui/breakdown/TfrmStrip.h"
+#include "ui/import/TfrmFDImport.h"
+#include "ui/import/TfrmImportScript.h"
+#include "ui/scheduling/SchedulingMenu.h"
+#include "ui/shell/HelpWindow.h"
+#include "ui/shell/MenuActions.h"
+#include "ui/shell/PanelStatusBar.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -37,7 +37,7 @@ using namespace tb::test;
 namespace {
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
-const QString ImportData = QStringLiteral(TB_SOURCE_DIR "/tests/import/data");
+const QString ImportData = QStringLiteral(TB_IMPORT_DATA);
 
 // Entries of the reports that come with the call sheet, the day out of days and the
 // board printing: no subsystem serves them yet.
@@ -424,5 +424,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWholeProgram)
+TB_TEST_MAIN(TestWholeProgram)
 #include "tst_wholeprogram.moc"

@@ -448,5 +448,5 @@ void TestCli::reportTrace()
     QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
 }
 
-QTEST_MAIN(TestCli)
+TB_TEST_MAIN(TestCli)
 #include "tst_cli.moc"

@@ -67,6 +67,18 @@ QString Kinds(const ScheduleDocument &doc)
     return kinds.join(u' ');
 }
 
+void IsolateEnvironment()
+{
+    static QTemporaryDir home;
+    const QByteArray path = QFile::encodeName(home.path());
+    qputenv("HOME", path);
+    qputenv("XDG_CONFIG_HOME", path + "/config");
+    qputenv("XDG_DATA_HOME", path + "/data");
+    qputenv("XDG_CACHE_HOME", path + "/cache");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 QString TempPath(const QString &fileName)
 {
     static QTemporaryDir dir;

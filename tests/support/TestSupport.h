@@ -9,6 +9,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QtTest/qtest.h>
 
 namespace tb::test {
 
@@ -90,4 +91,23 @@ CliRun RunCli(const QStringList &args);
 // The bytes of a file; empty when it cannot be read.
 QByteArray ReadFileBytes(const QString &path);
 
+// Gives the test program a private, empty home, configuration and data folder, and the
+// offscreen platform unless another is set, before the application object exists: a
+// test run straight from any folder never reads or writes the settings of the person
+// running it, and needs no display.
+void IsolateEnvironment();
+
 } // namespace tb::test
+
+// The test program's main function: TB_TEST_MAIN for tests with a (widget or gui)
+// application object, TB_TEST_GUILESS_MAIN for tests that need neither.
+#define TB_TEST_MAIN_WITH_APP(TestObject, Setup)                                                                       \
+    int main(int argc, char *argv[])                                                                                   \
+    {                                                                                                                  \
+        ::tb::test::IsolateEnvironment();                                                                              \
+        Setup TestObject tc;                                                                                           \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
+        return QTest::qExec(&tc, argc, argv);                                                                          \
+    }
+#define TB_TEST_MAIN(TestObject) TB_TEST_MAIN_WITH_APP(TestObject, QTEST_MAIN_SETUP())
+#define TB_TEST_GUILESS_MAIN(TestObject) TB_TEST_MAIN_WITH_APP(TestObject, QTEST_QAPP_SETUP(QCoreApplication))

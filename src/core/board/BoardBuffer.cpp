@@ -1,0 +1,40 @@
+#include "board/BoardBuffer.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace tb {
+
+Result BoardBuffer::SetBufferSize(int width, int height, qreal devicePixelRatio)
+{
+    width = qMax(width, 1);
+    height = qMax(height, 1);
+    if (!(devicePixelRatio > 0))
+        devicePixelRatio = 1.0;
+    const QSize pixels(int(std::ceil(width * devicePixelRatio)), int(std::ceil(height * devicePixelRatio)));
+    if (m_size == QSize(width, height) && m_image.size() == pixels && m_image.devicePixelRatio() == devicePixelRatio)
+        return Result::success();
+    QImage image(pixels, QImage::Format_RGB32);
+    if (image.isNull()) {
+        return Result::failure(QStringLiteral(
+            "Error with Torvanbridge display buffer. Try saving your work and re-starting the computer."));
+    }
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::white);
+    m_image = image;
+    m_size = QSize(width, height);
+    return Result::success();
+}
+
+QString BoardBuffer::paint(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement,
+                           double scale, BoardDrawState *state)
+{
+    if (m_image.isNull())
+        return {};
+    QPainter painter(&m_image);
+    painter.setClipRect(QRect(QPoint(0, 0), m_size));
+    return DrawBoard(doc, style, firstStrip, firstElement, -1, true, true, false, true, scale, 0, 0, painter, state);
+}
+
+} // namespace tb

@@ -1,0 +1,178 @@
+#include "document/DocumentOperations.h"
+
+#include "document/DayCalculation.h"
+#include "document/LegacyText.h"
+
+#include <cmath>
+
+namespace tb {
+
+using legacy::JoinCommaText;
+using legacy::SplitCommaText;
+
+void AddAssignment(ScheduleDocument &doc, int strip, int element)
+{
+    StripRecord &row = doc.strips[strip];
+    const QString &list = row[StripField::Assignments];
+    // The padded search is the program's long-standing duplicate test; see the header.
+    if (list.contains(legacy::Pad3(element)))
+        return;
+    const QString number = QString::number(element);
+    row.set(StripField::Assignments, list.isEmpty() ? number : list + u',' + number);
+}
+
+bool IsAssigned(const ScheduleDocument &doc, int strip, int element)
+{
+    const QString &list = doc.strips[strip][StripField::Assignments];
+    if (list.isEmpty())
+        return false;
+    const QStringList items = SplitCommaText(list);
+    for (const QString &item : items) {
+        bool ok = false;
+        const int number = legacy::StrToInt(item, &ok);
+        if (!ok) {
+            // "stip" is the program's own spelling of this message.
+            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
+            return false;
+        }
+        if (number == element)
+            return true;
+    }
+    return false;
+}
+
+void RemoveAssignment(ScheduleDocument &doc, int strip, int element)
+{
+    StripRecord &row = doc.strips[strip];
+    QStringList items = SplitCommaText(row[StripField::Assignments]);
+    for (int i = 0; i < items.size();) {
+        bool ok = false;
+        const int number = legacy::StrToInt(items.at(i), &ok);
+        if (!ok) {
+            doc.prompter().error(QStringLiteral("Error removing assignment!"));
+            return;
+        }
+        if (number == element)
+            items.removeAt(i);
+        else
+            ++i;
+    }
+    row.set(StripField::Assignments, JoinCommaText(items));
+}
+
+QList<int> AssignedElements(const ScheduleDocument &doc, int strip)
+{
+    QList<int> numbers;
+    const QString &list = doc.strips[strip][StripField::Assignments];
+    if (list.isEmpty())
+        return numbers;
+    const QStringList items = SplitCommaText(list);
+    numbers.reserve(items.size());
+    for (const QString &item : items) {
+        bool ok = false;
+        const int number = legacy::StrToInt(item, &ok);
+        if (ok)
+            numbers.append(number);
+    }
+    return numbers;
+}
+
+QString FormatPageLength(double pages)
+{
+    double whole = std::trunc(pages);
+    // nearbyint rounds half to even in the default rounding mode: half an eighth is 0.
+    double eighths = std::nearbyint((pages - whole) * 8.0);
+    if (eighths >= 8.0) {
+        eighths = 0.0;
+        whole += 1.0;
+    }
+    const qint64 w = qint64(whole);
+    const qint64 e = qint64(eighths);
+    QString text;
+    if (w > 0)
+        text += QString::number(w);
+    if (w > 0 && e > 0)
+        text += u' ';
+    if (e > 0)
+        text += QString::number(e) + QStringLiteral("/8");
+    return text;
+}
+
+double PageLengthOf(const StripRecord &strip)
+{
+    bool ok = false;
+    const double value = legacy::FloatFromText(strip[StripField::PageLength], &ok);
+    return ok ? value : 0.0;
+}
+
+double StartDateSerial(const ScheduleDocument &doc)
+{
+    if (doc.values.StartDate.trimmed().isEmpty())
+        return 0.0;
+    bool ok = false;
+    const double value = legacy::FloatFromText(doc.values.StartDate, &ok);
+    return ok ? value : 0.0;
+}
+
+void SetModified(ScheduleDocument &doc)
+{
+    doc.Modified = true;
+    doc.status().setPanelText(StatusSink::ModifiedPanel, QStringLiteral("Modified"));
+    RecalculateDays(doc);
+    UpdateCommandsAndStatus(doc);
+}
+
+void ClearModified(ScheduleDocument &doc)
+{
+    doc.Modified = false;
+    doc.status().setPanelText(StatusSink::ModifiedPanel, QString());
+    UpdateCommandsAndStatus(doc);
+}
+
+void NewDocument(ScheduleDocument &doc)
+{
+    // 1. Editor mode and production details. The crew list belongs to the
+    //    production details and is emptied with them.
+    doc.stripEditMode = 0;
+    doc.values = ProductionValues(); // also the version, zoom, call times and counters
+    for (CrewRow &row : doc.crew)
+        row.clear();
+    // 2. Autosave interval from the preferences.
+    doc.view().setAutosaveInterval(doc.autosaveMinutes * 60000);
+    // 3.-5. Zoom, file name, selection, rest day rule, strip serials, hold days.
+    doc.FileName.clear();
+    doc.SelStart = 0;
+    doc.SelEnd = 0;
+    doc.SelElement = -1;
+    doc.printZoom = 1.0;
+    // 6. The scene editor's pick lists hold this document's values only.
+    doc.locationPickList.clear();
+    doc.setPickList.clear();
+    // 7. The fifteen categories.
+    doc.categories = DefaultCategories();
+    // 8. Strip rows and their marks are cleared in full. Only the first 200 element
+    //    rows are cleared, as the program always has; rows above the element count
+    //    are never read, so what an earlier document left there does no harm.
+    doc.strips.clearRows(1, MaxStrips);
+    doc.marks.fill(false);
+    doc.elements.clearRows(1, 200);
+    // 9. Counts.
+    doc.strips.setCount(0);
+    doc.elements.setCount(0);
+    // 10. Board, title, status, derived values.
+    doc.view().resetBoard();
+    doc.view().setTitle(UpdateTitle(doc));
+    doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("New file."));
+    doc.status().setPanelText(StatusSink::PagesPanel, QString());
+    ClearModified(doc);
+    RecalculateDays(doc);
+    UpdateCommandsAndStatus(doc);
+}
+
+QString UpdateTitle(const ScheduleDocument &doc)
+{
+    return QStringLiteral("Torvanbridge - ") + doc.values.PictureTitle + QStringLiteral("  (") + doc.FileName +
+           QStringLiteral(") ");
+}
+
+} // namespace tb

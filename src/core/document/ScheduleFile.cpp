@@ -1,0 +1,339 @@
+#include "document/ScheduleFile.h"
+
+#include "document/DayCalculation.h"
+#include "document/DocumentOperations.h"
+#include "document/LegacyText.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStringView>
+
+namespace tb {
+
+namespace {
+
+constexpr int HeaderLineCount = 23;
+
+// Calls back once per line; the document's values in file order. Shared by the
+// writer and ScheduleFileLines so that there is one statement of the layout.
+template <typename Put, typename Progress>
+void writeLines(const ScheduleDocument &doc, Put &&put, Progress &&progress)
+{
+    const ProductionValues &v = doc.values;
+    put(QString::fromLatin1(ScheduleFileHeader));
+    put(v.FileVersion);
+    put(v.PictureTitle);
+    put(v.Company);
+    put(v.Producer);
+    put(v.Director);
+    put(v.FirstAD);
+    put(v.ProductionManager);
+    put(v.ScriptTitle);
+    put(v.StartDate);
+    put(v.CompanyAddress);
+    put(v.LogoFile);
+    put(legacy::FloatToText(v.BoardZoom));
+    put(v.AutoRestDayRule);
+    put(v.Reference);
+    put(v.PreparedBy);
+    put(QString::number(v.NextStripId));
+    put(QString::number(v.HoldDays));
+    put(QString()); // three reserved lines, always written empty
+    put(QString());
+    put(QString());
+    const int s = doc.strips.count();
+    const int e = doc.elements.count();
+    put(QString::number(s));
+    put(QString::number(e));
+    const int total = s + e;
+    for (int i = 1; i <= s; ++i) {
+        const StripRecord &row = doc.strips[i];
+        for (int f = 0; f < StripFieldCount; ++f)
+            put(row.at(f));
+        progress(100 * i / total);
+    }
+    for (int j = 1; j <= e; ++j) {
+        const ElementRecord &row = doc.elements[j];
+        for (int f = 0; f < ElementFieldCount; ++f)
+            put(row.at(f));
+        progress(100 * (s + j) / total);
+    }
+    for (int r = 1; r <= CrewRowCount; ++r) {
+        const CrewRow &row = doc.crew[r];
+        for (int f = 0; f < CrewFieldCount; ++f)
+            put(row.at(f));
+    }
+}
+
+// Reads lines one by one from decoded file text. A line ends at CR LF, LF or a lone CR.
+class LineReader
+{
+public:
+    explicit LineReader(QStringView text)
+        : m_text(text)
+    {}
+
+    // False when the file has no more lines.
+    bool next(QStringView *line)
+    {
+        if (m_pos >= m_text.size())
+            return false;
+        qsizetype end = m_pos;
+        while (end < m_text.size() && m_text[end] != u'\n' && m_text[end] != u'\r')
+            ++end;
+        *line = m_text.mid(m_pos, end - m_pos);
+        if (end < m_text.size()) {
+            const bool cr = m_text[end] == u'\r';
+            ++end;
+            if (cr && end < m_text.size() && m_text[end] == u'\n')
+                ++end;
+        }
+        m_pos = end;
+        ++m_lineNumber;
+        return true;
+    }
+    int lineNumber() const { return m_lineNumber; }
+
+private:
+    QStringView m_text;
+    qsizetype m_pos = 0;
+    int m_lineNumber = 0;
+};
+
+// Thrown inside the reader only, never across the interface: a line that is missing
+// or does not hold the number it must.
+struct ReadFailure
+{};
+
+class DocumentReader
+{
+public:
+    explicit DocumentReader(QStringView text)
+        : m_lines(text)
+    {}
+
+    QString text()
+    {
+        QStringView line;
+        if (!m_lines.next(&line))
+            throw ReadFailure{};
+        return line.toString();
+    }
+    int integer()
+    {
+        bool ok = false;
+        const int value = legacy::StrToInt(text(), &ok);
+        if (!ok)
+            throw ReadFailure{};
+        return value;
+    }
+    double number()
+    {
+        bool ok = false;
+        const double value = legacy::FloatFromText(text(), &ok);
+        if (!ok)
+            throw ReadFailure{};
+        return value;
+    }
+    int count(int capacity)
+    {
+        const int value = integer();
+        // Counts outside the table sizes can only come from a damaged file.
+        if (value < 0 || value > capacity)
+            throw ReadFailure{};
+        return value;
+    }
+    template <typename Record>
+    void record(Record &row)
+    {
+        for (int f = 0; f < Record::FieldCount; ++f)
+            row.setAt(f, text());
+    }
+
+private:
+    LineReader m_lines;
+};
+
+void readBody(ScheduleDocument &doc, DocumentReader &in)
+{
+    ProductionValues &v = doc.values;
+    v.FileVersion = in.text();
+    v.PictureTitle = in.text();
+    v.Company = in.text();
+    v.Producer = in.text();
+    v.Director = in.text();
+    v.FirstAD = in.text();
+    v.ProductionManager = in.text();
+    v.ScriptTitle = in.text();
+    v.StartDate = in.text();
+    v.CompanyAddress = in.text();
+    v.LogoFile = in.text();
+    v.BoardZoom = in.number();
+    // A missing or damaged zoom must never give an unusable board.
+    if (v.BoardZoom < 0.2)
+        v.BoardZoom = 1.0;
+    doc.view().zoomChanged(v.BoardZoom);
+    v.AutoRestDayRule = in.text();
+    v.Reference = in.text();
+    v.PreparedBy = in.text();
+    v.NextStripId = in.integer();
+    v.HoldDays = in.integer();
+    for (int i = 0; i < 3; ++i)
+        in.text(); // reserved lines, whatever they hold
+    const int s = in.count(MaxStrips);
+    const int e = in.count(MaxElements);
+    doc.strips.setCount(s);
+    doc.elements.setCount(e);
+    for (int i = 1; i <= s; ++i) {
+        in.record(doc.strips[i]);
+        doc.status().setProgress(100 * i / s);
+        if (i % 64 == 0)
+            doc.status().keepAlive();
+    }
+    for (int j = 1; j <= e; ++j)
+        in.record(doc.elements[j]);
+    for (int r = 1; r <= CrewRowCount; ++r)
+        in.record(doc.crew[r]);
+}
+
+// The common end of every open that got past the header: the document is shown under
+// its path, whether it was read whole or only in part.
+void finishOpen(ScheduleDocument &doc, const QString &path)
+{
+    doc.view().resetBoard();
+    doc.FileName = path;
+    doc.view().setTitle(UpdateTitle(doc));
+    doc.status().setProgress(0);
+    RecalculateDays(doc);
+    UpdateCommandsAndStatus(doc);
+    doc.view().addRecentFile(path);
+    doc.status().setBusy(false);
+}
+
+} // namespace
+
+QStringList ScheduleFileLines(const ScheduleDocument &doc)
+{
+    QStringList lines;
+    lines.reserve(HeaderLineCount + 200 + 20 * (doc.strips.count() + doc.elements.count()));
+    writeLines(
+        doc, [&](const QString &line) { lines.append(line); }, [](int) {});
+    return lines;
+}
+
+Result SaveDocument(ScheduleDocument &doc, const QString &path)
+{
+    StatusSink &status = doc.status();
+    status.setBusy(true);
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saveing file..."));
+    status.keepAlive();
+
+    QString text;
+    text.reserve(64 * 1024 + 24 * (doc.strips.count() + doc.elements.count()) * 20);
+    int lastPercent = -1;
+    writeLines(
+        doc,
+        [&](const QString &line) {
+            text += line;
+            text += QLatin1String("\r\n");
+        },
+        [&](int percent) {
+            if (percent != lastPercent) {
+                lastPercent = percent;
+                status.setProgress(percent);
+            }
+        });
+
+    // Saving goes through a temporary file that replaces the document only once it is
+    // complete, so a failed or interrupted save leaves the earlier file whole. (The
+    // earlier edition wrote in place and could leave half a file behind.)
+    QSaveFile file(path);
+    bool ok = file.open(QIODevice::WriteOnly);
+    if (ok) {
+        const QByteArray bytes = legacy::EncodeFileText(text);
+        ok = file.write(bytes) == bytes.size();
+        ok = file.commit() && ok;
+    }
+    if (!ok) {
+        file.cancelWriting();
+        const QString message = QStringLiteral("Error saving file ") + path +
+                                QStringLiteral(". Try again using SaveAs from the file menu.");
+        doc.prompter().error(message);
+        status.setProgress(0);
+        status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error saving file."));
+        status.setBusy(false);
+        return Result::failure(message);
+    }
+
+    ClearModified(doc);
+    doc.view().setTitle(UpdateTitle(doc));
+    // The list gets the document's own name, not the path written: an autosave writes
+    // elsewhere and must not put its file on the list (it hands a blank name for an
+    // untitled document, which the list ignores).
+    doc.view().addRecentFile(doc.FileName);
+    status.setProgress(0);
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saved OK."));
+    status.setBusy(false);
+    return Result::success();
+}
+
+Result OpenDocument(ScheduleDocument &doc, const QString &path)
+{
+    StatusSink &status = doc.status();
+    status.setBusy(true);
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Opening file..."));
+    // The old document is gone from here on, even if the file proves unreadable.
+    NewDocument(doc);
+
+    QFile file(path);
+    QString text;
+    const bool opened = file.open(QIODevice::ReadOnly);
+    if (opened)
+        text = legacy::DecodeFileText(file.readAll());
+    const bool readError = !opened || file.error() != QFileDevice::NoError;
+    file.close();
+
+    DocumentReader in(text);
+    if (!readError) {
+        QString header;
+        try {
+            header = in.text();
+        } catch (const ReadFailure &) {
+        }
+        if (header != QLatin1String(ScheduleFileHeader)) {
+            // "Torvanbrigde" is the program's own spelling of this message.
+            const QString message = QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or "
+                                                   "perhaps it is corrupted.");
+            doc.prompter().error(message, /*beep=*/true);
+            status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error reading file."));
+            status.setBusy(false);
+            return Result::failure(message);
+        }
+    }
+
+    try {
+        if (readError)
+            throw ReadFailure{};
+        readBody(doc, in);
+    } catch (const ReadFailure &) {
+        // The file name in this message is still blank at this point; the program has
+        // always shown it so.
+        const QString message =
+            QStringLiteral("Error opening file ") + doc.FileName + QStringLiteral(".\r\r") +
+            QStringLiteral("This file cannot be opened by Torvanbridge - it may be badly corrupted, or the system may "
+                           "be unstable. Try again after re-booting the computer.");
+        doc.prompter().error(message);
+        status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error opening file."));
+        finishOpen(doc, path);
+        return Result::failure(message);
+    }
+
+    doc.view().setScrolls();
+    doc.view().setTitle(UpdateTitle(doc));
+    doc.view().addRecentFile(doc.FileName); // still blank; the list ignores it
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Opened OK."));
+    finishOpen(doc, path);
+    return Result::success();
+}
+
+} // namespace tb

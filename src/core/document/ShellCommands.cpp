@@ -1,0 +1,128 @@
+#include "document/ShellCommands.h"
+
+#include "document/DocumentOperations.h"
+#include "document/ScheduleDocument.h"
+#include "document/ScheduleFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace tb {
+
+namespace {
+
+FileDialogSetup scheduleSpec(const QString &title)
+{
+    return FileDialogSetup{title, QString::fromLatin1(ScheduleFileFilter), QString::fromLatin1(ScheduleFileExtension),
+                           QStringLiteral("*.tbf")};
+}
+
+// Yes, No or Cancel on a question about unsaved changes; Yes saves. False = stop.
+bool saveChangesAnswer(ScheduleDocument &doc, FileChooser &files, const QString &text, bool beep)
+{
+    const Answer answer = doc.prompter().question(MessageKind::Confirmation, text, Buttons::YesNoCancel, beep);
+    if (answer == Answer::Cancel)
+        return false;
+    if (answer == Answer::Yes)
+        SaveCommand(doc, files);
+    return true;
+}
+
+} // namespace
+
+FileDialogSetup OpenFileSetup()
+{
+    return scheduleSpec(QStringLiteral("Open file"));
+}
+
+FileDialogSetup SaveFileSetup()
+{
+    return scheduleSpec(QStringLiteral("Save file"));
+}
+
+bool AskToSaveChanges(ScheduleDocument &doc, FileChooser &files, bool beep)
+{
+    if (!doc.Modified)
+        return true;
+    return saveChangesAnswer(doc, files, QString::fromLatin1(SaveChangesQuestion), beep);
+}
+
+void NewCommand(ScheduleDocument &doc, FileChooser &files)
+{
+    if (!AskToSaveChanges(doc, files, /*beep=*/true))
+        return;
+    NewDocument(doc);
+    doc.view().repaintBoard();
+}
+
+void OpenCommand(ScheduleDocument &doc, FileChooser &files)
+{
+    if (!AskToSaveChanges(doc, files, /*beep=*/true))
+        return;
+    const QString path = files.chooseOpenFile(OpenFileSetup());
+    if (path.isEmpty())
+        return;
+    (void)OpenDocument(doc, path);
+}
+
+bool SaveCommand(ScheduleDocument &doc, FileChooser &files)
+{
+    if (!doc.FileName.trimmed().isEmpty() && QFileInfo::exists(doc.FileName))
+        return SaveDocument(doc, doc.FileName).ok();
+    return SaveAsCommand(doc, files);
+}
+
+bool SaveAsCommand(ScheduleDocument &doc, FileChooser &files)
+{
+    const QString path = files.chooseSaveFile(SaveFileSetup());
+    if (path.isEmpty())
+        return false;
+    doc.FileName = path;
+    return SaveDocument(doc, path).ok();
+}
+
+void OpenRecentCommand(ScheduleDocument &doc, FileChooser &files, const QString &path)
+{
+    if (doc.Modified) {
+        const QString text =
+            QStringLiteral("The current schedule has not been saved since the last change. Do you wish to save it "
+                           "before opening ") +
+            path + QStringLiteral(" ?");
+        if (!saveChangesAnswer(doc, files, text, /*beep=*/true))
+            return;
+    }
+    (void)OpenDocument(doc, path);
+}
+
+void DropFilesCommand(ScheduleDocument &doc, const QStringList &paths)
+{
+    if (paths.isEmpty())
+        return;
+    (void)OpenDocument(doc, paths.first());
+}
+
+bool CloseQuery(ScheduleDocument &doc, FileChooser &files)
+{
+    return AskToSaveChanges(doc, files, /*beep=*/false);
+}
+
+Result AutosaveCommand(ScheduleDocument &doc, const QString &autosavePath)
+{
+    doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("Autosaving..."));
+    Result saved = SaveDocument(doc, autosavePath);
+    doc.status().setPanelText(StatusSink::MessagePanel, QString());
+    return saved;
+}
+
+QString AutosavePath(const QString &programFolder)
+{
+    const QFileInfo folder(programFolder);
+    if (folder.isDir() && folder.isWritable())
+        return QDir(programFolder).filePath(QStringLiteral("autosave.tbf"));
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(data);
+    return QDir(data).filePath(QStringLiteral("autosave.tbf"));
+}
+
+} // namespace tb

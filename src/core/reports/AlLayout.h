@@ -1,0 +1,79 @@
+#pragma once
+
+// The layout run of the report engine, apart from painting: which band goes on which
+// page at which place, and what each control on it shows. The result is a list of pages
+// of placed bands; painting them (AlPaint.h) only draws what is placed. Both halves are
+// tested on their own, and a layout painted onto any target gives the same pages.
+
+#include "reports/AlReport.h"
+
+#include <QList>
+#include <QRect>
+#include <QStringList>
+
+#include <functional>
+
+class QPainter;
+
+namespace tb {
+
+// The page the layout fills, in output units (dots of LayoutDpi).
+struct LayoutPage
+{
+    int pageWidth = 0;
+    int pageHeight = 0;
+    int offsetLeft = 0; // printing offsets of the target (0 in preview)
+    int offsetTop = 0;
+    bool preview = false;
+};
+
+struct PlacedControl
+{
+    const tAlControl *control = nullptr;
+    QRect rect; // where it is drawn, in output units on the page
+    bool clipped = false;
+    QRect clip;           // when clipped: the part of the page it may draw on
+    QString text;         // labels and fields: the text shown
+    QStringList lines;    // the text broken into the lines drawn
+    QList<double> widths; // the advance of each line
+};
+
+struct PlacedBand
+{
+    const tAlBand *band = nullptr;
+    QRect rect;
+    quint32 background = clNone; // the band's colour, or the alternate row colour
+    int row = -1;                // detail rows: the row number from 0
+    QList<PlacedControl> controls;
+};
+
+struct LaidOutPage
+{
+    QList<PlacedBand> bands;
+};
+
+struct ReportLayout
+{
+    QList<LaidOutPage> pages;
+    bool cancelled = false;
+};
+
+// Runs the layout of the report onto pages of the given size. Rewinds every field first,
+// so a report can be laid out again. Cancelling through the report's progress box (or
+// its cancelled flag) stops the run and keeps the pages made so far.
+ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page);
+
+// Breaks a text into the lines drawn: at its line breaks (CR LF, CR or LF; one line
+// break at the very end adds no empty line) and, when width > 0, between words so that
+// each line fits the width. The blanks that indent a line indent its wrapped parts too;
+// blank lines at the end are dropped.
+QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, double width);
+// The same with the advance of a text given by the caller; the lines' advances go to
+// widths when given.
+QStringList BreakTextLines(const QString &text, const std::function<double(const QString &)> &advance, double width,
+                           QList<double> *widths = nullptr);
+
+// Draws a laid-out page; the painter works in output units.
+void PaintPage(QPainter &painter, const LaidOutPage &page);
+
+} // namespace tb

@@ -1,0 +1,90 @@
+#include "reports/ReportOutput.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace tb {
+
+QStringList TemplateFolders()
+{
+    QStringList folders;
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    folders.append(programFolder);
+    folders.append(QDir::cleanPath(programFolder + QStringLiteral("/../share/torvanbridge/templates")));
+#ifdef TB_TEMPLATE_INSTALL_DIR
+    const QString installed = QDir::cleanPath(QStringLiteral(TB_TEMPLATE_INSTALL_DIR));
+    if (!folders.contains(installed))
+        folders.append(installed);
+#endif
+    return folders;
+}
+
+QString TemplatePath(const QString &fileName)
+{
+    const QStringList folders = TemplateFolders();
+    for (const QString &folder : folders) {
+        const QString path = QDir(folder).filePath(fileName);
+        if (QFileInfo(path).isFile())
+            return path;
+    }
+    return QDir(folders.first()).filePath(fileName);
+}
+
+QPageSize PageSizeFor(tPapersize paper)
+{
+    switch (paper) {
+    case tPapersize::alr_A4:
+        return QPageSize(QPageSize::A4);
+    case tPapersize::alr_A5:
+        return QPageSize(QPageSize::A5);
+    case tPapersize::alr_Legal:
+        return QPageSize(QPageSize::Legal);
+    case tPapersize::alr_Letter:
+        return QPageSize(QPageSize::Letter);
+    }
+    return QPageSize(QPageSize::A4);
+}
+
+Result WriteReportPdf(TAlReport &report, const QString &path, std::optional<tPapersize> paper)
+{
+    const tPapersize chosen = paper.value_or(report.Papersize);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
+    Result printed = Result::success();
+    {
+        QPdfWriter writer(&file);
+        writer.setResolution(LayoutDpi);
+        writer.setCreator(QStringLiteral("Torvanbridge"));
+        writer.setTitle(report.ReportTitle);
+        const QPageLayout::Orientation orientation =
+            report.Orientation == TPrinterOrientation::poLandscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+        // The sheet is the standard size; the engine fills the whole millimetres of its
+        // own table (Letter and Legal are a fraction wider and longer), so what lies
+        // beyond them is left as margin at the right and the bottom.
+        const QPageSize size = PageSizeFor(chosen);
+        QSizeF sheet = size.size(QPageSize::Millimeter);
+        QSizeF used = PaperSizeMM(chosen);
+        if (orientation == QPageLayout::Landscape) {
+            sheet.transpose();
+            used.transpose();
+        }
+        const QMarginsF margins(0, 0, qMax(0.0, sheet.width() - used.width()),
+                                qMax(0.0, sheet.height() - used.height()));
+        writer.setPageLayout(QPageLayout(size, orientation, margins, QPageLayout::Millimeter, QMarginsF()));
+        printed = report.Print(writer);
+    }
+    if (!printed) {
+        file.cancelWriting();
+        return printed;
+    }
+    if (!file.commit())
+        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
+    return Result::success();
+}
+
+} // namespace tb

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "import/ScriptImport.h"
+
+#include <QDialog>
+#include <QFont>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QFileSystemModel;
+class QListWidget;
+class QListWidgetItem;
+
+namespace Ui {
+class TfrmImportScript;
+}
+
+namespace tb {
+
+class ScheduleDocument;
+
+// The script import wizard: five pages that ask for the script file, the lines on a
+// printed page, the font of the printed script and the words of scene headings and
+// cues, then build a new schedule from the script (DoImport). The word lists are kept
+// while the program runs; the dialog is created once and shown for every import.
+class TfrmImportScript : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit TfrmImportScript(ScheduleDocument &doc, QWidget *parent = nullptr);
+    ~TfrmImportScript() override;
+
+    static constexpr int LastStep = 4;
+    static constexpr const char *HelpPage = "import-script.html";
+
+    // Asked when Import! is clicked, before the document is emptied; false keeps the
+    // wizard open and the document as it is. Unset: the import goes ahead.
+    std::function<bool()> beforeImport;
+    // The font dialog and the word box; tests put their own answers here.
+    std::function<std::optional<QFont>(const QFont &current)> chooseFont;
+    std::function<std::optional<QString>(const QString &caption, const QString &word)> askWord;
+
+    // The folder whose text files the file list shows.
+    void setDirectory(const QString &path);
+    QString directory() const { return m_directory; }
+    // The file selected in the file list; empty when none is.
+    QString selectedFile() const;
+    int currentStep() const;
+    // The script as loaded when page 3 was reached, one string per line.
+    const QStringList &scriptLines() const { return m_lines; }
+    ScriptImportSettings settings() const;
+
+Q_SIGNALS:
+    void helpRequested(const QString &page);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void FormShow();
+    void NextButClick();
+    void BackButClick();
+    void CancelButClick();
+    void FontButClick();
+    void applyFont(const QFont &font);
+    void DirectoryListBox1Change(const QModelIndex &index);
+    void fillFileList();
+    bool loadScript();
+    void addWord(QListWidget *list, const QString &caption);
+    void editWord(QListWidgetItem *item);
+    void removeWord(QListWidget *list);
+    void runImport();
+
+    ScheduleDocument &m_doc;
+    std::unique_ptr<Ui::TfrmImportScript> ui;
+    QFileSystemModel *m_folders = nullptr;
+    QString m_directory;
+    QStringList m_lines;
+};
+
+} // namespace tb

@@ -1,0 +1,32 @@
+#include "ui/reports/ReportCommands.h"
+
+#include "ui/reports/TfrmElUse.h"
+#include "ui/reports/TfrmPrintBS.h"
+#include "ui/reports/TfrmShootSch.h"
+#include "ui/shell/CommandHost.h"
+#include "ui/shell/MenuActions.h"
+
+#include <QAction>
+
+namespace tb {
+
+namespace {
+
+template <typename Dialog>
+void install(CommandHost &host, const char *actionName)
+{
+    auto *dialog = new Dialog(host.document(), host.window()); // owned by the main window
+    dialog->showHelp = [&host](const QString &page) { host.showHelp(page); };
+    QObject::connect(host.action(actionName), &QAction::triggered, dialog, [dialog] { dialog->exec(); });
+}
+
+} // namespace
+
+void InstallReportCommands(CommandHost &host)
+{
+    install<TfrmPrintBS>(host, actions::Breakdownsheets1);
+    install<TfrmElUse>(host, actions::Elementsummary1);
+    install<TfrmShootSch>(host, actions::Shootingschedule1);
+}
+
+} // namespace tb

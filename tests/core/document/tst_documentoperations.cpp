@@ -1,0 +1,227 @@
+#include "TestSupport.h"
+
+#include "document/DocumentOperations.h"
+#include "document/ScheduleDocument.h"
+
+#include <QTest>
+
+using namespace tb;
+using namespace tb::test;
+
+class TestDocumentOperations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void assignments_data()
+    {
+        QTest::addColumn<QString>("op"); // add, is or remove
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QList<int>>("elements");
+        QTest::addColumn<QString>("expected"); // the list after, or whether assigned
+        QTest::newRow("add to blank") << "add"
+                                      << "" << QList<int>{7} << "7";
+        QTest::newRow("add appends in order") << "add"
+                                              << "3,12" << QList<int>{7} << "3,12,7";
+        // Only three-digit numbers are found by the padded duplicate test.
+        QTest::newRow("add small twice duplicates") << "add"
+                                                    << "3" << QList<int>{7, 7} << "3,7,7";
+        QTest::newRow("add three digits twice once") << "add"
+                                                     << "3" << QList<int>{120, 120} << "3,120";
+        QTest::newRow("add padded match inside longer") << "add"
+                                                        << "1120" << QList<int>{120} << "1120";
+        QTest::newRow("is in blank") << "is"
+                                     << "" << QList<int>{1} << "false";
+        QTest::newRow("is whole numbers not digits") << "is"
+                                                     << "3,12" << QList<int>{1} << "false";
+        QTest::newRow("is found last") << "is"
+                                       << "3,12" << QList<int>{12} << "true";
+        QTest::newRow("is quoted item") << "is"
+                                        << "\"5\",6" << QList<int>{5} << "true";
+        QTest::newRow("remove every entry") << "remove"
+                                            << "7,3,7" << QList<int>{7} << "3";
+        QTest::newRow("remove neighbours of the same number") << "remove"
+                                                              << "7,7,7" << QList<int>{7} << "";
+        QTest::newRow("remove absent") << "remove"
+                                       << "1,2" << QList<int>{9} << "1,2";
+        QTest::newRow("remove from blank") << "remove"
+                                           << "" << QList<int>{9} << "";
+    }
+
+    void assignments()
+    {
+        QFETCH(QString, op);
+        QFETCH(QString, list);
+        QFETCH(QList<int>, elements);
+        QFETCH(QString, expected);
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        doc.setPrompter(&prompter);
+        const int row = AddScene(doc, "1", "1");
+        doc.strips[row].set(StripField::Assignments, list);
+        for (int element : elements) {
+            if (op == "add")
+                AddAssignment(doc, row, element);
+            else if (op == "remove")
+                RemoveAssignment(doc, row, element);
+            else
+                QCOMPARE(QString(IsAssigned(doc, row, element) ? "true" : "false"), expected);
+        }
+        if (op != "is")
+            QCOMPARE(doc.strips[row][StripField::Assignments], expected);
+        QVERIFY(prompter.prompts.isEmpty());
+    }
+
+    void badAssignmentItems()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        doc.setPrompter(&prompter);
+        const int row = AddScene(doc, "1", "1");
+        doc.strips[row].set(StripField::Assignments, "3,x,7");
+
+        QVERIFY(!IsAssigned(doc, row, 7));
+        QCOMPARE(prompter.texts(), QStringList{"Error reading stip assignments!"});
+        QCOMPARE(prompter.prompts.last().kind, MessageKind::Error);
+
+        RemoveAssignment(doc, row, 3);
+        QCOMPARE(prompter.texts().last(), "Error removing assignment!");
+        QCOMPARE(doc.strips[row][StripField::Assignments], "3,x,7");
+    }
+
+    void formatPageLength_data()
+    {
+        QTest::addColumn<double>("pages");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("zero") << 0.0 << "";
+        QTest::newRow("half is 4/8") << 0.5 << "4/8";
+        QTest::newRow("whole and eighths") << 1.375 << "1 3/8";
+        QTest::newRow("whole") << 2.0 << "2";
+        QTest::newRow("almost one") << 0.9999 << "1";
+        QTest::newRow("half an eighth rounds to even 0") << 0.0625 << "";
+        QTest::newRow("one and a half eighths rounds to 2") << 0.1875 << "2/8";
+        QTest::newRow("many pages") << 123.875 << "123 7/8";
+        QTest::newRow("7 and a half eighths carries") << 3.9375 << "4";
+    }
+
+    void formatPageLength()
+    {
+        QFETCH(double, pages);
+        QFETCH(QString, expected);
+        QCOMPARE(FormatPageLength(pages), expected);
+    }
+
+    void newDocumentState()
+    {
+        ScheduleDocument doc;
+        RecordingStatus status;
+        RecordingView view;
+        doc.setStatusSink(&status);
+        doc.setView(&view);
+        doc.autosaveMinutes = 5;
+
+        AddScene(doc, "1", "1");
+        AddElement(doc, "ANNA");
+        doc.values.PictureTitle = "Rain";
+        doc.values.StartDate = "46087";
+        doc.values.HoldDays = 3;
+        doc.values.BoardZoom = 1.4;
+        doc.values.UnitCall = "9:00 am";
+        doc.crew[1].set(CrewField::Name, "Sam");
+        doc.SelStart = doc.SelEnd = 1;
+        doc.SelElement = 1;
+        doc.marks[1] = true;
+        doc.categories.removeLast();
+        doc.FileName = "/tmp/x.tbf";
+        SetModified(doc);
+
+        NewDocument(doc);
+        QCOMPARE(doc.strips.count(), 0);
+        QCOMPARE(doc.elements.count(), 0);
+        QCOMPARE(doc.categoryCount(), 15);
+        QCOMPARE(doc.categories.at(8).code, "MUp");
+        QCOMPARE(doc.categories.at(14).name, "Other");
+        QCOMPARE(doc.values.HoldDays, 10);
+        QVERIFY(doc.values.StartDate.isEmpty());
+        QVERIFY(doc.values.PictureTitle.isEmpty());
+        QCOMPARE(doc.values.FileVersion, "1.0");
+        QCOMPARE(doc.values.BoardZoom, 1.0);
+        QCOMPARE(doc.values.UnitCall, "8:00 am");
+        QCOMPARE(doc.values.WrapTime, "6:00 pm");
+        QCOMPARE(doc.values.NextStripId, 0);
+        QVERIFY(doc.crew[1].isBlank());
+        QVERIFY(!doc.marks[1]);
+        QVERIFY(doc.strips[1].isBlank());
+        QCOMPARE(doc.SelStart, 0);
+        QCOMPARE(doc.SelElement, -1);
+        QVERIFY(!doc.Modified);
+        QVERIFY(doc.FileName.isEmpty());
+        QCOMPARE(status.panels.value(StatusSink::MessagePanel), "New file.");
+        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");
+        QCOMPARE(status.panels.value(StatusSink::DaysPanel), "");
+        QCOMPARE(view.autosaveMs, 5 * 60000);
+        QCOMPARE(view.title, "Torvanbridge -   () ");
+    }
+
+    void newDocumentKeepsHighElementRows()
+    {
+        ScheduleDocument doc;
+        for (int i = 1; i <= 250; ++i)
+            AddElement(doc, QStringLiteral("E%1").arg(i));
+        NewDocument(doc);
+        // Only the first 200 rows are cleared; the rest are out of reach behind the count.
+        QVERIFY(doc.elements[200].isBlank());
+        QCOMPARE(doc.elements[201][ElementField::Description], "E201");
+    }
+
+    void capacityRefusesGrowth()
+    {
+        ScheduleDocument doc;
+        for (int i = 1; i <= MaxStrips; ++i)
+            QVERIFY(AddScene(doc, QString::number(i), "1") > 0);
+        const StripRecord last = doc.strips[MaxStrips];
+
+        Result full = doc.strips.insertRows(1, 1);
+        QVERIFY(!full.ok());
+        QVERIFY(full.message().contains("1000"));
+        QCOMPARE(doc.strips.count(), MaxStrips);
+        QCOMPARE(doc.strips[1][StripField::SceneNumber], "1");
+        QVERIFY(doc.strips[MaxStrips] == last);
+
+        doc.strips.removeRows(10, 5);
+        QCOMPARE(doc.strips.count(), MaxStrips - 5);
+        QCOMPARE(doc.strips[10][StripField::SceneNumber], "15");
+        QVERIFY(!doc.strips.insertRows(1, 6).ok());
+        QVERIFY(doc.strips.insertRows(1, 5).ok());
+        QVERIFY(doc.strips[5].isBlank());
+        QCOMPARE(doc.strips[6][StripField::SceneNumber], "1");
+
+        for (int j = 1; j <= MaxElements; ++j)
+            QVERIFY(AddElement(doc, "x") > 0);
+        QCOMPARE(AddElement(doc, "one too many"), 0);
+        QCOMPARE(doc.elements.count(), MaxElements);
+    }
+
+    void setModifiedRecalculates()
+    {
+        ScheduleDocument doc;
+        RecordingStatus status;
+        doc.setStatusSink(&status);
+        AddScene(doc, "1", "1.5");
+        AddDivider(doc);
+        doc.SelStart = 1;
+        doc.SelEnd = 1;
+        SetModified(doc);
+        QVERIFY(doc.Modified);
+        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "Modified");
+        QCOMPARE(doc.strips[2][StripField::PageLength], "1.5");
+        QCOMPARE(status.panels.value(StatusSink::DaysPanel), " Production: 1 days.  Shoot: 1 days");
+        QCOMPARE(status.panels.value(StatusSink::PagesPanel), "1 4/8 pages");
+        ClearModified(doc);
+        QVERIFY(!doc.Modified);
+        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestDocumentOperations)
+#include "tst_documentoperations.moc"

@@ -1,0 +1,368 @@
+#include "TestSupport.h"
+
+#include "document/DocumentOperations.h"
+#include "document/ScheduleFile.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace tb;
+using namespace tb::test;
+
+namespace {
+
+const QString OpenError = QStringLiteral(
+    "Error opening file .\r\rThis file cannot be opened by Torvanbridge - it may be badly corrupted, or the system "
+    "may be unstable. Try again after re-booting the computer.");
+const QString HeaderError =
+    QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
+
+void writeAll(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+// A schedule with awkward text in every kind of field.
+void fillRandom(ScheduleDocument &doc, quint32 seed, bool ascii)
+{
+    static const QStringList latin = {"",      "Anna",    "a, b", "say \"hi\"", " lead", "trail ",         "café",
+                                      "Zoë's", "“curly”", "50%",  "\"",         ",",     "O'Neil, \"Jr\"", "€ 100"};
+    static const QStringList wide = {"Łódź", "日本", "Ωmega"};
+    QRandomGenerator rng(seed);
+    auto pick = [&] {
+        if (!ascii && rng.bounded(8) == 0)
+            return wide.at(rng.bounded(int(wide.size())));
+        for (;;) {
+            const QString s = latin.at(rng.bounded(int(latin.size())));
+            if (!ascii || std::all_of(s.begin(), s.end(), [](QChar c) { return c.unicode() < 0x80; }))
+                return s;
+        }
+    };
+    doc.values.PictureTitle = pick();
+    doc.values.Company = pick();
+    doc.values.Director = pick();
+    doc.values.CompanyAddress = "\"1 Quay St\",Harbour";
+    doc.values.StartDate = "46087";
+    doc.values.AutoRestDayRule = "D67";
+    doc.values.BoardZoom = 0.8;
+    const int scenes = 20 + rng.bounded(30);
+    for (int i = 0; i < scenes; ++i) {
+        const int row = AddScene(doc, QString::number(i + 1), QString::number(rng.bounded(1, 40) / 8.0));
+        for (int f = 0; f < StripFieldCount; ++f) {
+            const auto field = StripField(f);
+            if (field == StripField::StripKind || field == StripField::PageLength)
+                continue;
+            if (rng.bounded(3) == 0)
+                doc.strips[row].setAt(f, pick());
+        }
+        if (rng.bounded(4) == 0)
+            AddDivider(doc);
+    }
+    AddBanner(doc, pick(), 2);
+    for (int j = 0; j < 15; ++j) {
+        const int row = AddElement(doc, pick(), 1 + j % 15);
+        doc.elements[row].set(ElementField::Reserved19, pick());
+    }
+    doc.crew[3].set(CrewField::Position, pick());
+    doc.crew[50].set(CrewField::Contact, pick());
+    SetModified(doc);
+}
+
+} // namespace
+
+class TestScheduleFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    void emptyDocumentLayout()
+    {
+        ScheduleDocument doc;
+        const QString path = TempPath("empty.tbf");
+        QVERIFY(SaveDocument(doc, path).ok());
+        const QByteArray bytes = ReadFileBytes(path);
+        QVERIFY(bytes.endsWith("\r\n"));
+        const QList<QByteArray> lines = bytes.chopped(1).split('\n');
+        QCOMPARE(lines.size(), 223);
+        for (const QByteArray &line : lines)
+            QVERIFY(line.endsWith('\r'));
+        QCOMPARE(lines[0], QByteArray(ScheduleFileHeader) + '\r');
+        QCOMPARE(lines[1], "1.0\r");
+        QCOMPARE(lines[12], "1\r"); // zoom 1.0 in the general float form
+        QCOMPARE(lines[16], "0\r");
+        QCOMPARE(lines[17], "10\r");
+        QCOMPARE(lines[21], "0\r");
+        QCOMPARE(lines[22], "0\r");
+    }
+
+    void roundTripIsByteIdentical_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        QTest::addColumn<bool>("ascii");
+        for (quint32 seed : {1u, 2u, 3u, 4u})
+            QTest::addRow("seed %u", seed) << seed << false;
+        QTest::newRow("ascii only") << 9u << true;
+    }
+
+    void roundTripIsByteIdentical()
+    {
+        QFETCH(quint32, seed);
+        QFETCH(bool, ascii);
+        ScheduleDocument doc;
+        fillRandom(doc, seed, ascii);
+        const QString first = TempPath(QStringLiteral("rt-%1-a.tbf").arg(seed));
+        const QString second = TempPath(QStringLiteral("rt-%1-b.tbf").arg(seed));
+        const QStringList before = ScheduleFileLines(doc);
+        QVERIFY(SaveDocument(doc, first).ok());
+
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, first).ok());
+        QCOMPARE(ScheduleFileLines(reopened), before);
+        QVERIFY(SaveDocument(reopened, second).ok());
+        const QByteArray a = ReadFileBytes(first);
+        QCOMPARE(ReadFileBytes(second), a);
+        QCOMPARE(a.count('\n'), 223 + 20 * (doc.strips.count() + doc.elements.count()));
+    }
+
+    void encodingChoice_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QByteArray>("expectedLine");
+        QTest::newRow("windows-1252") << "Café – “Noir”" << QByteArray("Caf\xE9 \x96 \x93Noir\x94");
+        QTest::newRow("utf-8 when needed") << "Łódź café" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA caf\xC3\xA9");
+    }
+
+    void encodingChoice()
+    {
+        QFETCH(QString, title);
+        QFETCH(QByteArray, expectedLine);
+        ScheduleDocument doc;
+        doc.values.PictureTitle = title;
+        const QString path = TempPath("enc.tbf");
+        QVERIFY(SaveDocument(doc, path).ok());
+        const QByteArray bytes = ReadFileBytes(path);
+        QCOMPARE(bytes.split('\n').at(2), expectedLine + '\r');
+        QVERIFY(!bytes.startsWith("\xEF\xBB\xBF"));
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(reopened.values.PictureTitle, title);
+    }
+
+    void earlierEditionBytesSurvive()
+    {
+        // Bytes as the earlier edition wrote them in its code page, including ones that
+        // are not valid UTF-8 and a byte the code page leaves undefined.
+        ScheduleDocument doc;
+        doc.values.Company = "x";
+        QStringList lines = ScheduleFileLines(doc);
+        QByteArray bytes;
+        for (int i = 0; i < lines.size(); ++i) {
+            QByteArray line = lines.at(i).toLatin1();
+            if (i == 2)
+                line = "Ren\xE9\x92s \x81 Film";
+            bytes += line + "\r\n";
+        }
+        const QString in = TempPath("old.tbf");
+        const QString out = TempPath("old-resaved.tbf");
+        writeAll(in, bytes);
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, in).ok());
+        QCOMPARE(reopened.values.PictureTitle, QString::fromUtf8("René’s \u0081 Film"));
+        QVERIFY(SaveDocument(reopened, out).ok());
+        QCOMPARE(ReadFileBytes(out), bytes);
+    }
+
+    void openProgressAndStatus()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        AddScene(doc, "2", "1");
+        AddScene(doc, "3", "1");
+        const QString path = TempPath("three.tbf");
+        QVERIFY(SaveDocument(doc, path).ok());
+
+        ScheduleDocument reopened;
+        RecordingStatus status;
+        RecordingView view;
+        reopened.setStatusSink(&status);
+        reopened.setView(&view);
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(status.progress.mid(0, 4), (QList<int>{33, 66, 100, 0}));
+        QCOMPARE(status.panels.value(StatusSink::MessagePanel), "Opened OK.");
+        QCOMPARE(reopened.FileName, path);
+        QVERIFY(!reopened.Modified);
+        QCOMPARE(view.recent.last(), path);
+        QCOMPARE(view.title, "Torvanbridge -   (" + path + ") ");
+        QCOMPARE(reopened.strips.count(), 3);
+        QVERIFY(!status.busy);
+    }
+
+    void reservedLinesIgnored()
+    {
+        ScheduleDocument doc;
+        QStringList lines = ScheduleFileLines(doc);
+        lines[18] = "anything";
+        lines[20] = "12";
+        const QString path = TempPath("reserved.tbf");
+        writeAll(path, (lines.join("\r\n") + "\r\n").toLatin1());
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(ScheduleFileLines(reopened), ScheduleFileLines(doc));
+    }
+
+    void zoomLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<double>("zoom");
+        QTest::newRow("zero") << "0" << 1.0;
+        QTest::newRow("below the floor") << "0.1" << 1.0;
+        QTest::newRow("at the floor") << "0.2" << 0.2;
+        QTest::newRow("comma separator") << "0,5" << 0.5;
+        QTest::newRow("larger") << "1.4" << 1.4;
+    }
+
+    void zoomLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(double, zoom);
+        ScheduleDocument doc;
+        QStringList lines = ScheduleFileLines(doc);
+        lines[12] = line;
+        const QString path = TempPath("zoom.tbf");
+        writeAll(path, (lines.join("\r\n") + "\r\n").toLatin1());
+        ScheduleDocument reopened;
+        RecordingView view;
+        reopened.setView(&view);
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(reopened.values.BoardZoom, zoom);
+        QCOMPARE(view.zoom, zoom);
+    }
+
+    void malformed_data()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        const QStringList good = ScheduleFileLines(doc);
+        auto with = [&](int line, const QString &text) {
+            QStringList lines = good;
+            lines[line] = text;
+            return (lines.join("\r\n") + "\r\n").toLatin1();
+        };
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<bool>("named"); // the path is kept after a read error
+        QTest::newRow("empty file") << QByteArray() << HeaderError << "Error reading file." << false;
+        QTest::newRow("wrong header") << with(0, "Some other file") << HeaderError << "Error reading file." << false;
+        QTest::newRow("trailing blank on header")
+            << with(0, QString(ScheduleFileHeader) + " ") << HeaderError << "Error reading file." << false;
+        QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12) << HeaderError
+                                        << "Error reading file." << false;
+        QTest::newRow("zoom not a number") << with(12, "wide") << OpenError << "Error opening file." << true;
+        QTest::newRow("hold days not a number") << with(17, "ten") << OpenError << "Error opening file." << true;
+        QTest::newRow("strip count not a number") << with(21, "x1") << OpenError << "Error opening file." << true;
+        QTest::newRow("strip count huge") << with(21, "99999999999") << OpenError << "Error opening file." << true;
+        QTest::newRow("strip count past capacity") << with(21, "1001") << OpenError << "Error opening file." << true;
+        QTest::newRow("element count negative") << with(22, "-1") << OpenError << "Error opening file." << true;
+        QTest::newRow("strip count too large for the file")
+            << with(21, "2") << OpenError << "Error opening file." << true;
+    }
+
+    void malformed()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, message);
+        QFETCH(QString, status);
+        QFETCH(bool, named);
+        const QString path = TempPath("bad.tbf");
+        writeAll(path, bytes);
+
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        RecordingStatus sink;
+        doc.setPrompter(&prompter);
+        doc.setStatusSink(&sink);
+        AddScene(doc, "old", "1");
+        doc.FileName = "/old/path.tbf";
+        const Result result = OpenDocument(doc, path);
+        QVERIFY(!result.ok());
+        QCOMPARE(result.message(), message);
+        QCOMPARE(prompter.texts(), QStringList{message});
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
+        QCOMPARE(prompter.prompts.first().beep, message == HeaderError);
+        QCOMPARE(sink.panels.value(StatusSink::MessagePanel), status);
+        QCOMPARE(doc.FileName, named ? path : QString());
+        QVERIFY(!doc.Modified);
+        QVERIFY(!sink.busy);
+        if (!named)
+            QCOMPARE(doc.strips.count(), 0); // the old document is gone all the same
+    }
+
+    void cutAfterEveryLine()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1 3/8");
+        AddDivider(doc);
+        AddElement(doc, "ANNA");
+        SetModified(doc);
+        const QStringList lines = ScheduleFileLines(doc);
+        const QString path = TempPath("cut.tbf");
+        for (int kept = 0; kept < lines.size(); ++kept) {
+            writeAll(path, (lines.mid(0, kept).join("\r\n") + (kept ? "\r\n" : "")).toLatin1());
+            ScheduleDocument reopened;
+            ScriptedPrompter prompter;
+            reopened.setPrompter(&prompter);
+            QVERIFY(!OpenDocument(reopened, path).ok());
+            QCOMPARE(prompter.prompts.size(), 1);
+            QCOMPARE(prompter.texts().first(), kept == 0 ? HeaderError : OpenError);
+        }
+        // The whole file opens, even without its last line end.
+        QStringList whole = lines;
+        whole.last() = "x";
+        writeAll(path, whole.join("\r\n").toLatin1());
+        ScheduleDocument complete;
+        QVERIFY(OpenDocument(complete, path).ok());
+        QCOMPARE(ScheduleFileLines(complete), lines.mid(0, lines.size() - 1) << "x");
+    }
+
+    void failedSaveKeepsState()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        RecordingStatus status;
+        doc.setPrompter(&prompter);
+        doc.setStatusSink(&status);
+        AddScene(doc, "1", "1");
+        SetModified(doc);
+        const QString path = TempPath("no-such-folder/sub/x.tbf");
+        const Result result = SaveDocument(doc, path);
+        QVERIFY(!result.ok());
+        QCOMPARE(prompter.texts(),
+                 QStringList{"Error saving file " + path + ". Try again using SaveAs from the file menu."});
+        QCOMPARE(status.panels.value(StatusSink::MessagePanel), "Error saving file.");
+        QCOMPARE(status.progress.last(), 0);
+        QVERIFY(doc.Modified);
+        QVERIFY(!QFile::exists(path));
+
+        // A failed save over an existing file leaves that file whole.
+        const QString existing = TempPath("keep.tbf");
+        writeAll(existing, "precious");
+        QVERIFY(QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+        const bool folderLocked = !QFile(TempPath("probe")).open(QIODevice::WriteOnly); // root ignores permissions
+        if (folderLocked) {
+            QVERIFY(!SaveDocument(doc, existing).ok());
+            QCOMPARE(ReadFileBytes(existing), QByteArray("precious"));
+        }
+        QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestScheduleFile)
+#include "tst_schedulefile.moc"

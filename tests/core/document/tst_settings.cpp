@@ -1,0 +1,393 @@
+#include "TestSupport.h"
+
+#include "document/LegacyText.h"
+#include "document/ScheduleDocument.h"
+#include "document/Settings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace tb;
+using namespace tb::test;
+
+namespace {
+
+void writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return legacy::DecodeFileText(file.readAll());
+}
+
+// Lines joined by "|" become the file's CR LF lines.
+QByteArray crlf(const char *lines)
+{
+    return QByteArray(lines).replace('|', "\r\n");
+}
+
+quint32 colour(const char *name)
+{
+    quint32 value = 0;
+    legacy::StringToColorValue(QLatin1String(name), &value);
+    return value;
+}
+
+} // namespace
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void defaultsWithoutFile()
+    {
+        Settings s(TempPath("none/Torvanbridge.ini"));
+        QVERIFY(s.LoadSettings().isEmpty());
+        QCOMPARE(s.autosaveMinutes, 0);
+        for (int slot = 1; slot <= ColourSlotCount; ++slot) {
+            QCOMPARE(legacy::ColorValueToString(s.stripBackground[slot]), "clWhite");
+            QCOMPARE(legacy::ColorValueToString(s.stripText[slot]), "clBlack");
+        }
+        QCOMPARE(s.boardFont, "Arial");
+        QCOMPARE(s.descLine1, 12); // location over synopsis
+        QCOMPARE(s.descLine2, 7);
+        QVERIFY(s.scenePopups);
+        QVERIFY(s.showShootingDays);
+        QVERIFY(!s.weatherUrl.isEmpty());
+        QCOMPARE(s.perfMargin, 5.4);
+        QCOMPARE(s.perfWidth, 9.6);
+        for (auto which :
+             {RememberedWarning::AutoRestClick, RememberedWarning::SceneChange, RememberedWarning::CallSheetRest})
+            QVERIFY(!s.skipWarning(which));
+        // The test runner points XDG_CONFIG_HOME at a private folder.
+        QCOMPARE(Settings::DefaultPath(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini");
+    }
+
+    void writtenAndReadBack()
+    {
+        const QString path = TempPath("roundtrip/Torvanbridge.ini");
+        Settings s(path);
+        s.autosaveMinutes = 15;
+        s.stripBackground[3] = colour("clRed");
+        s.stripText[3] = colour("clYellow");
+        s.stripBackground[7] = 0x00123456;
+        s.boardFont = "Times New Roman";
+        s.descLine1 = 19;
+        s.descLine2 = 2;
+        s.scenePopups = false;
+        s.weatherUrl = "https://example.org/weather";
+        s.showShootingDays = false;
+        QVERIFY(s.WritePreferences().ok());
+        s.perfMargin = 6.25;
+        s.perfWidth = 12;
+        QVERIFY(s.WritePerforatedStock().ok());
+
+        Settings back(path);
+        QVERIFY(back.LoadSettings().isEmpty());
+        QCOMPARE(back.autosaveMinutes, 15);
+        QCOMPARE(back.stripBackground, s.stripBackground);
+        QCOMPARE(back.stripText, s.stripText);
+        QCOMPARE(back.boardFont, "Times New Roman");
+        QCOMPARE(back.descLine1, 19);
+        QCOMPARE(back.descLine2, 2);
+        QVERIFY(!back.scenePopups);
+        QCOMPARE(back.weatherUrl, "https://example.org/weather");
+        QVERIFY(!back.showShootingDays);
+        QCOMPARE(back.perfMargin, 6.25);
+        QCOMPARE(back.perfWidth, 12.0);
+
+        // The file reads like the earlier edition's: a literal [General] section, booleans
+        // as 1 and 0, colour names, CR LF line ends.
+        const QString text = readText(path);
+        QVERIFY(text.contains("[Files]\r\nAutosavetime=15\r\n"));
+        QVERIFY(text.contains("[General]\r\nScenePopups=0\r\nWeatherURL=https://example.org/weather\r\n"
+                              "ShowShootingDays=0\r\n"));
+        QVERIFY(text.contains("CB3=clRed\r\n"));
+        QVERIFY(text.contains("CT3=clYellow\r\n"));
+        QVERIFY(text.contains("CB7=$00123456\r\n"));
+        QVERIFY(text.contains("CB1=clWhite\r\n"));
+        QVERIFY(text.contains("Font=Times New Roman\r\nDescLine1=19\r\nDescLine2=2\r\n"));
+        QVERIFY(!text.contains("%General"));
+    }
+
+    void earlierEditionFileRead()
+    {
+        // Written by the earlier edition: Windows-1252, CR LF, key case as it pleased,
+        // blanks around "=", system colour names, a comma as the decimal separator.
+        const QString path = TempPath("earlier/Torvanbridge.ini");
+        writeBytes(path, crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
+                              "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
+                              "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
+                              "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|"));
+        Settings s(path);
+        QVERIFY(s.LoadSettings().isEmpty());
+        QCOMPARE(s.autosaveMinutes, 10);
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[1]), "clSkyBlue");
+        QCOMPARE(legacy::ColorValueToString(s.stripText[1]), "clNavy");
+        QCOMPARE(legacy::ColorValueToQColor(s.stripBackground[4]), QColor(255, 255, 128));
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[7]), "clBlack");
+        QCOMPARE(legacy::ColorValueToString(s.stripText[7]), "clWhite");
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[9]), "clBtnFace");
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[2]), "clWhite"); // missing: default
+        QCOMPARE(s.descLine1, 7);
+        QCOMPARE(s.descLine2, 12);
+        QCOMPARE(s.boardFont, "Times New Roman");
+        QVERIFY(!s.scenePopups);
+        QCOMPARE(s.weatherUrl, QString::fromUtf8("http://météo.example/"));
+        QVERIFY(!s.showShootingDays);
+        QCOMPARE(s.perfMargin, 5.5);
+        QCOMPARE(s.perfWidth, 10.0);
+        QVERIFY(s.skipWarning(RememberedWarning::AutoRestClick));
+        QVERIFY(!s.skipWarning(RememberedWarning::SceneChange));
+
+        // Writing it back changes the keys in place, in their own spelling and section,
+        // keeps the system colour name and the other sections, and keeps Windows-1252.
+        QVERIFY(s.WritePreferences().ok());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QVERIFY(bytes.contains("[Files]\r\nautosavetime=10\r\n\r\n[Strips]\r\n"));
+        QVERIFY(bytes.contains("[GENERAL]\r\nScenePopups=0\r\nWeatherURL=http://m\xe9t\xe9o.example/\r\n"));
+        QVERIFY(bytes.contains("CB9=clBtnFace\r\n"));
+        QVERIFY(bytes.contains("Font=Times New Roman\r\n"));
+        QVERIFY(bytes.contains("[PBDialog]\r\nAutoRestClick=1\r\n"));
+        QVERIFY(bytes.contains("PerfMargin=5,5\r\n"));
+        QCOMPARE(bytes.count("[GENERAL]"), 1);
+        QVERIFY(!bytes.contains("[General]"));
+    }
+
+    void booleanForms_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("expected");
+        // A boolean is an integer, true when not 0; text that is no integer gives the
+        // default (true for ScenePopups).
+        QTest::newRow("1") << QByteArray("1") << true;
+        QTest::newRow("0") << QByteArray("0") << false;
+        QTest::newRow("2") << QByteArray("2") << true;
+        QTest::newRow("-1") << QByteArray("-1") << true;
+        QTest::newRow(" 0 ") << QByteArray(" 0 ") << false;
+        QTest::newRow("false") << QByteArray("false") << true;
+        QTest::newRow("empty") << QByteArray("") << true;
+    }
+
+    void booleanForms()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(bool, expected);
+        const QString path = TempPath("bool/Torvanbridge.ini");
+        writeBytes(path, "[General]\r\nScenePopups=" + value + "\r\n");
+        Settings s(path);
+        s.LoadSettings();
+        QCOMPARE(s.scenePopups, expected);
+    }
+
+    void unreadableValuesKeepDefaults()
+    {
+        const QString path = TempPath("bad/Torvanbridge.ini");
+        writeBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|"));
+        Settings s(path);
+        const QStringList problems = s.LoadSettings();
+        QCOMPARE(problems.size(), 3);
+        QVERIFY(problems.at(0).contains("\"clPurpleHaze\" for CB2 in [Strips], which is not a colour"));
+        QVERIFY(problems.at(1).contains("\"\" for CT5"));
+        QVERIFY(problems.at(2).contains("\"wide\" for PerfWidth in [Printing], which is not a number"));
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[2]), "clWhite");
+        QCOMPARE(legacy::ColorValueToString(s.stripText[5]), "clBlack");
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[6]), "clRed");
+        QCOMPARE(s.perfWidth, 9.6);
+    }
+
+    void writeKeepsOtherLines()
+    {
+        const QString path = TempPath("keep/x.ini");
+        writeBytes(path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|"));
+        IniFile ini(path);
+        QVERIFY(ini.load());
+        QCOMPARE(ini.readString("other", "key"), "quoted value");
+        QCOMPARE(ini.readInteger("Files", "AUTOSAVETIME", 0), 3);
+        ini.writeInteger("Files", "Autosavetime", 4);
+        ini.writeString("Files", "New", "x");
+        ini.writeString("Added", "K", "v");
+        QCOMPARE(ini.text(),
+                 QString::fromLatin1(
+                     crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=4|Extra=1|New=x||[Last]|A=b||"
+                          "[Added]|K=v|")));
+        QVERIFY(ini.save().ok());
+        QCOMPARE(readText(path), ini.text());
+
+        IniFile missing(TempPath("keep/missing.ini"));
+        QVERIFY(!missing.load());
+        missing.writeBool("General", "ScenePopups", true);
+        QCOMPARE(missing.text(), "[General]\r\nScenePopups=1\r\n");
+    }
+
+    void applyPreferences()
+    {
+        const QString path = TempPath("apply/Torvanbridge.ini");
+        Settings s(path);
+        ScheduleDocument doc;
+        PreferencesInput in = PreferencesFromSettings(s);
+        QCOMPARE(in.descLine1Index, 0);
+        QCOMPARE(in.descLine2Index, 1);
+        in.autosaveMinutes = 7;
+        in.scenePopups = false;
+        in.weatherUrl = "https://w.example";
+        in.showShootingDays = false;
+        in.boardFont = "DejaVu Sans";
+        in.stripBackground[1] = colour("clYellow");
+        in.stripText[10] = colour("clRed");
+        QVERIFY(ApplyPreferences(doc, s, in).ok());
+
+        QCOMPARE(doc.autosaveMinutes, 7);
+        QCOMPARE(s.autosaveMinutes, 7);
+        QCOMPARE(s.boardFont, "DejaVu Sans");
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[1]), "clYellow");
+        // The file holds the colours chosen in the dialog, not the earlier ones.
+        Settings back(path);
+        back.LoadSettings();
+        QCOMPARE(legacy::ColorValueToString(back.stripBackground[1]), "clYellow");
+        QCOMPARE(legacy::ColorValueToString(back.stripText[10]), "clRed");
+        QCOMPARE(back.autosaveMinutes, 7);
+        QVERIFY(!back.scenePopups);
+        QVERIFY(!back.showShootingDays);
+        QCOMPARE(back.weatherUrl, "https://w.example");
+        // The file is not touched by the perforated stock values.
+        QVERIFY(!readText(path).contains("Perf"));
+    }
+
+    void descriptionLineItems_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<int>("stored");
+        QTest::newRow("Location") << 0 << 12;
+        QTest::newRow("Synopsis") << 1 << 7;
+        QTest::newRow("Sequence") << 2 << 11;
+        QTest::newRow("Scene number(s)") << 3 << 2;
+        QTest::newRow("Notes") << 4 << 19;
+        QTest::newRow("nothing chosen") << -1 << 99; // unchanged
+        QTest::newRow("past the list") << 5 << 99;
+    }
+
+    void descriptionLineItems()
+    {
+        QFETCH(int, index);
+        QFETCH(int, stored);
+        QCOMPARE(DescLineItems().size(), 5);
+        if (index >= 0 && index < 5)
+            QCOMPARE(DescLineItems().at(index), QString::fromLatin1(QTest::currentDataTag()));
+        const QString path = TempPath("desc/Torvanbridge.ini");
+        Settings s(path);
+        s.descLine1 = 99;
+        ScheduleDocument doc;
+        PreferencesInput in = PreferencesFromSettings(s);
+        QCOMPARE(in.descLine1Index, -1); // a code that is none of the five shows no item
+        in.descLine1Index = index;
+        QVERIFY(ApplyPreferences(doc, s, in).ok());
+        QCOMPARE(s.descLine1, stored);
+        Settings back(path);
+        back.LoadSettings();
+        QCOMPARE(back.descLine1, stored);
+    }
+
+    void warningAnswers_data()
+    {
+        QTest::addColumn<int>("unticked"); // which "Warn me about" box is cleared
+        QTest::addColumn<QString>("line");
+        QTest::newRow("scene change") << 0 << "[StripDlg]\r\nSceneChange=1\r\n";
+        QTest::newRow("auto-rest click") << 1 << "[PBDialog]\r\nAutoRestClick=1\r\n";
+        QTest::newRow("call sheet rest") << 2 << "[CallSheetDlg]\r\nCallSheetRest=1\r\n";
+    }
+
+    void warningAnswers()
+    {
+        QFETCH(int, unticked);
+        QFETCH(QString, line);
+        const QString path = TempPath("warn/Torvanbridge.ini");
+        QFile::remove(path);
+        Settings s(path);
+        ScheduleDocument doc;
+        PreferencesInput in = PreferencesFromSettings(s);
+        QVERIFY(in.warnSceneChange && in.warnAutoRestClick && in.warnCallSheetRest);
+        in.warnSceneChange = unticked != 0;
+        in.warnAutoRestClick = unticked != 1;
+        in.warnCallSheetRest = unticked != 2;
+        QVERIFY(ApplyPreferences(doc, s, in).ok());
+        const QString text = readText(path);
+        QVERIFY2(text.contains(line), qPrintable(text));
+        QCOMPARE(text.count("=1\r\n", Qt::CaseSensitive) - text.count("ScenePopups=1") -
+                     text.count("ShowShootingDays=1"),
+                 1);
+        QCOMPARE(s.skipWarning(RememberedWarning::SceneChange), unticked == 0);
+        QCOMPARE(s.skipWarning(RememberedWarning::AutoRestClick), unticked == 1);
+        QCOMPARE(s.skipWarning(RememberedWarning::CallSheetRest), unticked == 2);
+        // The dialog shows them the same way round next time.
+        const PreferencesInput again = PreferencesFromSettings(s);
+        QCOMPARE(again.warnAutoRestClick, unticked != 1);
+    }
+
+    void unwritableFileReported()
+    {
+        // A folder where the file should be: it cannot be written.
+        const QString path = TempPath("blocked/Torvanbridge.ini");
+        QVERIFY(QDir().mkpath(path));
+        Settings s(path);
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        doc.setPrompter(&prompter);
+        PreferencesInput in = PreferencesFromSettings(s);
+        in.autosaveMinutes = 9;
+        QVERIFY(!ApplyPreferences(doc, s, in).ok());
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
+        QVERIFY(prompter.prompts.first().text.startsWith("Torvanbridge could not write its settings file"));
+        QCOMPARE(s.autosaveMinutes, 9); // taken for this run all the same
+        QCOMPARE(doc.autosaveMinutes, 9);
+    }
+
+    void rememberedWarning()
+    {
+        const QString path = TempPath("remember/Torvanbridge.ini");
+        Settings s(path);
+        ScriptedPrompter prompter;
+        Prompt warning{MessageKind::Warning, "Careful", Buttons::Ok, false, {}, false};
+
+        // Not ticked: shown each time.
+        auto reply = AskUnlessRemembered(prompter, s, RememberedWarning::AutoRestClick, warning);
+        QVERIFY(reply.has_value());
+        QCOMPARE(prompter.prompts.last().checkBoxText, QString::fromLatin1(DontShowAgainText));
+        QVERIFY(!s.skipWarning(RememberedWarning::AutoRestClick));
+
+        // Ticked: stored at once, and the warning is not shown again.
+        struct Ticking : ScriptedPrompter
+        {
+            PromptReply ask(const Prompt &p) override
+            {
+                PromptReply r = ScriptedPrompter::ask(p);
+                r.checkBoxChecked = true;
+                return r;
+            }
+        } ticking;
+        QVERIFY(AskUnlessRemembered(ticking, s, RememberedWarning::AutoRestClick, warning).has_value());
+        QVERIFY(s.skipWarning(RememberedWarning::AutoRestClick));
+        QVERIFY(readText(path).contains("[PBDialog]\r\nAutoRestClick=1\r\n"));
+        QVERIFY(!AskUnlessRemembered(ticking, s, RememberedWarning::AutoRestClick, warning).has_value());
+        QCOMPARE(ticking.prompts.size(), 1);
+        // The others are separate.
+        QVERIFY(AskUnlessRemembered(prompter, s, RememberedWarning::SceneChange, warning).has_value());
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestSettings)
+#include "tst_settings.moc"

@@ -1,0 +1,111 @@
+#include "TestSupport.h"
+
+#include "ui/shell/HelpWindow.h"
+#include "ui/shell/RecentFilesList.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QDir>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tb;
+
+namespace {
+
+QStringList visibleTexts(const QMenu &menu)
+{
+    QStringList texts;
+    for (QAction *a : menu.actions()) {
+        if (a->isVisible())
+            texts << (a->isSeparator() ? QStringLiteral("-") : a->text());
+    }
+    return texts;
+}
+
+} // namespace
+
+class TestRecentFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QSettings settings(QSettings::NativeFormat, QSettings::UserScope, "Brenholt", "Torvanbridge");
+        settings.clear();
+    }
+
+    void keepsSixNewestFirst()
+    {
+        QMenu menu;
+        menu.addAction("&Exit");
+        RecentFilesList list(&menu);
+        QCOMPARE(visibleTexts(menu), QStringList{"&Exit"}); // no separator while empty
+        for (int i = 1; i <= 8; ++i)
+            list.add(QString("/films/f%1.tbf").arg(i));
+        list.add("");
+        list.add("   ");
+        QCOMPARE(list.paths(), (QStringList{"/films/f8.tbf", "/films/f7.tbf", "/films/f6.tbf", "/films/f5.tbf",
+                                            "/films/f4.tbf", "/films/f3.tbf"}));
+        // A path listed already moves to the top.
+        list.add("/films/f5.tbf");
+        QCOMPARE(list.paths().first(), "/films/f5.tbf");
+        QCOMPARE(list.paths().size(), 6);
+        QCOMPARE(list.paths().count("/films/f5.tbf"), 1);
+        const QStringList texts = visibleTexts(menu);
+        QCOMPARE(texts.size(), 8);
+        QCOMPARE(texts.at(1), "-");
+        QCOMPARE(texts.at(2), "&1 " + QDir::toNativeSeparators("/films/f5.tbf"));
+        QCOMPARE(texts.at(7), "&6 " + QDir::toNativeSeparators("/films/f3.tbf"));
+        list.add("/films/R&D.tbf");
+        QVERIFY(visibleTexts(menu).at(2).endsWith("R&&D.tbf")); // no access key from the name
+        QSignalSpy chosen(&list, &RecentFilesList::fileChosen);
+        list.actions().at(1)->trigger();
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(chosen.first().first().toString(), "/films/f5.tbf");
+    }
+
+    void savedAndLoaded()
+    {
+        QMenu menu;
+        RecentFilesList list(&menu);
+        list.add("/a.tbf");
+        list.add("/b.tbf");
+        QVERIFY(list.save());
+        {
+            QSettings settings(QSettings::NativeFormat, QSettings::UserScope, "Brenholt", "Torvanbridge");
+            QCOMPARE(settings.value("MRUList/File1").toString(), "/b.tbf");
+            QCOMPARE(settings.value("MRUList/File2").toString(), "/a.tbf");
+            QVERIFY(!settings.contains("MRUList/File3"));
+        }
+        QMenu other;
+        RecentFilesList again(&other);
+        again.load();
+        QCOMPARE(again.paths(), (QStringList{"/b.tbf", "/a.tbf"}));
+        // A shorter list leaves no stale entries behind.
+        again.clear();
+        again.add("/c.tbf");
+        QVERIFY(again.save());
+        RecentFilesList third(&other);
+        third.load();
+        QCOMPARE(third.paths(), QStringList{"/c.tbf"});
+    }
+
+    void helpKeyInDialog()
+    {
+        QDialog dialog;
+        int shown = 0;
+        InstallHelpKey(&dialog, [&] { ++shown; });
+        dialog.show();
+        dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        QCOMPARE(shown, 1);
+    }
+};
+
+TB_TEST_MAIN(TestRecentFiles)
+#include "tst_recentfiles.moc"
