@@ -63,6 +63,8 @@ QList<CleanLine> WithoutNotes(const QStringList &lines)
 
 QString WithoutMarkup(QString text)
 {
+    if (!text.contains(u'*') && !text.contains(u'_') && !text.contains(u'\\'))
+        return text;
     static const QRegularExpression emphasis(QStringLiteral("\\*{1,3}(?=\\S)|(?<=\\S)\\*{1,3}|(?<![\\w\\\\])_|_(?!\\w)"));
     text.remove(emphasis);
     text.remove(u'\\');
@@ -228,9 +230,11 @@ ScreenplayText FountainReader::read()
         // A character cue: a line in capitals (the extension may be in any case)
         // after a blank line, with speech on the next line; or forced with "@".
         const bool forcedCue = line.startsWith(u'@');
-        const QString bare = CueName(line);
-        const bool cue = blankBefore && !blankAfter && !line.startsWith(u'!') &&
-                         (forcedCue || (HasLetter(bare) && !HasLowerCase(bare)));
+        bool cue = blankBefore && !blankAfter && !line.startsWith(u'!');
+        if (cue && !forcedCue) {
+            const QString bare = CueName(line);
+            cue = HasLetter(bare) && !HasLowerCase(bare);
+        }
         if (cue) {
             ScreenplayParagraph p;
             p.kind = ScreenplayElement::Character;
