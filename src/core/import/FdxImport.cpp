@@ -91,7 +91,8 @@ ResultOf<ScreenplayText> ParseFdx(const QByteArray &bytes)
                 if (inTitlePage) {
                     if (titleLine.isEmpty() && !p.paragraph.text.isEmpty())
                         titleLine = p.paragraph.text.simplified();
-                } else if (inContent && (!p.paragraph.text.isEmpty() || p.paragraph.kind == ScreenplayElement::Heading) &&
+                } else if (inContent &&
+                           (!p.paragraph.text.isEmpty() || p.paragraph.kind == ScreenplayElement::Heading) &&
                            (p.typed || open.isEmpty())) {
                     script.paragraphs.append(p.paragraph);
                 }
@@ -105,9 +106,8 @@ ResultOf<ScreenplayText> ParseFdx(const QByteArray &bytes)
         }
     }
     if (xml.hasError())
-        return ResultOf<ScreenplayText>::failure(QStringLiteral("line %1: %2")
-                                                     .arg(xml.lineNumber())
-                                                     .arg(xml.errorString()));
+        return ResultOf<ScreenplayText>::failure(
+            QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString()));
     script.title = titleLine;
     return script;
 }
@@ -115,8 +115,8 @@ ResultOf<ScreenplayText> ParseFdx(const QByteArray &bytes)
 Result ImportFdxFile(ScheduleDocument &doc, const QString &path, const ScriptImportSettings &words)
 {
     auto failure = [&doc, &path](const QString &reason) {
-        const QString text = QString::fromLatin1(FdxReadErrorText) + QStringLiteral("\r\r") + path +
-                             QStringLiteral(": ") + reason;
+        const QString text =
+            QString::fromLatin1(FdxReadErrorText) + QStringLiteral("\r\r") + path + QStringLiteral(": ") + reason;
         doc.prompter().error(text);
         return Result::failure(text);
     };

@@ -65,7 +65,8 @@ QString WithoutMarkup(QString text)
 {
     if (!text.contains(u'*') && !text.contains(u'_') && !text.contains(u'\\'))
         return text;
-    static const QRegularExpression emphasis(QStringLiteral("\\*{1,3}(?=\\S)|(?<=\\S)\\*{1,3}|(?<![\\w\\\\])_|_(?!\\w)"));
+    static const QRegularExpression emphasis(
+        QStringLiteral("\\*{1,3}(?=\\S)|(?<=\\S)\\*{1,3}|(?<![\\w\\\\])_|_(?!\\w)"));
     text.remove(emphasis);
     text.remove(u'\\');
     return text;

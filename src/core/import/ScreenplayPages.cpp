@@ -88,8 +88,7 @@ QList<double> PaginateScreenplay(const QList<ScreenplayParagraph> &paragraphs)
             continue;
         }
         const int height = WrappedLines(p.text, WidthOf(p.kind));
-        const bool speech =
-            InSpeech(p.kind) && (previous == ScreenplayElement::Character || InSpeech(previous));
+        const bool speech = InSpeech(p.kind) && (previous == ScreenplayElement::Character || InSpeech(previous));
         int blank = (!speech && used > 0) ? 1 : 0;
 
         // A heading keeps two lines of what follows with it, a cue its first line of

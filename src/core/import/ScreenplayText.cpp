@@ -26,9 +26,9 @@ const QRegularExpression &PartSeparator()
 // The leading interior/exterior of a heading, with what follows it up to the location.
 const QRegularExpression &IntExtPrefix()
 {
-    static const QRegularExpression re(
-        QStringLiteral("^(INT\\.?\\s*/\\s*EXT|EXT\\.?\\s*/\\s*INT|I\\s*/\\s*E|E\\s*/\\s*I|INTERIOR|EXTERIOR|INT|EXT|EST)"
-                       "(\\.|\\s|$)[\\s.]*"));
+    static const QRegularExpression re(QStringLiteral(
+        "^(INT\\.?\\s*/\\s*EXT|EXT\\.?\\s*/\\s*INT|I\\s*/\\s*E|E\\s*/\\s*I|INTERIOR|EXTERIOR|INT|EXT|EST)"
+        "(\\.|\\s|$)[\\s.]*"));
     return re;
 }
 

@@ -13,11 +13,11 @@ enum class ScreenplayElement { Heading, Action, Character, Parenthetical, Dialog
 struct ScreenplayParagraph
 {
     ScreenplayElement kind = ScreenplayElement::Action;
-    QString text;        // lines joined by "\n", markup removed
-    int line = 0;        // where it starts in the file (Fountain: line; .fdx: paragraph)
-    QString sceneNumber; // headings: the number the script gives, if any
-    QString length;      // headings of .fdx files: "1 3/8" when the file has it
-    QString page;        // headings of .fdx files: the script page when the file has it
+    QString text;            // lines joined by "\n", markup removed
+    int line = 0;            // where it starts in the file (Fountain: line; .fdx: paragraph)
+    QString sceneNumber;     // headings: the number the script gives, if any
+    QString length;          // headings of .fdx files: "1 3/8" when the file has it
+    QString page;            // headings of .fdx files: the script page when the file has it
     bool dualSecond = false; // the second speaker of dual dialogue and its lines
 };
 

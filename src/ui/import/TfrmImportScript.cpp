@@ -325,7 +325,9 @@ void TfrmImportScript::fillFileList()
         ui->FileListBox1->selectedItems().isEmpty() ? QString() : ui->FileListBox1->selectedItems().first()->text();
     ui->FileListBox1->clear();
     const QStringList files =
-        QDir(m_directory).entryList({QStringLiteral("*.txt"), QStringLiteral("*.fountain"), QStringLiteral("*.fdx")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+        QDir(m_directory)
+            .entryList({QStringLiteral("*.txt"), QStringLiteral("*.fountain"), QStringLiteral("*.fdx")}, QDir::Files,
+                       QDir::Name | QDir::IgnoreCase);
     ui->FileListBox1->addItems(files);
     if (!selected.isEmpty()) {
         const QList<QListWidgetItem *> again = ui->FileListBox1->findItems(selected, Qt::MatchExactly);

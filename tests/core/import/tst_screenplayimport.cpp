@@ -164,10 +164,8 @@ void TestScreenplayImport::synopsis_data()
     QTest::addColumn<QString>("synopsis");
     Row("short, first line only", "A gorgeous day.\nThe sun shines.", "A gorgeous day.");
     Row("first sentence of a long line",
-        "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.",
-        "A gorgeous day.");
-    Row("cut at a blank",
-        "The small bedroom is painted sky blue and has toys scattered all around the floor of it",
+        "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.", "A gorgeous day.");
+    Row("cut at a blank", "The small bedroom is painted sky blue and has toys scattered all around the floor of it",
         "The small bedroom is painted sky blue and has toys scattered...");
     Row("markup removed", "*Did you know* _Brick_ is **retired**?", "Did you know Brick is retired?");
 }
@@ -181,49 +179,48 @@ void TestScreenplayImport::synopsis()
 
 void TestScreenplayImport::fountainRules()
 {
-    const QString script = QStringLiteral(
-        "Title: **THE HEIST**\n"
-        "Author: Nobody\n"
-        "\n"
-        "# ACT ONE\n"
-        "= The crew meets.\n"
-        "\n"
-        "NARRATOR (V.O.)\n"
-        "Once upon a time.\n"
-        "\n"
-        "INT. VAULT - NIGHT #12A#\n"
-        "\n"
-        "Alarms blare. [[fix this]] Lights flash.\n"
-        "\n"
-        "MARY\n"
-        "(whispering)\n"
-        "Go.\n"
-        "\n"
-        "JOHN ^\n"
-        "Now.\n"
-        "\n"
-        "MARY (CONT'D)\n"
-        "Go!\n"
-        "\n"
-        "/* EXT. CUT SCENE - DAY\n"
-        "\n"
-        "GHOST\n"
-        "Boo. */\n"
-        "\n"
-        "CUT TO:\n"
-        "\n"
-        ".FLASHBACK\n"
-        "\n"
-        "@McCLANE\n"
-        "Yippee.\n"
-        "\n"
-        "EXT. ROOF - DAY #13#\n"
-        "\n"
-        "[[a note alone]]\n"
-        "\n"
-        "Wind.\n"
-        "\n"
-        "> THE END <\n");
+    const QString script = QStringLiteral("Title: **THE HEIST**\n"
+                                          "Author: Nobody\n"
+                                          "\n"
+                                          "# ACT ONE\n"
+                                          "= The crew meets.\n"
+                                          "\n"
+                                          "NARRATOR (V.O.)\n"
+                                          "Once upon a time.\n"
+                                          "\n"
+                                          "INT. VAULT - NIGHT #12A#\n"
+                                          "\n"
+                                          "Alarms blare. [[fix this]] Lights flash.\n"
+                                          "\n"
+                                          "MARY\n"
+                                          "(whispering)\n"
+                                          "Go.\n"
+                                          "\n"
+                                          "JOHN ^\n"
+                                          "Now.\n"
+                                          "\n"
+                                          "MARY (CONT'D)\n"
+                                          "Go!\n"
+                                          "\n"
+                                          "/* EXT. CUT SCENE - DAY\n"
+                                          "\n"
+                                          "GHOST\n"
+                                          "Boo. */\n"
+                                          "\n"
+                                          "CUT TO:\n"
+                                          "\n"
+                                          ".FLASHBACK\n"
+                                          "\n"
+                                          "@McCLANE\n"
+                                          "Yippee.\n"
+                                          "\n"
+                                          "EXT. ROOF - DAY #13#\n"
+                                          "\n"
+                                          "[[a note alone]]\n"
+                                          "\n"
+                                          "Wind.\n"
+                                          "\n"
+                                          "> THE END <\n");
     auto run = Imported::fountain(script);
     QVERIFY(run->result.ok());
     QVERIFY(run->prompter.prompts.isEmpty());
@@ -284,11 +281,10 @@ void TestScreenplayImport::fdxRules()
         QStringLiteral("<Paragraph Type=\"Scene Heading\" Number=\"5\"><SceneProperties Length=\"1 3/8\" Page=\"7\" "
                        "Title=\"\"/><Text>EXT. GARDEN</Text><Text> - DAY</Text></Paragraph>\n") +
         Para("Action", "Rain on the window.") + Para("Character", "ANNA (V.O.)") + Para("Parenthetical", "(softly)") +
-        Para("Dialogue", "Hello.") +
-        QStringLiteral("<Paragraph><DualDialogue>") + Para("Character", "BEN") + Para("Dialogue", "Hi.") +
-        Para("Character", "CAL (CONT'D)") + Para("Dialogue", "Hey.") + QStringLiteral("</DualDialogue></Paragraph>") +
-        Para("Character", "ANNA") + Para("Dialogue", "Again.") + Para("Transition", "CUT TO:") +
-        Para("Scene Heading", "INT. SHED - DAWN");
+        Para("Dialogue", "Hello.") + QStringLiteral("<Paragraph><DualDialogue>") + Para("Character", "BEN") +
+        Para("Dialogue", "Hi.") + Para("Character", "CAL (CONT'D)") + Para("Dialogue", "Hey.") +
+        QStringLiteral("</DualDialogue></Paragraph>") + Para("Character", "ANNA") + Para("Dialogue", "Again.") +
+        Para("Transition", "CUT TO:") + Para("Scene Heading", "INT. SHED - DAWN");
     auto run = Imported::fdx(Fdx(content, Para("", "") + Para("Title", "Garden Party") + Para("", "by Someone")));
     QVERIFY2(run->result.ok(), qPrintable(run->result.message()));
     QCOMPARE(run->doc.values.PictureTitle, QStringLiteral("Garden Party"));
@@ -359,9 +355,10 @@ void TestScreenplayImport::realFountainScripts_data()
     QTest::newRow("Brick & Steel") << "brick_and_steel.fountain" << 8
                                    << QStringList{"STEEL", "BRICK", "DAN", "JACK", "COGNITO", "MINION", "HANDSOME MAN"}
                                    << 2.95;
-    QTest::newRow("My Living Memory")
-        << "my_living_memory.fountain" << 9
-        << QStringList{"JOE", "KATE", "MESSAGE MACHINE", "BETTY", "HARRY", "MATTHEW", "BURTON", "CONDUCTOR"} << 14.4;
+    QTest::newRow("My Living Memory") << "my_living_memory.fountain" << 9
+                                      << QStringList{"JOE",   "KATE",    "MESSAGE MACHINE", "BETTY",
+                                                     "HARRY", "MATTHEW", "BURTON",          "CONDUCTOR"}
+                                      << 14.4;
     QTest::newRow("Printing Trouble") << "printing_trouble.fountain" << 29
                                       << QStringList{"MIKE", "PRINTER", "INTERCOM", "MINA", "DONNA"} << 10.4;
 }
@@ -467,7 +464,8 @@ void TestScreenplayImport::plainTextReview_data()
     // Speaking characters as the text import names them; BOB and CYBER BOB are two
     // cues of one character in the script, and stay two names.
     QTest::newRow("trelby") << "trelby-test.txt" << 11
-                            << QStringList{"Jason", "Kevin", "Fisherman #1", "Fisherman #2", "Sarah", "Captain", "Reporter"};
+                            << QStringList{"Jason", "Kevin",   "Fisherman #1", "Fisherman #2",
+                                           "Sarah", "Captain", "Reporter"};
     QTest::newRow("cyber bob") << "cyber-bob-ep1.txt" << 3
                                << QStringList{"Bob", "Dog", "Margaret", "Cyber bob", "Cyber boss", "Boss"};
 }

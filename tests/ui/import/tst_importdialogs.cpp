@@ -397,14 +397,14 @@ void TestImportDialogs::wizardReview_data()
     QTest::addColumn<QStringList>("assignments");
     QTest::addColumn<QString>("dropped");
     // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
-    QTest::newRow("Import! removes the unticked")
-        << "NextBut" << QStringList{"Mary", "John"} << QStringList{"1", "2,1"} << "Dropped in the review: 2., A river., 3..";
+    QTest::newRow("Import! removes the unticked") << "NextBut" << QStringList{"Mary", "John"} << QStringList{"1", "2,1"}
+                                                  << "Dropped in the review: 2., A river., 3..";
     QTest::newRow("Keep all keeps the text import's result")
         << "KeepAllBut" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
     QTest::newRow("closing keeps all too")
         << "close" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
-    QTest::newRow("Ignore character on a name") << "ignore" << QStringList{"John"} << QStringList{"", "1"}
-                                                << "Dropped in the review: Mary, 2., A river., 3..";
+    QTest::newRow("Ignore character on a name")
+        << "ignore" << QStringList{"John"} << QStringList{"", "1"} << "Dropped in the review: Mary, 2., A river., 3..";
 }
 
 void TestImportDialogs::wizardReview()
