@@ -33,6 +33,8 @@ QString CharacterDoubt(const QString &name)
         return QStringLiteral("a transition");
     if (upper.endsWith(u'.'))
         return QStringLiteral("ends with a full stop");
+    if (upper.endsWith(u'!') || upper.endsWith(u'?'))
+        return QStringLiteral("ends like a sentence");
     if (upper.split(u' ', Qt::SkipEmptyParts).size() > 3)
         return QStringLiteral("more than three words");
     return QString();

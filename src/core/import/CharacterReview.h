@@ -20,7 +20,7 @@ struct ReviewedCharacter
 };
 
 // Why a cast name found by an import is likely no character: no letters ("12."), a
-// trailing full stop ("A river."), a page number ("PAGE 3", "- 12 -"), more than
+// trailing full stop ("A river.") or "!" or "?" ("BOOM!"), a page number ("PAGE 3", "- 12 -"), more than
 // three words ("Grabbing the snake and running"), a quotation ("\"Dog translator\""),
 // a transition ("Cut to black",
 // "Continued"). Empty when none of these holds.

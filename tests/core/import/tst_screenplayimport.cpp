@@ -422,6 +422,7 @@ void TestScreenplayImport::doubts_data()
     Row("page with a letter", "12a.", "a page number");
     Row("page word", "Page 3", "a page number");
     Row("line of action", "A river.", "ends with a full stop");
+    Row("exclamation", "BOOM!", "ends like a sentence");
     Row("long line", "Grabbing the snake and running", "more than three words");
     Row("transition", "Cut to black", "a transition");
     Row("continued", "Continued", "a transition");
