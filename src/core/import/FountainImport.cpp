@@ -24,6 +24,10 @@ QList<CleanLine> WithoutNotes(const QStringList &lines)
     bool inBoneyard = false;
     bool inNote = false;
     for (const QString &line : lines) {
+        // A note does not run over an empty line: one left open ends there, so that a
+        // stray "[[" cannot swallow the rest of the script.
+        if (inNote && line.isEmpty())
+            inNote = false;
         if (!inBoneyard && !inNote && !line.contains(u'/') && !line.contains(u'[')) {
             out.append({line, false});
             continue;

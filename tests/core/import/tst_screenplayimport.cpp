@@ -218,6 +218,8 @@ void TestScreenplayImport::fountainRules()
                                           "\n"
                                           "[[a note alone]]\n"
                                           "\n"
+                                          "[[a note left open\n"
+                                          "\n"
                                           "Wind.\n"
                                           "\n"
                                           "> THE END <\n");
