@@ -15,7 +15,7 @@ jobs=${JOBS:-$(nproc 2>/dev/null || echo 2)}
 
 launcher=()
 command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_INSTALL_PREFIX=/usr \
+cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
     -DTB_BUILD_TESTS=OFF "${launcher[@]}" >/dev/null
 cmake --build "$build" -j "$jobs"
 (cd "$build" && cpack -G DEB >/dev/null)

@@ -38,7 +38,10 @@ QString wrappedTerm(const QString &term)
     QStringList groups;
     int depth = 0;
     for (const QString &word : term.split(u' ', Qt::SkipEmptyParts)) {
-        if (depth > 0 && !groups.isEmpty())
+        // An option stays with its value: "--max N", "--mode keep|split".
+        const bool value = !groups.isEmpty() && groups.last().startsWith(u'-') && !groups.last().contains(u' ') &&
+                           !word.startsWith(u'-') && !word.startsWith(u'[') && !word.startsWith(u'(');
+        if ((depth > 0 || value) && !groups.isEmpty())
             groups.last() += u' ' + word;
         else
             groups.append(word);
