@@ -191,7 +191,7 @@ section.day h2{font-size:1.1rem;margin:0;padding:.3rem .5rem;background:#eee;bor
 section.day .band{margin:0}
 .scene{font-weight:bold;min-width:3.5rem}
 .setting{font-weight:bold;flex:1 1 16rem}
-.pages{min-width:4rem;text-align:right}
+.pages{min-width:4rem;text-align:right;margin-left:auto}
 .synopsis{flex:1 1 100%}
 .cast,.elements{flex:1 1 100%;font-size:.9rem}
 .end{font-weight:bold;justify-content:space-between}
