@@ -274,6 +274,7 @@ private Q_SLOTS:
             {}, 180000);
         QVERIFY2(convert.code == 0, qPrintable(convert.err));
         const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath(QStringLiteral("out/board.html"))));
+        QCOMPARE(table.count(QStringLiteral("<tr")), 1 + 79); // the header and every strip, line breaks kept in cells
         for (const char *cell : {"Shooting day", "MARY ELLEN - DECK", "Old Billy sings the drowned men's song"})
             QVERIFY2(table.contains(QString::fromLatin1(cell).toHtmlEscaped()), cell);
     }

@@ -328,9 +328,9 @@ private:
         } else if (s.isDayDivider()) {
             if (!m_dayOpen)
                 openDay(s);
-            QString end = QStringLiteral("End of shooting day ") + s[StripField::ShootDayNumber];
-            m_out += QStringLiteral("<div class=\"strip end\" style=\"") + colours + QStringLiteral("\"><span>") +
-                     esc(end) + QStringLiteral("</span><span>") + esc(pagesText(PageLengthOf(s))) +
+            m_out += QStringLiteral("<div class=\"strip end\" style=\"") + colours +
+                     QStringLiteral("\"><span>End of shooting day ") + esc(s[StripField::ShootDayNumber]) +
+                     QStringLiteral("</span><span>") + esc(pagesText(PageLengthOf(s))) +
                      QStringLiteral(" pages</span></div>\n");
             closeDay();
         } else {
@@ -340,7 +340,7 @@ private:
                 if (days >= 1)
                     text += QStringLiteral(" (%1 day%2)").arg(days).arg(days == 1 ? "" : "s");
             }
-            if (!s.isScene() && !s[StripField::SceneNumber].isEmpty())
+            if (!s[StripField::SceneNumber].isEmpty()) // the date on rest days and banners
                 text += QStringLiteral(" \u2013 ") + s[StripField::SceneNumber];
             m_out += QStringLiteral("<div class=\"strip band\" style=\"") + colours + QStringLiteral("\">") +
                      esc(text) + QStringLiteral("</div>\n");
