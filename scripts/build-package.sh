@@ -27,4 +27,4 @@ desktop-file-validate "$top/desktop/com.brenholt.Torvanbridge.desktop"
 appstreamcli validate --no-net "$build/desktop/com.brenholt.Torvanbridge.metainfo.xml"
 
 echo "lintian:"
-lintian --no-tag-display-limit "$deb" || true
+lintian --tag-display-limit 0 "$deb" || true

@@ -95,7 +95,7 @@ private Q_SLOTS:
               "share/icons/hicolor/48x48/apps/com.brenholt.Torvanbridge.png",
               "share/icons/hicolor/scalable/apps/com.brenholt.Torvanbridge.svg", "share/man/man1/torvanbridge.1.gz",
               "share/man/man1/torvanbridge-cli.1.gz", "share/bash-completion/completions/torvanbridge-cli",
-              "share/doc/torvanbridge/changelog.Debian.gz"})
+              "share/doc/torvanbridge/changelog.gz"})
             QTest::newRow(file) << QString::fromLatin1(file);
     }
     void layout()
