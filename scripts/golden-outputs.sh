@@ -58,6 +58,31 @@ run import-fd import-fd "$data/fd-scene-report.txt" "$data/fd-script-report.txt"
 cp import-fd.tbf "$out/outputs/" 2>/dev/null
 docs="$docs import-fd"
 
+# Screenplay imports: the text import's review, Fountain and Final Draft scripts. Their
+# schedules are recorded with their summary and board, not run through every command.
+screenplays=""
+if [ -d "$shared" ]; then
+    for s in "$shared"/*.txt; do
+        b=$(basename "$s" .txt)
+        run "import-text-review-$b" import-text "$s" -o "import-review-$b.tbf" --review auto
+        screenplays="$screenplays import-review-$b"
+    done
+fi
+for s in "$data"/*.fountain; do
+    b=$(basename "$s" .fountain)
+    run "import-fountain-$b" import-fountain "$s" -o "fountain-$b.tbf"
+    screenplays="$screenplays fountain-$b"
+done
+run import-fdx-garden-party import-fdx "$data/garden-party.fdx" -o fdx-garden-party.tbf
+screenplays="$screenplays fdx-garden-party"
+for d in $screenplays; do
+    [ -f "$d.tbf" ] || continue
+    cp "$d.tbf" "$out/outputs/"
+    run "$d-info" info "$d.tbf"
+    run "$d-board-png" board "$d.tbf" -o "$d-board.png"
+    cp "$d-board.png" "$out/outputs/" 2>/dev/null
+done
+
 for d in $docs; do
     in="$d.tbf"
     [ -f "$in" ] || continue

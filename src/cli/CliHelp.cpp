@@ -17,7 +17,7 @@ struct ArgumentKind
     bool files = false;
 };
 
-ArgumentKind kindOf(const QString &placeholder, bool positional)
+ArgumentKind kindOf(const QString &placeholder)
 {
     ArgumentKind kind;
     static const QRegularExpression fileForms(QStringLiteral("^[A-Z_]+\\.[a-z]+(\\|[A-Z_]+\\.[a-z]+)*$"));
@@ -28,8 +28,7 @@ ArgumentKind kindOf(const QString &placeholder, bool positional)
             kind.extensions.append(form.section(u'.', 1));
     } else if (choices.match(placeholder).hasMatch()) {
         kind.words = placeholder.split(u'|');
-    } else if (placeholder == QLatin1String("IN") || (positional && placeholder == QLatin1String("FILE")) ||
-               placeholder == QLatin1String("OUT")) {
+    } else if (placeholder == QLatin1String("IN") || placeholder == QLatin1String("OUT")) {
         kind.files = true;
         kind.extensions = {QStringLiteral("tbf")};
     } else if (placeholder == QLatin1String("SCRIPT") || placeholder.endsWith(QLatin1String("_REPORT"))) {
@@ -135,8 +134,8 @@ QString BashCompletion(const CommandList &commands)
         "# bash completion for torvanbridge-cli; made by torvanbridge-cli --help-completion\n\n"
         "_tbcli_words()\n{\n    COMPREPLY=($(compgen -W \"$1\" -- \"$cur\"))\n}\n\n"
         "_tbcli_files()\n{\n    local ext\n    compopt -o filenames 2>/dev/null\n"
+        "    if [ $# -eq 0 ]; then\n        COMPREPLY=($(compgen -f -- \"$cur\"))\n        return\n    fi\n"
         "    COMPREPLY=($(compgen -d -- \"$cur\"))\n"
-        "    if [ $# -eq 0 ]; then\n        COMPREPLY+=($(compgen -f -- \"$cur\"))\n        return\n    fi\n"
         "    for ext in \"$@\"; do\n"
         "        COMPREPLY+=($(compgen -f -X \"!*.$ext\" -- \"$cur\") $(compgen -f -X \"!*.${ext^^}\" -- \"$cur\"))\n"
         "    done\n}\n\n"
@@ -179,8 +178,10 @@ QString BashCompletion(const CommandList &commands)
             if (value.isEmpty())
                 continue;
             valued.append(option);
-            valueCases += QStringLiteral("        ") + option + QStringLiteral(") ") +
-                          completionOf(kindOf(value, false)) + QStringLiteral("; return 0 ;;\n");
+            const QString completion = completionOf(kindOf(value));
+            valueCases += QStringLiteral("        ") + option + QStringLiteral(") ") + completion +
+                          (completion.startsWith(QLatin1String("return")) ? QString() : QStringLiteral("; return 0")) +
+                          QStringLiteral(" ;;\n");
         }
         out += QStringLiteral("    ") + command.name + QStringLiteral(")\n");
         if (!valueCases.isEmpty())
@@ -190,7 +191,7 @@ QString BashCompletion(const CommandList &commands)
         out += QStringLiteral("        case $positional in\n");
         for (qsizetype p = 0; p < usage.positionals.size(); ++p)
             out += QStringLiteral("        ") + QString::number(p) + QStringLiteral(") ") +
-                   completionOf(kindOf(usage.positionals.at(p), true)) + QStringLiteral(" ;;\n");
+                   completionOf(kindOf(usage.positionals.at(p))) + QStringLiteral(" ;;\n");
         out += QStringLiteral("        esac\n        ;;\n");
         if (!valued.isEmpty())
             takesValue += QStringLiteral("    ") + command.name + QStringLiteral(") case $2 in ") + valued.join(u'|') +

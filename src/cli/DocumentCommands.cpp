@@ -76,7 +76,7 @@ int runResave(CliContext &ctx, const CliCommand &self, const QStringList &args)
 void AddDocumentCommands(CommandList &commands)
 {
     CliCommand info{QStringLiteral("info"),
-                    QStringLiteral("info FILE [--details]"),
+                    QStringLiteral("info IN [--details]"),
                     QStringLiteral("Print titles, start date, strips by kind, elements by category and day totals; "
                                    "with --details the rest of the production details and the crew as well."),
                     {}};

@@ -191,6 +191,8 @@ private Q_SLOTS:
                                  << "--prepared-by --producer";
         QTest::newRow("screenplay") << "torvanbridge-cli import-text "
                                     << "script.txt sub";
+        QTest::newRow("any file") << "torvanbridge-cli import-fountain "
+                                  << "a.tbf b.csv c.pdf script.txt sub";
         QTest::newRow("after an option's value") << "torvanbridge-cli board --scale 2 "
                                                  << "a.tbf sub";
     }

@@ -366,7 +366,11 @@ private Q_SLOTS:
                     ->setText(QDir(ImportData).filePath("fd-script-report.txt"));
                 dialog->findChild<QPushButton *>("ImportBut")->click();
             });
-        QCOMPARE(p.prompter.texts(), QStringList{FinalDraftSaveQuestion});
+        // The question, and after an import its summary.
+        QCOMPARE(p.prompter.texts().value(0), QString::fromLatin1(FinalDraftSaveQuestion));
+        QCOMPARE(p.prompter.texts().size(), imports ? 2 : 1);
+        if (imports)
+            QVERIFY(p.prompter.texts().at(1).startsWith("Imported 5 scenes, 3 characters"));
         QCOMPARE(save.count(), saves);
         QCOMPARE(!caption.isEmpty(), imports);
         if (imports) {
@@ -459,8 +463,12 @@ private Q_SLOTS:
                        QVERIFY(wizard->isVisible());
                        QCOMPARE(p.doc.strips[1][StripField::SceneNumber], "99");
                        next(); // Import! again, No: imported without saving
+                       QCOMPARE(wizard->currentStep(), int(TfrmImportScript::ReviewStep));
+                       next(); // Import! on the review: John is kept
                    });
-        QCOMPARE(p.prompter.texts(), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
+        QCOMPARE(p.prompter.texts().mid(0, 2), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
+        QCOMPARE(p.prompter.texts().value(2).section(u'\r', 0, 0),
+                 QStringLiteral("Imported 2 scenes, 1 character, 2/8 page."));
         QCOMPARE(save.count(), 0);
         QCOMPARE(wizard->result(), int(QDialog::Accepted));
         QCOMPARE(p.doc.strips.count(), 2);
