@@ -1,5 +1,6 @@
 #include "CliCommand.h"
 
+#include "board/BoardExport.h"
 #include "board/DrawBoard.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
@@ -30,6 +31,31 @@ struct BoardRender
     BoardStyle style;
 };
 
+// The board style of the board and export commands: the user's preferences, read as
+// the window reads them (a value that does not convert is reported and its default
+// used), with the strip colours of "--colours" instead of the preferences' when given:
+// the paper stripboard's (classic) or the white strips of a program without
+// preferences (plain). Font, description lines and day numbering stay the user's.
+// False for a colours name that is neither.
+bool userStyle(CliContext &ctx, const ArgParser &args, BoardStyle *style)
+{
+    const QString colours = args.value(QStringLiteral("--colours"));
+    BoardStyle override;
+    if (colours == QLatin1String("classic"))
+        override = ClassicBoardStyle();
+    else if (args.has(QStringLiteral("--colours")) && colours != QLatin1String("plain"))
+        return false;
+    Settings settings;
+    for (const QString &problem : settings.LoadSettings())
+        ctx.err << problem << Qt::endl;
+    *style = StyleFromSettings(settings);
+    if (args.has(QStringLiteral("--colours"))) {
+        style->background = override.background;
+        style->text = override.text;
+    }
+    return true;
+}
+
 bool readInt(const ArgParser &args, const QString &name, int low, int high, int *value, QString *error)
 {
     if (!args.has(name))
@@ -48,15 +74,6 @@ BoardDrawResult drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &
 {
     painter.setClipRect(QRect(0, 0, r.width, r.height));
     return DrawBoard(doc, r.style, r.options, painter);
-}
-
-// The strip colours of "--colours": the paper stripboard's, or the white strips of a
-// program without preferences. Font, description lines and day numbering stay the
-// user's.
-void overrideColours(BoardStyle &style, const BoardStyle &colours)
-{
-    style.background = colours.background;
-    style.text = colours.text;
 }
 
 // Writes through a temporary file, so a failed render leaves no half-written file.
@@ -130,21 +147,8 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
         !readInt(args, QStringLiteral("--first-strip"), 1, MaxStrips, &r.options.firstStrip, &error) ||
         !readInt(args, QStringLiteral("--first-element"), 1, MaxElements, &r.options.firstElement, &error))
         return UsageError(ctx, command, error);
-    const QString colours = args.value(QStringLiteral("--colours"));
-    if (args.has(QStringLiteral("--colours")) && colours != QLatin1String("classic") &&
-        colours != QLatin1String("plain"))
+    if (!userStyle(ctx, args, &r.style))
         return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
-
-    // The board as the window draws it: with the user's preferences, read as the
-    // window reads them (a value that does not convert is reported and its default used).
-    Settings settings;
-    for (const QString &problem : settings.LoadSettings())
-        ctx.err << problem << Qt::endl;
-    r.style = StyleFromSettings(settings);
-    if (colours == QLatin1String("classic"))
-        overrideColours(r.style, ClassicBoardStyle());
-    else if (colours == QLatin1String("plain"))
-        overrideColours(r.style, BoardStyle());
 
     ScheduleDocument doc;
     doc.setPrompter(&ctx.prompter);
@@ -174,6 +178,35 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
     return ExitOk;
 }
 
+int runExport(CliContext &ctx, const CliCommand &command, const QStringList &argv)
+{
+    ArgParser args;
+    args.valueOption(QStringLiteral("-o")).valueOption(QStringLiteral("--colours"));
+    QString error;
+    if (!args.parse(argv, &error))
+        return UsageError(ctx, command, error);
+    if (args.positional().size() != 1)
+        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
+    const QString out = args.value(QStringLiteral("-o"));
+    const std::optional<BoardExportFormat> format = BoardExportFormatOf(out);
+    if (!format)
+        return UsageError(ctx, command, QStringLiteral("needs -o OUT.csv or -o OUT.html"));
+    BoardStyle style;
+    if (!userStyle(ctx, args, &style))
+        return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, args.positional().first()))
+        return ExitUserError;
+    const Result written = ExportBoard(doc, style, *format, out);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
 } // namespace
 
 void AddBoardCommands(CommandList &commands)
@@ -190,6 +223,19 @@ void AddBoardCommands(CommandList &commands)
                      {}};
     board.run = [board](CliContext &ctx, const QStringList &args) { return runBoard(ctx, board, args); };
     commands.append(board);
+
+    CliCommand exportBoard{
+        QStringLiteral("export"),
+        QStringLiteral("export IN -o OUT.csv|OUT.html [--colours classic|plain]"),
+        QStringLiteral("Export the board as File > Export board does: a spreadsheet (CSV, one row per strip with its "
+                       "day, date, scene details, notes and one column per element category) or one web page "
+                       "(HTML, the production details and the days as strips in their board colours: the "
+                       "preferences' colours, or --colours classic or plain as for board)."),
+        {}};
+    exportBoard.run = [exportBoard](CliContext &ctx, const QStringList &args) {
+        return runExport(ctx, exportBoard, args);
+    };
+    commands.append(exportBoard);
 }
 
 } // namespace tb::cli
