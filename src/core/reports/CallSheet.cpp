@@ -384,7 +384,7 @@ ResultOf<BuiltReport> CreateCallSheetPages(ScheduleDocument &doc, const CallShee
                                            const ReportBuildContext &context)
 {
     reportdetail::BuilderRun run(doc, context, QString(), 0);
-    ResultOf<BuiltReport> loaded = run.load(CallSheetTemplate, [](const QString &path) {
+    ResultOf<BuiltReport> loaded = run.load(CallSheetTemplate, [](const QString &path) -> QString {
         return QStringLiteral("Could not load call sheet template file (") + path +
                QStringLiteral("). Please try re-installing Torvanbridge.");
     });

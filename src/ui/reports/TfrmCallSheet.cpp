@@ -37,6 +37,7 @@ void setTitles(QTableWidget *grid, const QStringList &titles, const QList<int> &
 {
     grid->setColumnCount(int(titles.size()));
     grid->setHorizontalHeaderLabels(titles);
+    grid->horizontalHeader()->setStretchLastSection(false);
     for (int c = 0; c < widths.size(); ++c)
         grid->setColumnWidth(c, widths.at(c));
 }

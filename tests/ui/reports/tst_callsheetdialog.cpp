@@ -3,6 +3,7 @@
 #include "TestSupport.h"
 
 #include "document/DayCalculation.h"
+#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/Settings.h"
 #include "reports/CallSheetFile.h"
