@@ -174,6 +174,13 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+        "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+        "--date needs a date as YYYY-MM-DD");
+    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+        "--date YYYY-MM-DD and --shot SCENE,... are required");
 }
 
 void TestCli::usageErrors()
@@ -218,6 +225,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+        "You need to enter a production start date before you can print call sheets.");
+    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
+    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+        "Scene 11 is not scheduled on 2027-04-06.");
 }
 
 void TestCli::refusedWritesNothing()
@@ -225,7 +237,8 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board" ? ".png" : first == "report" ? ".pdf" : ".tbf");
+    const QString out =
+        rowOutput(first == "board" ? ".png" : first == "report" || first == "callsheet" ? ".pdf" : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
