@@ -57,9 +57,10 @@ object CallSheetForm: TForm
     Left = 0
     Top = 0
     Width = 700
-    Height = 224
+    Height = 240
     Align = alTop
     BandType = alr_Title
+    ClipMode = cm_Expand
     object KickerLabel: TAlLabel
       Left = 0
       Top = 20
@@ -137,21 +138,6 @@ object CallSheetForm: TForm
       Font.Height = -16
       Font.Name = 'Arial'
       Font.Style = [fsBold]
-      ParentFont = False
-    end
-    object ShootDayField: TAlField
-      Left = 300
-      Top = 110
-      Width = 400
-      Height = 16
-      Alignment = taRightJustify
-      AutoSize = False
-      Caption = 'ShootDayField'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = $00555555
-      Font.Height = -12
-      Font.Name = 'Arial'
-      Font.Style = []
       ParentFont = False
     end
     object UnitBox: TAlShape
@@ -302,7 +288,7 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object WeatherBox: TAlShape
+    object DayBox: TAlShape
       Left = 472
       Top = 134
       Width = 228
@@ -311,13 +297,13 @@ object CallSheetForm: TForm
       Pen.Color = $00000000
       Pen.Width = 1
     end
-    object WeatherCaption: TAlLabel
+    object DayCaption: TAlLabel
       Left = 478
       Top = 138
       Width = 200
       Height = 12
       AutoSize = False
-      Caption = 'WEATHER'
+      Caption = 'SHOOTING DAY'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -325,18 +311,18 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object WeatherField: TAlField
+    object ShootDayField: TAlField
       Left = 478
       Top = 154
       Width = 216
       Height = 20
       AutoSize = False
-      Caption = 'WeatherField'
+      Caption = 'ShootDayField'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = clBlack
-      Font.Height = -12
+      Font.Height = -15
       Font.Name = 'Arial'
-      Font.Style = []
+      Font.Style = [fsBold]
       ParentFont = False
       WordWrap = True
     end
@@ -452,9 +438,38 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
+    object WeatherLabel: TAlLabel
+      Left = 0
+      Top = 217
+      Width = 60
+      Height = 13
+      AutoSize = False
+      Caption = 'Weather'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object WeatherField: TAlField
+      Left = 64
+      Top = 217
+      Width = 636
+      Height = 13
+      AutoSize = False
+      Caption = 'WeatherField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
     object TitleRule: TAlShape
       Left = 0
-      Top = 220
+      Top = 237
       Width = 700
       Height = 2
       Brush.Color = $00000000
