@@ -237,8 +237,9 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out =
-        rowOutput(first == "board" ? ".png" : first == "report" || first == "callsheet" ? ".pdf" : ".tbf");
+    const QString out = rowOutput(first == "board"                            ? ".png"
+                                  : first == "report" || first == "callsheet" ? ".pdf"
+                                                                              : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))

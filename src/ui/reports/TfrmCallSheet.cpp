@@ -194,6 +194,12 @@ TfrmCallSheet::TfrmCallSheet(ScheduleDocument &doc, QWidget *parent)
         edit->installEventFilter(this);
         connect(edit, &QLineEdit::textEdited, this, &TfrmCallSheet::setManualChange);
     }
+    for (QTableWidget *grid :
+         {ui->SceneGrid, ui->CastGrid, ui->ExtrasGrid, ui->CrewGrid, ui->OtherGrid, m_scenePopup, m_castPopup}) {
+        // String grid rows: one line of text each.
+        grid->setWordWrap(false);
+        grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
+    }
     for (QTableWidget *grid : {ui->SceneGrid, ui->CastGrid, ui->ExtrasGrid, ui->CrewGrid, ui->OtherGrid}) {
         grid->installEventFilter(this);
         grid->viewport()->installEventFilter(this);

@@ -29,6 +29,14 @@ void clickCell(QTableWidget *grid, int row, Qt::MouseButton button = Qt::LeftBut
     QTest::mouseClick(grid->viewport(), button, {}, cell.center());
 }
 
+// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
+void keepScreenshot(QWidget &widget, const QString &name)
+{
+    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
+    if (!folder.isEmpty())
+        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
+}
+
 QStringList rowOf(QTableWidget *grid, int row)
 {
     QStringList texts;
@@ -114,6 +122,7 @@ void TestCallSheetDialog::showFillsTomorrow()
     QVERIFY(ui.SceneUnshotCheck->isChecked() && !ui.SceneUnshotCheck->isVisible());
     QVERIFY(ui.PrintBut->isDefault());
     QVERIFY(!m_dialog->manualChange());
+    keepScreenshot(*m_dialog, QStringLiteral("callsheet"));
 
     // Dragging the second scene onto the first moves it up.
     QTest::mousePress(ui.SceneGrid->viewport(), Qt::LeftButton, {},
@@ -134,6 +143,7 @@ void TestCallSheetDialog::scenePopupAndKeys()
     QCOMPARE(popup->width(), grid->width());
     QCOMPARE(popup->height(), 250);
     QCOMPARE(popup->rowCount(), 3);
+    keepScreenshot(*m_dialog, QStringLiteral("callsheet-scene-list"));
     // Choosing scene 3 fills the selected row; the element grids stay as they are.
     clickCell(popup, 2);
     QVERIFY(!popup->isVisible());
