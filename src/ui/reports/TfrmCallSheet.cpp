@@ -17,6 +17,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QShowEvent>
 #include <QTableWidget>
 #include <QUrl>
 
@@ -216,7 +217,10 @@ TfrmCallSheet::~TfrmCallSheet() = default;
 
 void TfrmCallSheet::showEvent(QShowEvent *event)
 {
-    FormShow();
+    // Opening the dialog fills the sheet; the window coming back from being minimised
+    // does not.
+    if (!event->spontaneous())
+        FormShow();
     QDialog::showEvent(event);
 }
 

@@ -5,6 +5,7 @@
 #include "scheduling/EndOfDay.h"
 
 #include <QListWidgetItem>
+#include <QShowEvent>
 
 namespace tb {
 
@@ -23,7 +24,8 @@ TfrmEOD::~TfrmEOD() = default;
 
 void TfrmEOD::showEvent(QShowEvent *event)
 {
-    FormShow();
+    if (!event->spontaneous())
+        FormShow();
     SchedulingDialog::showEvent(event);
 }
 
