@@ -197,7 +197,11 @@ TfrmCallSheet::TfrmCallSheet(ScheduleDocument &doc, QWidget *parent)
     }
     for (QTableWidget *grid :
          {ui->SceneGrid, ui->CastGrid, ui->ExtrasGrid, ui->CrewGrid, ui->OtherGrid, m_scenePopup, m_castPopup}) {
-        // String grid rows: one line of text each.
+        // String grid rows: one line of text each, in the small font the column widths
+        // were made for.
+        QFont font = grid->font();
+        font.setPointSizeF(std::min(font.pointSizeF(), 8.0));
+        grid->setFont(font);
         grid->setWordWrap(false);
         grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
     }
