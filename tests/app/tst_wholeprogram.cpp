@@ -142,6 +142,19 @@ private Q_SLOTS:
         QCOMPARE(p.main->findChildren<TfrmFDImport *>().size(), 1);
     }
 
+    void callSheetAsksForAStartDateFirst()
+    {
+        Program p;
+        QVERIFY(p.start());
+        QVERIFY(OpenDocument(p.doc, Example).ok());
+        p.doc.values.StartDate.clear();
+        // The start date dialog comes first; cancelled, the call sheet does not open.
+        QCOMPARE(p.dialogOf([&] { p.trigger("Callsheet1"); }), "Start date");
+        QCOMPARE(p.prompter.texts(),
+                 QStringList{"You need to enter a production start date before you can print call sheets."});
+        QVERIFY(!p.main->findChild<QDialog *>("TfrmCallSheet")->isVisible());
+    }
+
     void entriesOpenTheirDialogs_data()
     {
         QTest::addColumn<QString>("entry");
