@@ -290,8 +290,8 @@ void AddSchedulingCommands(CommandList &commands)
     Add(
         commands, QStringLiteral("end-of-day"),
         QStringLiteral("end-of-day IN -o OUT --date YYYY-MM-DD --shot SCENE,..."),
-        QStringLiteral("End of day: of the scenes scheduled on the date, mark those listed shot and the others "
-                       "not shot (an empty --shot \"\" marks none)."),
+        QStringLiteral("Mark scenes shot as End of day does: of the scenes scheduled on the date, those listed "
+                       "are marked shot and the others not shot (--shot \"\" marks none)."),
         [] { return ArgParser().valueOption(QStringLiteral("--date")).valueOption(QStringLiteral("--shot")); },
         EndOfDayChange);
 }
