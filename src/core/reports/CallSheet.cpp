@@ -2,6 +2,7 @@
 
 #include "reports/ReportOutput.h"
 
+#include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
@@ -175,7 +176,7 @@ void UpdateElementLists(ScheduleDocument &doc, CallSheet &sheet)
         const int strip = first.value(sceneRow.value(SceneNumber), 0);
         if (strip == 0)
             break; // later rows are not looked at: the sheet has always stopped here
-        const QList<bool> assigned = reportdetail::AssignedFlags(doc, strip);
+        const QList<bool> assigned = AssignedElementFlags(doc, strip);
         for (int e = 1; e <= elementCount; ++e) {
             if (!assigned.at(e) || seen.at(e))
                 continue;

@@ -106,12 +106,12 @@ void TestEndOfDay::keptThroughSaveAndOpen()
     reopened.strips[4].set(StripField::Reserved12, QString());
     {
         QPainter p(&plain);
-        DrawBoard(reopened, ClassicBoardStyle(), 1, 1, -1, true, true, false, true, 1.0, 0, 0, p);
+        DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
     }
     reopened.strips[4].set(StripField::Reserved12, QStringLiteral("46483"));
     {
         QPainter p(&marked);
-        DrawBoard(reopened, ClassicBoardStyle(), 1, 1, -1, true, true, false, true, 1.0, 0, 0, p);
+        DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
     }
     QVERIFY(plain != marked);
 }
