@@ -258,7 +258,13 @@ void TestReportBuilders::rowValuesInOrder()
              QStringList({"PictureField", "CompanyField", "DayField", "GroupEndField", "SceneField", "PageField",
                           "PagesField", "LocationField", "SynopsisField", "CastField", "CatagoryField1",
                           "CatagoryField2", "CatagoryField3", "DayPagesField"}));
-    QCOMPARE(pushes.names.last(), QStringLiteral("GrandTotal"));
+    // This program's values come after those of every row and after the closing line.
+    QCOMPARE(pushes.names.mid(14, 10),
+             QStringList({"SceneNoField", "IntExtField", "SetLocField", "DNField", "LengthField", "ScriptPageField",
+                          "CastIdsField", "SetNameField", "NotesField", "DayField"}));
+    QCOMPARE(pushes.names.mid(pushes.names.size() - 3), QStringList({"GrandTotal", "TotalsField", "TitleField"}));
+    QCOMPARE(pushes.values("TotalsField"), QStringList{"1 shooting day, 2 scenes, 1 7/8 pages"});
+    QCOMPARE(pushes.values("LengthField"), QStringList({"1 3/8", "4/8"}));
     QCOMPARE(pushes.values("SceneField").first(), QStringLiteral("Scene: 12A"));
     QCOMPARE(pushes.values("PageField").first(), QStringLiteral("Page: 12A"));
     QCOMPARE(pushes.values("PagesField"), QStringList({"Pages: 1 3/8", "Pages: 4/8"}));
