@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -727,6 +728,42 @@ ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page)
     return run.run();
 }
 
+namespace {
+
+// Glyphs as a PDF file stores them: each glyph is written with its position, so blanks,
+// which show nothing, are left out, and positions are kept in whole layout units (1/1200
+// inch), which a file writes in fewer digits. Both make the file smaller and faster to
+// write and leave the page as it was.
+QList<QGlyphRun> CompactGlyphs(const QList<QGlyphRun> &runs)
+{
+    QList<QGlyphRun> result;
+    result.reserve(runs.size());
+    for (QGlyphRun run : runs) {
+        const QRawFont font = run.rawFont();
+        const QList<quint32> blanks = font.glyphIndexesForString(QStringLiteral(" \u00A0"));
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        QList<quint32> keptIndexes;
+        QList<QPointF> keptPositions;
+        keptIndexes.reserve(indexes.size());
+        keptPositions.reserve(indexes.size());
+        for (qsizetype i = 0; i < indexes.size(); ++i) {
+            if (blanks.contains(indexes.at(i)))
+                continue;
+            keptIndexes.append(indexes.at(i));
+            keptPositions.append(QPointF(std::round(positions.at(i).x()), positions.at(i).y()));
+        }
+        if (keptIndexes.isEmpty())
+            continue;
+        run.setGlyphIndexes(keptIndexes);
+        run.setPositions(keptPositions);
+        result.append(run);
+    }
+    return result;
+}
+
+} // namespace
+
 QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, double width)
 {
     QList<TextLine> result;
@@ -771,7 +808,7 @@ QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, dou
             t.text.prepend(paragraph.left(indentLength));
         t.width = line.x() + line.naturalTextWidth();
         if (length > 0)
-            t.glyphs = layout.glyphRuns(line.textStart(), int(length));
+            t.glyphs = CompactGlyphs(layout.glyphRuns(line.textStart(), int(length)));
         result.append(std::move(t));
     }
     if (result.isEmpty())
@@ -845,10 +882,65 @@ LabelFit FitLabelText(const TAlLabel &label, const QString &text, int designPpi)
     return fit;
 }
 
+namespace {
+
+// The page's text by font and colour. A PDF file holds each drawn text as an object of its
+// own that sets colour, font and position anew; a page drawn in a few batches holds a few
+// objects instead of one per line. Text is drawn over the page's shapes and pictures, which
+// is where every template puts it.
+class GlyphBatches
+{
+public:
+    void add(const QGlyphRun &run, const QColor &colour, const QPointF &origin)
+    {
+        Batch *batch = nullptr;
+        const QRawFont font = run.rawFont();
+        for (Batch &b : m_batches) {
+            if (b.colour == colour && b.font == font) {
+                batch = &b;
+                break;
+            }
+        }
+        if (!batch) {
+            m_batches.append(Batch{font, colour, {}, {}});
+            batch = &m_batches.last();
+        }
+        batch->indexes += run.glyphIndexes();
+        for (const QPointF &p : run.positions())
+            batch->positions.append(p + origin);
+    }
+
+    void draw(QPainter &painter)
+    {
+        for (const Batch &b : std::as_const(m_batches)) {
+            QGlyphRun run;
+            run.setRawFont(b.font);
+            run.setGlyphIndexes(b.indexes);
+            run.setPositions(b.positions);
+            painter.setPen(b.colour);
+            painter.drawGlyphRun(QPointF(0, 0), run);
+        }
+        m_batches.clear();
+    }
+
+private:
+    struct Batch
+    {
+        QRawFont font;
+        QColor colour;
+        QList<quint32> indexes;
+        QList<QPointF> positions;
+    };
+    QList<Batch> m_batches;
+};
+
+} // namespace
+
 void PaintPage(QPainter &painter, const LaidOutPage &page)
 {
     // A recorded preview page keeps texts as texts; glyph runs would be recorded as outlines.
     const bool useGlyphs = !painter.device() || painter.device()->devType() != QInternal::Picture;
+    GlyphBatches batches;
     for (const PlacedBand &band : page.bands) {
         if (band.background != clNone)
             painter.fillRect(band.rect, toColor(band.background));
@@ -873,14 +965,22 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.setPen(label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128));
                 const double lh = lineHeight(metrics);
                 double top = pc.rect.top();
+                // The glyphs shaped when the lines were measured. Unclipped plain text goes
+                // into the page's batches (see GlyphBatches), clipped or decorated text is
+                // drawn at once, line by line.
+                const QColor colour = painter.pen().color();
+                const bool batch = !pc.clipped && !label.outputFont.underline() && !label.outputFont.strikeOut();
                 for (qsizetype i = 0; i < pc.lines.size(); ++i) {
                     const double left = lineLeft(pc.rect, label.Alignment, pc.widths.at(i));
                     const QList<QGlyphRun> &glyphs = pc.glyphs.value(i);
                     if (useGlyphs && !glyphs.isEmpty()) {
-                        // The glyphs shaped when the line was measured.
-                        for (const QGlyphRun &run : glyphs)
-                            painter.drawGlyphRun(QPointF(left, top), run);
-                    } else {
+                        for (const QGlyphRun &run : glyphs) {
+                            if (batch)
+                                batches.add(run, colour, QPointF(std::round(left), top));
+                            else
+                                painter.drawGlyphRun(QPointF(left, top), run);
+                        }
+                    } else if (!pc.lines.at(i).isEmpty()) {
                         painter.drawText(QPointF(left, top + metrics.ascent()), pc.lines.at(i));
                     }
                     top += lh;
@@ -959,6 +1059,7 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.restore();
         }
     }
+    batches.draw(painter);
 }
 
 } // namespace tb
