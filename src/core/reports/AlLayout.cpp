@@ -277,6 +277,20 @@ private:
         }
     }
 
+    // Whether a band shows anything that changes with the page (a page number): only such
+    // a band is prepared again when it moves to a new page.
+    bool showsPageState(const tAlBand &band) const
+    {
+        auto it = m_pageState.constFind(&band);
+        if (it == m_pageState.cend()) {
+            bool shows = false;
+            for (const tAlControl *c : band.controls)
+                shows = shows || c->kind() == AlComponent::Kind::SysField;
+            it = m_pageState.insert(&band, shows);
+        }
+        return *it;
+    }
+
     // The current value of the field of that name (blank when there is none).
     QString namedFieldText(const QString &name) const
     {
@@ -539,7 +553,8 @@ private:
                 newPage();
             if (m_stop)
                 return;
-            placed = prepare(band, -1);
+            if (showsPageState(band))
+                placed = prepare(band, -1);
         }
         placeColumns(placed, band);
         m_freshPage = false;
@@ -602,7 +617,8 @@ private:
                     newPageForDetail(detail, groupStarts);
                     if (m_stop)
                         break;
-                    placed = prepare(detail, row);
+                    if (showsPageState(detail))
+                        placed = prepare(detail, row);
                 }
             }
             if (groupStarts) {
@@ -705,6 +721,7 @@ private:
         m_reportFooters;
     QSet<const TAlDetailLink *> m_openGroups;
     mutable QHash<QString, const TAlField *> m_namedFields;
+    mutable QHash<const tAlBand *, bool> m_pageState;
 
     ReportLayout m_result;
     int m_curY = 0;
