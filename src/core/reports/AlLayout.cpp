@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <optional>
 
 namespace tb {
 
@@ -91,6 +92,9 @@ void setLines(PlacedControl &pc, const TAlLabel &label, int wrapWidth)
     pc.lines.clear();
     pc.widths.clear();
     pc.glyphs.clear();
+    pc.lines.reserve(lines.size());
+    pc.widths.reserve(lines.size());
+    pc.glyphs.reserve(lines.size());
     for (const TextLine &line : lines) {
         pc.lines.append(line.text);
         pc.widths.append(line.width);
@@ -781,8 +785,109 @@ QList<QGlyphRun> CompactGlyphs(const QList<QGlyphRun> &runs)
 
 } // namespace
 
+namespace {
+
+// Latin text (the schedules' own) needs no shaping beyond one glyph per character and the
+// font's kerning: its glyphs and advances come straight from the font, and the greedy
+// line break is one pass over the advances. Anything else goes through the full layout.
+bool IsPlainLatin(const QString &text)
+{
+    for (QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u < 0x20 || u > 0x24F)
+            return false;
+    }
+    return true;
+}
+
+std::optional<QList<TextLine>> LayOutPlainParagraph(const QString &paragraph, const QRawFont &font, double width)
+{
+    if (!font.isValid() || !IsPlainLatin(paragraph))
+        return std::nullopt;
+    const QList<quint32> glyphs = font.glyphIndexesForString(paragraph);
+    if (glyphs.size() != paragraph.size() || glyphs.contains(0u))
+        return std::nullopt; // a character the font lacks: the full layout finds another font
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs, QRawFont::KernedAdvances);
+    const qsizetype n = paragraph.size();
+    QList<double> x(n + 1, 0.0); // x[i]: where character i starts
+    for (qsizetype i = 0; i < n; ++i)
+        x[i + 1] = x[i] + advances.at(i).x();
+    const quint32 blank = font.glyphIndexesForString(QStringLiteral(" ")).value(0);
+    const double ascent = font.ascent();
+    qsizetype indentLength = 0;
+    while (indentLength < n && paragraph.at(indentLength) == u' ')
+        ++indentLength;
+    const double indent = x[indentLength];
+
+    QList<TextLine> result;
+    // A line of characters [from, to); a continued line is moved right by the indent.
+    auto addLine = [&](qsizetype from, qsizetype to, bool continued) {
+        TextLine line;
+        const double shift = continued ? indent : 0.0;
+        line.text = continued ? paragraph.left(indentLength) + paragraph.mid(from, to - from)
+                              : paragraph.mid(from, to - from);
+        line.width = shift + x[to] - x[from];
+        QList<quint32> indexes;
+        QList<QPointF> positions;
+        indexes.reserve(to - from);
+        positions.reserve(to - from);
+        for (qsizetype i = from; i < to; ++i) {
+            if (glyphs.at(i) == blank || paragraph.at(i) == u'\u00A0')
+                continue;
+            indexes.append(glyphs.at(i));
+            positions.append(QPointF(std::round(shift + x[i] - x[from]), ascent));
+        }
+        if (!indexes.isEmpty()) {
+            QGlyphRun run;
+            run.setRawFont(font);
+            run.setGlyphIndexes(indexes);
+            run.setPositions(positions);
+            line.glyphs.append(run);
+        }
+        result.append(std::move(line));
+    };
+    if (width <= 0.0 || x[n] <= width) {
+        addLine(0, n, false);
+        return result;
+    }
+    // Greedy word wrap at blanks, in one pass.
+    qsizetype lineStart = 0;
+    qsizetype lineEnd = -1; // end of the last word on the line, -1 while it has none
+    bool continued = false;
+    qsizetype i = indentLength;
+    while (i < n) {
+        while (i < n && paragraph.at(i) == u' ')
+            ++i;
+        if (i >= n)
+            break;
+        qsizetype end = i;
+        while (end < n && paragraph.at(end) != u' ')
+            ++end;
+        const double shift = continued ? indent : 0.0;
+        if (lineEnd >= 0 && shift + x[end] - x[lineStart] > width) {
+            addLine(lineStart, lineEnd, continued);
+            continued = true;
+            lineStart = i;
+        }
+        lineEnd = end;
+        i = end;
+    }
+    if (lineEnd >= 0)
+        addLine(lineStart, lineEnd, continued);
+    return result;
+}
+
+} // namespace
+
 QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, double width)
 {
+    return LayOutParagraph(paragraph, font, QRawFont::fromFont(font), width);
+}
+
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, const QRawFont &raw, double width)
+{
+    if (std::optional<QList<TextLine>> plain = LayOutPlainParagraph(paragraph, raw, width))
+        return *plain;
     QList<TextLine> result;
     QTextLayout layout(paragraph, font);
     QTextOption option;
@@ -835,6 +940,13 @@ QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, dou
 
 QList<TextLine> BreakText(const QString &text, const QFont &font, double width, const TAlLabel *label)
 {
+    // One paragraph (most texts): its kept lines as they are, shared rather than copied.
+    if (!text.isEmpty() && !text.contains(u'\r') && !text.contains(u'\n')) {
+        QList<TextLine> lines = label ? label->paragraph(text, width) : LayOutParagraph(text, font, width);
+        while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+            lines.removeLast();
+        return lines;
+    }
     QList<TextLine> lines;
     auto flush = [&](const QString &p) {
         if (p.isEmpty()) {

@@ -9,6 +9,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QRawFont>
 #include <QRect>
 #include <QStringList>
 
@@ -77,6 +78,8 @@ QStringList BreakTextLines(const QString &text, const QFont &font, double width)
 
 // One paragraph (no line breaks) shaped in the font and, when width > 0, wrapped.
 QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, double width);
+// The same with the font's raw form given (made once per label).
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, const QRawFont &raw, double width);
 
 // The text shortened to fit the width with an ellipsis at its end; with force, the
 // ellipsis is added even when the text fits (the lines after it were cut).

@@ -100,16 +100,18 @@ const QList<TextLine> &TAlLabel::paragraph(const QString &text, double width) co
 {
     // One label wraps at one width; should it change, the kept lines no longer hold.
     if (width > 0.0 && width != m_paragraphWidth) {
-        m_paragraphs.clear();
+        m_wrapped.clear();
         m_paragraphWidth = width;
     }
-    const QString key = width > 0.0 ? text : QStringLiteral("\x01") + text;
-    auto it = m_paragraphs.constFind(key);
-    if (it != m_paragraphs.cend())
+    QHash<QString, QList<TextLine>> &kept = width > 0.0 ? m_wrapped : m_paragraphs;
+    auto it = kept.constFind(text);
+    if (it != kept.cend())
         return *it;
-    if (m_paragraphs.size() > 65536)
-        m_paragraphs.clear();
-    return *m_paragraphs.insert(key, LayOutParagraph(text, outputFont, width));
+    if (kept.size() > 65536)
+        kept.clear();
+    if (!m_rawFont)
+        m_rawFont = QRawFont::fromFont(outputFont);
+    return *kept.insert(text, LayOutParagraph(text, outputFont, *m_rawFont, width));
 }
 
 // ---- Named values and pictures ----

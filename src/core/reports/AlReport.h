@@ -11,6 +11,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QRawFont>
 #include <QHash>
 #include <QImage>
 #include <QList>
@@ -183,8 +184,10 @@ public:
 
 private:
     mutable std::optional<QFontMetricsF> m_metrics;
-    mutable QHash<QString, QList<TextLine>> m_paragraphs;
+    mutable QHash<QString, QList<TextLine>> m_paragraphs; // one line each
+    mutable QHash<QString, QList<TextLine>> m_wrapped;    // wrapped at m_paragraphWidth
     mutable double m_paragraphWidth = -1.0;
+    mutable std::optional<QRawFont> m_rawFont;
 };
 
 // A data field: each printing of its band shows the value at the current row.
