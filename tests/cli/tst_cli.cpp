@@ -466,8 +466,8 @@ void TestCli::checkTemplate_data()
     QTest::newRow("unfilled field") << head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
                                     << 0 << "field Extra receives no value from the report";
     QTest::newRow("mistake with line and cause")
-        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n" << 1
-        << "ShootSch1.dfm, line 5: expected one of alr_Title";
+        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
+        << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
 }
 
 void TestCli::checkTemplate()

@@ -824,8 +824,8 @@ std::optional<QList<TextLine>> LayOutPlainParagraph(const QString &paragraph, co
     auto addLine = [&](qsizetype from, qsizetype to, bool continued) {
         TextLine line;
         const double shift = continued ? indent : 0.0;
-        line.text = continued ? paragraph.left(indentLength) + paragraph.mid(from, to - from)
-                              : paragraph.mid(from, to - from);
+        line.text =
+            continued ? paragraph.left(indentLength) + paragraph.mid(from, to - from) : paragraph.mid(from, to - from);
         line.width = shift + x[to] - x[from];
         QList<quint32> indexes;
         QList<QPointF> positions;

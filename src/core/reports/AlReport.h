@@ -11,10 +11,10 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGlyphRun>
-#include <QRawFont>
 #include <QHash>
 #include <QImage>
 #include <QList>
+#include <QRawFont>
 #include <QString>
 #include <QStringList>
 

@@ -444,9 +444,9 @@ void TestAlLayout::pageOfPages()
 void TestAlLayout::grownTextPushesDownWhatIsBelow()
 {
     const QString wrap = QStringLiteral("      AutoSize = False\n      WordWrap = True\n");
-    auto form = makeForm(band("D", 0, 40, "alr_Detail", "    ClipMode = cm_Expand\n",
-                              fieldOn("Top", 0, 2, wrap) + fieldOn("Below", 0, 18, wrap) +
-                                  fieldOn("Beside", 200, 18, wrap)));
+    auto form =
+        makeForm(band("D", 0, 40, "alr_Detail", "    ClipMode = cm_Expand\n",
+                      fieldOn("Top", 0, 2, wrap) + fieldOn("Below", 0, 18, wrap) + fieldOn("Beside", 200, 18, wrap)));
     QVERIFY(form);
     TAlReport &report = *form->report;
     report.AddNamedValue("Top", "one\rtwo\rthree");
@@ -464,9 +464,8 @@ void TestAlLayout::grownTextPushesDownWhatIsBelow()
 void TestAlLayout::labelsForBlankFieldsAreLeftOut()
 {
     auto form = makeForm(band("D", 0, 20, "alr_Detail", {},
-                              fieldOn("Dir", 100) +
-                                  "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
-                                  "      LabelFor = Dir\n    end\n"));
+                              fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
+                                                    "      LabelFor = Dir\n    end\n"));
     QVERIFY(form);
     pushValues(*form->report, "Dir=Ann, ,Bo");
     const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
