@@ -226,20 +226,26 @@ void AddReportCommands(CommandList &commands)
 {
     CliCommand report{
         QStringLiteral("report"),
-        QStringLiteral("report KIND IN -o OUT.pdf [--trace] [--paper a4|letter] [--from N --to N] [--all-days] "
-                       "[--sheets ID,...] [--categories N,...]"),
-        QStringLiteral("Write a report as PDF: KIND is schedule, oneline (--from/--to days, --all-days for rest "
-                       "days too), breakdown (--sheets) or elements (--categories, default 1). --trace prints "
-                       "every value pushed into the template."),
-        {}};
+        QStringLiteral("report schedule|oneline|breakdown|elements IN -o OUT.pdf [--paper a4|letter] [--trace] "
+                       "[--from N --to N] [--all-days] [--sheets ID,...] [--categories N,...]"),
+        QStringLiteral("Write a report as PDF: the shooting schedule, the one-line schedule, breakdown sheets or "
+                       "the element summary."),
+        {},
+        QStringLiteral("schedule, oneline: --from N --to N production days (default all), --all-days rest days "
+                       "too.\nbreakdown: --sheets breakdown sheet numbers (default every scene).\nelements: "
+                       "--categories category numbers (default 1, the cast).\n--trace prints every value pushed "
+                       "into the template, one line each.")};
     report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
     commands.append(report);
-    CliCommand check{QStringLiteral("check-template"),
-                     QStringLiteral("check-template FILE [--report schedule|oneline|breakdown|elements]"),
-                     QStringLiteral("Load a report template and say where it fails to load (line and cause), "
-                                    "which fields the report fills that it lacks, and which of its fields no "
-                                    "report fills. The report is found from the file name unless given."),
-                     {}};
+    CliCommand check{
+        QStringLiteral("check-template"),
+        QStringLiteral("check-template FILE [--report schedule|oneline|breakdown|elements]"),
+        QStringLiteral("Check a report template: where it fails to load, and its fields against the report's."),
+        {},
+        QStringLiteral("A template that does not load is reported with its file, line and cause. One that loads "
+                       "is listed with the fields the report fills that it lacks and the fields of its own that "
+                       "no report fills. The report is known from the file name (ShootSch1.dfm, Oneline1.dfm, "
+                       "Breakdown1.dfm, ElementSummary1.dfm) unless --report names it.")};
     check.run = [check](CliContext &ctx, const QStringList &args) { return runCheckTemplate(ctx, check, args); };
     commands.append(check);
 }
