@@ -4,6 +4,7 @@
 
 #include "board/BoardStyle.h"
 #include "document/ScheduleFile.h"
+#include "document/Settings.h"
 #include "reports/ReportBuilders.h"
 #include "reports/ReportOutput.h"
 #include "reports/TemplateFields.h"
@@ -118,8 +119,12 @@ int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
         built = CreateSchedulePages(doc, options, context);
     } else if (kind == QLatin1String("breakdown")) {
         BreakdownReportOptions options;
-        // No preferences here: the sheets' headings take the colours of a paper board.
-        options.style = ClassicBoardStyle();
+        // Each sheet's heading takes its strip's colour from the user's board colours, as
+        // the board command draws them.
+        Settings settings;
+        for (const QString &problem : settings.LoadSettings())
+            ctx.err << problem << Qt::endl;
+        options.style = StyleFromSettings(settings);
         if (parser.has(QStringLiteral("--sheets"))) {
             QList<int> ids;
             if (!numberList(parser.value(QStringLiteral("--sheets")), &ids))

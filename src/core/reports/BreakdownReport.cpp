@@ -8,6 +8,7 @@
 
 #include "board/DrawBoard.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -202,7 +203,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
                 report.AddFieldValue(*field, categoryName(doc, field->Tag).toUpper());
             } else if (field->Tag > 100) {
                 if (!assignedRead) {
-                    assigned = reportdetail::AssignedFlags(doc, row);
+                    assigned = AssignedElementFlags(doc, row);
                     assignedRead = true;
                 }
                 const int category = field->Tag - 100;
@@ -217,7 +218,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
         // "id - name", the heading's colour and what continues below the sheet.
         report.AddNamedValue(QStringLiteral("IntExtField"), intExtWord(strip[StripField::IntExt]));
         if (!assignedRead)
-            assigned = reportdetail::AssignedFlags(doc, row);
+            assigned = AssignedElementFlags(doc, row);
         QStringList cast;
         for (int e = 1; e <= doc.elements.count(); ++e)
             if (assigned.at(e) && categoryOf(doc.elements[e]) == 1)
@@ -257,7 +258,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
     for (int i = 1; i <= count; ++i) {
         const StripRecord &strip = doc.strips[i];
         if (!strip[StripField::Assignments].isEmpty())
-            assigned[i] = reportdetail::AssignedFlags(doc, i);
+            assigned[i] = AssignedElementFlags(doc, i);
     }
     auto isAssigned = [&](int strip, int element) {
         return element < assigned.at(strip).size() && assigned.at(strip).at(element);

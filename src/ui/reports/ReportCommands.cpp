@@ -1,11 +1,12 @@
 #include "ui/reports/ReportCommands.h"
 
+#include "board/BoardStyle.h"
+
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPrintBS.h"
 #include "ui/reports/TfrmShootSch.h"
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
-#include "ui/shell/StyleFromSettings.h"
 
 #include <QAction>
 
