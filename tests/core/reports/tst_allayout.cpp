@@ -10,6 +10,8 @@
 #include "reports/DfmParser.h"
 #include "reports/ReportOutput.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPdfWriter>
 #include <QTest>
 
@@ -154,6 +156,8 @@ private Q_SLOTS:
     void pageOfPages();
     void grownTextPushesDownWhatIsBelow();
     void labelsForBlankFieldsAreLeftOut();
+    void printingFamilyHasABoldFace_data();
+    void printingFamilyHasABoldFace();
     void textLines_data();
     void textLines();
     void previewAndPrintBreakAlike();
@@ -473,6 +477,22 @@ void TestAlLayout::labelsForBlankFieldsAreLeftOut()
     for (const PlacedBand &b : layout.pages[0].bands)
         shown.append(controlOf(b, "DirLabel") ? "label" : "none");
     QCOMPARE(shown, QStringList({"label", "none", "label"}));
+}
+
+void TestAlLayout::printingFamilyHasABoldFace_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::newRow("the templates' Arial") << "Arial";
+    QTest::newRow("a family no system has") << "Quillbrook Grotesque Nonesuch";
+}
+
+void TestAlLayout::printingFamilyHasABoldFace()
+{
+    // Whatever a template names, the text prints in a family with a bold face of its own,
+    // so that bold texts keep to the widths they were measured at.
+    QFETCH(QString, family);
+    const QString used = QFontInfo(QFont(PrintingFamily(family))).family();
+    QVERIFY2(QFontDatabase::styles(used).contains(QStringLiteral("Bold"), Qt::CaseInsensitive), qPrintable(used));
 }
 
 void TestAlLayout::textLines_data()
