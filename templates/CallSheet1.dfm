@@ -1470,7 +1470,7 @@ object CallSheetForm: TForm
     Left = 0
     Top = 561
     Width = 700
-    Height = 40
+    Height = 72
     Align = alTop
     BandType = alr_ReportFooter
     ClipMode = cm_Expand
@@ -1500,7 +1500,7 @@ object CallSheetForm: TForm
       Left = 6
       Top = 26
       Width = 688
-      Height = 14
+      Height = 44
       AutoSize = False
       Caption = 'NotesField'
       Font.Charset = DEFAULT_CHARSET

@@ -379,5 +379,5 @@ void TestCallSheet::fileReadAfterAddingARowIsMisaligned()
     QCOMPARE(sheet.cast.rows.first(), (QStringList{"", "CROWD", "8:00 am", "Gaffer (Gil)", "8:00 am", " (Nameless)"}));
 }
 
-TB_TEST_GUILESS_MAIN(TestCallSheet)
+TB_TEST_MAIN(TestCallSheet)
 #include "tst_callsheet.moc"
