@@ -317,17 +317,17 @@ Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImp
         ScriptImporter importer(doc, lines, settings);
         ok = importer.run();
     }
-    if (ok)
-        doc.view().scrollToStrip(1);
     // The normal cursor comes back before a message can show.
     doc.status().setBusy(false);
     if (!ok)
         doc.prompter().error(QString::fromLatin1(ScriptImportErrorText));
 
-    // Success or not, the document now differs from any file and the board shows it.
-    SetModified(doc);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
+    // Success or not, the document now differs from any file and the board shows it,
+    // from the first strip after a good import. An import takes no undo snapshot.
+    DocumentChange change;
+    if (ok)
+        change.firstStrip = 1;
+    SetModified(doc, change);
     return ok ? Result::success() : Result::failure(QString::fromLatin1(ScriptImportErrorText));
 }
 
