@@ -6,7 +6,6 @@
 #include "breakdown/SceneEditing.h"
 #include "breakdown/StripOrder.h"
 #include "document/Clipboard.h"
-#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "scheduling/Banners.h"
 #include "scheduling/Calendar.h"
@@ -101,16 +100,17 @@ private Q_SLOTS:
         Row("apply scene", Operation([](auto &d) { (void)ApplyScene(d, SceneMode::Insert, 2, BlankScenePage(), {}); }),
             QString("add / edit scene"), 0);
         Row("add divider", Operation([](auto &d) { (void)AddDayDivider(d); }), QString("Add day divider"), 4);
-        Row("insert divider", strip(2, 2, [](auto &d) { (void)InsertDayDivider(d); }), QString("Insert day divider"), 0);
+        Row("insert divider", strip(2, 2, [](auto &d) { (void)InsertDayDivider(d); }), QString("Insert day divider"),
+            0);
         Row("remove dividers", Operation([](auto &d) { RemoveAllDayDividers(d); }), QString("Remove all day dividers"),
             1);
         Row("auto dividers", Operation([](auto &d) { (void)AutoDayDividers(d, {}); }), QString("auto day dividers"), 1);
-        Row("add banner", Operation([=](auto &d) { (void)WriteBanner(d, BannerAddAtEnd, banner); }), QString("Add banner"),
-            3);
+        Row("add banner", Operation([=](auto &d) { (void)WriteBanner(d, BannerAddAtEnd, banner); }),
+            QString("Add banner"), 3);
         Row("insert banner", strip(1, 1, [=](auto &d) { (void)WriteBanner(d, BannerInsert, banner); }),
             QString("Insert banner"), 0);
-        Row("edit banner", strip(5, 5, [=](auto &d) { (void)WriteBanner(d, BannerEdit, banner); }), QString("Edit banner"),
-            0);
+        Row("edit banner", strip(5, 5, [=](auto &d) { (void)WriteBanner(d, BannerEdit, banner); }),
+            QString("Edit banner"), 0);
         Row("remove banners", Operation([](auto &d) { RemoveAllBanners(d); }), QString("Remove all banners"), 1);
         Row("move strip", strip(1, 1, [](auto &d) { MoveStrips(d, 4); }), QString("Move strip"), 0);
         Row("move strips", strip(1, 2, [](auto &d) { MoveStrips(d, 6); }), QString("Move strips"), 0);
@@ -177,27 +177,6 @@ private Q_SLOTS:
         QCOMPARE(status.recalculations, 1);
         QCOMPARE(view.notifications, 1);
         QTEST(view.firstStrip, "firstStrip");
-    }
-
-    // An edit that leaves early still marks the document modified and tells the views.
-    void editFinishesOnEveryPath()
-    {
-        ScheduleDocument doc;
-        CountingStatus status;
-        CountingView view;
-        doc.setStatusSink(&status);
-        doc.setView(&view);
-        auto refused = [&doc]() -> bool {
-            DocumentEdit edit(doc, QStringLiteral("edit scene"));
-            edit.markModified();
-            edit.scrollToStrip(7);
-            return false;
-        };
-        QVERIFY(!refused());
-        QVERIFY(doc.Modified);
-        QCOMPARE(status.recalculations, 1);
-        QCOMPARE(view.notifications, 1);
-        QCOMPARE(view.firstStrip, 7);
     }
 };
 
