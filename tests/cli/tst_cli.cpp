@@ -84,6 +84,8 @@ private Q_SLOTS:
     void reports_data();
     void reports();
     void reportTrace();
+    void checkTemplate_data();
+    void checkTemplate();
     void details();
     void exports();
 };
@@ -188,6 +190,13 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+        "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+        "--date needs a date as YYYY-MM-DD");
+    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+        "--date YYYY-MM-DD and --shot SCENE,... are required");
 }
 
 void TestCli::usageErrors()
@@ -234,6 +243,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+        "You need to enter a production start date before you can print call sheets.");
+    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
+    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+        "Scene 11 is not scheduled on 2027-04-06.");
     Row("export of a missing schedule", L{"export", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
     Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
     Row("two-line title", L{"details", "EX", "--title", "A\nB"}, "Picture title must be one line.");
@@ -246,10 +260,10 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board"    ? ".png"
-                                  : first == "report" ? ".pdf"
-                                  : first == "export" ? ".csv"
-                                                      : ".tbf");
+    const QString out = rowOutput(first == "board"                            ? ".png"
+                                  : first == "report" || first == "callsheet" ? ".pdf"
+                                  : first == "export"                         ? ".csv"
+                                                                              : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -499,7 +513,43 @@ void TestCli::reportTrace()
     QCOMPARE(lines.at(0), QStringLiteral("AddNamedValue(PictureField) = \"Harbour Lights\""));
     // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
     QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
-    QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    // The closing line of every report, then this program's own values after it.
+    const qsizetype end = lines.indexOf(QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    QVERIFY(end > 0);
+    QCOMPARE(lines.mid(end + 1, 2), QStringList({"AddNamedValue(TotalsField) = 1 shooting day, 4 scenes, 4 6/8 pages",
+                                                 "AddNamedValue(TitleField) = Harbour Lights"}));
+}
+
+void TestCli::checkTemplate_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
+    const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
+    QTest::newRow("fields checked") << head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
+                                              "    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "lacks DayField";
+    QTest::newRow("unfilled field") << head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "field Extra receives no value from the report";
+    QTest::newRow("mistake with line and cause")
+        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
+        << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
+}
+
+void TestCli::checkTemplate()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QDir().mkpath(TempPath(QTest::currentDataTag()));
+    const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(text);
+    f.close();
+    const CliRun run = RunCli({"check-template", path});
+    QCOMPARE(run.code, code);
+    QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
 }
 
 // Details given are set, the others kept; info --details shows them all.
