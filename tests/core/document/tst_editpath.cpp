@@ -10,6 +10,7 @@
 #include "scheduling/Banners.h"
 #include "scheduling/Calendar.h"
 #include "scheduling/DayDividers.h"
+#include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
 
 #include <QTest>
@@ -144,6 +145,10 @@ private Q_SLOTS:
                 list.apply(d);
             }),
             QString("conform strips"), 0);
+        Row("end of day", Operation([](auto &d) {
+                (void)ApplyEndOfDay(d, QDate(2026, 3, 6), {{1, true}});
+            }),
+            QString("end of day"), 0);
         // Changes without undo.
         Row("start date", Operation([](auto &d) { ApplyStartDate(d, QDate(2026, 4, 1), QDate(2026, 1, 1)); }),
             QString(), 0);
