@@ -2,7 +2,7 @@
 
 #include "import/ScriptImport.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QFont>
 #include <QStringList>
 
@@ -26,7 +26,7 @@ class ScheduleDocument;
 // printed page, the font of the printed script and the words of scene headings and
 // cues, then build a new schedule from the script (DoImport). The word lists are kept
 // while the program runs; the dialog is created once and shown for every import.
-class TfrmImportScript : public QDialog
+class TfrmImportScript : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -53,9 +53,6 @@ public:
     // The script as loaded when page 3 was reached, one string per line.
     const QStringList &scriptLines() const { return m_lines; }
     ScriptImportSettings settings() const;
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;
