@@ -13,9 +13,6 @@ MenuTable ShellMenuEntries(TfrmMain &main)
 {
     TfrmMain *m = &main;
     const auto run = [m](void (TfrmMain::*handler)()) { return [m, handler] { (m->*handler)(); }; };
-    // "As Spreadsheet..." and "As HTML..." stand in the menu, enabled, and do nothing,
-    // as they always have.
-    const auto nothing = [] {};
 
     using namespace actions;
     MenuTable table{
@@ -24,8 +21,6 @@ MenuTable ShellMenuEntries(TfrmMain &main)
         {.name = Openfile1, .caption = "&Open...", .hint = "Open", .handler = run(&TfrmMain::Openfile1Click)},
         {.name = Save1, .caption = "&Save", .shortcut = "F12", .hint = "Save", .handler = run(&TfrmMain::Save1Click)},
         {.name = SaveAs1, .caption = "Save &As...", .handler = run(&TfrmMain::SaveAs1Click)},
-        {.name = AsSpreadsheet1, .caption = "As &Spreadsheet...", .handler = nothing},
-        {.name = AsHTML1, .caption = "As &HTML...", .handler = nothing},
         {.name = Preferences1, .caption = "P&references...", .handler = run(&TfrmMain::Preferences1Click)},
         {.name = Exit1, .caption = "&Exit", .shortcut = "Ctrl+Q", .handler = run(&TfrmMain::Exit1Click)},
         // Edit

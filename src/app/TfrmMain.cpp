@@ -13,6 +13,7 @@
 #include "ui/board/BoardView.h"
 #include "ui/breakdown/BreakdownMenu.h"
 #include "ui/import/ImportMenu.h"
+#include "ui/reports/ExportCommands.h"
 #include "ui/reports/ReportsMenu.h"
 #include "ui/scheduling/SchedulingMenu.h"
 #include "ui/shell/HelpWindow.h"
@@ -91,6 +92,7 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_commands->add(SchedulingMenuEntries(*this));
     m_commands->add(BreakdownMenuEntries(*this));
     m_commands->add(ReportsMenuEntries(*this));
+    m_commands->add(ExportMenuEntries(*this));
     buildMenus();
     buildPopup();
     buildToolBar();
