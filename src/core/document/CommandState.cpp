@@ -43,12 +43,12 @@ bool CanPasteSelection(const ScheduleDocument &doc)
 
 bool CanUndo(const ScheduleDocument &doc)
 {
-    return doc.undoEnabled;
+    return UndoCommands(doc.undo).undoEnabled;
 }
 
 bool CanRedo(const ScheduleDocument &doc)
 {
-    return doc.redoEnabled;
+    return UndoCommands(doc.undo).redoEnabled;
 }
 
 } // namespace tb
