@@ -1,15 +1,16 @@
 #include "CliCommand.h"
 
 #include "board/DrawBoard.h"
+#include "document/AtomicWrite.h"
 #include "document/ScheduleFile.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace tb::cli {
 
@@ -50,12 +51,12 @@ QString drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &painter)
     return DrawBoard(doc, r.style, r.firstStrip, r.firstElement, -1, true, true, false, true, r.scale, 0, 0, painter);
 }
 
-// Writes through a temporary file, so a failed render leaves no half-written file.
+// Renders into memory and writes the file in one checked step, so a failed render or
+// a failed write leaves no file, or the earlier one untouched.
 QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &out, bool pdf, QString *lastDrawn)
 {
-    QSaveFile file(out);
-    if (!file.open(QIODevice::WriteOnly))
-        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
     if (pdf) {
         QPdfWriter writer(&file);
         writer.setResolution(PdfResolution);
@@ -82,8 +83,10 @@ QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &
         if (!image.save(&file, "PNG"))
             return QStringLiteral("Cannot write %1").arg(out);
     }
-    if (!file.commit())
-        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    file.close();
+    const Result written = WriteFileAtomically(out, file.data());
+    if (!written)
+        return QStringLiteral("Cannot write %1: %2").arg(out, written.message());
     return {};
 }
 

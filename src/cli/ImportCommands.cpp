@@ -69,10 +69,10 @@ int runImportText(CliContext &ctx, const CliCommand &self, const QStringList &ar
     doc.setPrompter(&ctx.prompter);
     const QString out = parser.value(QStringLiteral("-o"));
     const Result imported = DoImport(doc, *lines, settings);
-    // A failed import keeps the elements made so far; they are saved like the rest.
-    if (!SaveDocument(doc, out))
-        return ExitUserError;
+    // A failed import writes nothing: the file named by -o, if any, stays as it was.
     if (!imported)
+        return ExitUserError;
+    if (!SaveDocument(doc, out))
         return ExitUserError;
     PrintImported(ctx, doc, out);
     return ExitOk;
@@ -106,12 +106,12 @@ int runImportFinalDraft(CliContext &ctx, const CliCommand &self, const QStringLi
     const int errorsBefore = ctx.prompter.errorCount;
     const Result imported = ImportFinalDraft(doc, sceneReport, scriptReport);
     const QString out = parser.value(QStringLiteral("-o"));
-    // What was read before a failure stays and is saved.
-    if (!SaveDocument(doc, out))
-        return ExitUserError;
-    // The lengths messages do not stop the import, but the result is not what the
-    // reports hold: exit 1 as for any error shown.
+    // A failed import writes nothing. The lengths messages do not stop the import, but
+    // the result is not what the reports hold: no file either, and exit 1 as for any
+    // error shown.
     if (!imported || ctx.prompter.errorCount > errorsBefore)
+        return ExitUserError;
+    if (!SaveDocument(doc, out))
         return ExitUserError;
     PrintImported(ctx, doc, out);
     return ExitOk;

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPoint>
 #include <QTest>
@@ -256,11 +257,13 @@ void TestCli::schedules_data()
         0, imported.arg(2).arg(1), "", "strips 2;elements 1;e 1 0 Ann;s 1 2,11,5 D|PARK|1.25;s 2 2 N");
     Row("import-fd", L{"import-fd", "DATA/fd-scene-report.txt", "DATA/fd-script-report.txt"}, 0, imported.arg(5).arg(5),
         "", "strips 5;s 1 5 1.375");
-    // An import that fails part-way still writes what it read, and says so.
+    // An import that fails part-way says so and writes nothing.
     Row("import-fd, no lengths", L{"import-fd", "@two-scenes.txt", "@two.txt"}, 1, "",
         "Error converting scene length.\nCould not find scene length information. Are you sure you selected a valid "
         "Final Draft scene report?\n",
-        "strips 2;elements 0;s 1 5 0.125");
+        "none");
+    Row("a line break in a value", L{"add-scene", "SMALL", "--scene", "1", "--synopsis", "two\nlines"}, 2, "",
+        "a value cannot hold a line break (\"two\\nlines\")", "none");
 
     // The input board SMALL: 1 1 2 3 3 1 4 2 (the two rest days follow Friday's divider).
     Row("add-divider", L{"add-divider", "SMALL"}, 0, "", "", "kinds 1 1 2 3 3 1 4 2 2");
@@ -328,6 +331,10 @@ void TestCli::schedules()
         QCOMPARE(run.out, out.endsWith(u'\n') ? out : out + file + u'\n');
     QVERIFY2(run.err.contains(err), qPrintable(run.err));
 
+    if (checks == "none") {
+        QVERIFY(!QFileInfo::exists(file));
+        return;
+    }
     ScheduleDocument doc;
     QVERIFY(OpenDocument(doc, file).ok());
     for (const QString &check : checks.split(u';', Qt::SkipEmptyParts)) {
