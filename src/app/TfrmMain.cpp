@@ -784,7 +784,7 @@ void TfrmMain::Preferences1Click()
         m_pref = new TfrmPref(m_doc, m_settings, m_autosavePath, this);
     m_pref->exec();
     applySettings();
-    setAutosaveInterval(m_settings.autosaveMinutes * 60000);
+    setAutosaveInterval(AutosaveIntervalMs(m_settings.autosaveMinutes));
     m_board->repaintBoard();
 }
 

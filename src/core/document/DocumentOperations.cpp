@@ -4,6 +4,7 @@
 #include "document/LegacyText.h"
 
 #include <cmath>
+#include <limits>
 
 namespace tb {
 
@@ -138,7 +139,7 @@ void NewDocument(ScheduleDocument &doc)
     for (CrewRow &row : doc.crew)
         row.clear();
     // 2. Autosave interval from the preferences.
-    doc.view().setAutosaveInterval(doc.autosaveMinutes * 60000);
+    doc.view().setAutosaveInterval(AutosaveIntervalMs(doc.autosaveMinutes));
     // 3.-5. Zoom, file name, selection, rest day rule, strip serials, hold days.
     doc.FileName.clear();
     doc.SelStart = 0;
@@ -173,6 +174,12 @@ QString UpdateTitle(const ScheduleDocument &doc)
 {
     return QStringLiteral("Torvanbridge - ") + doc.values.PictureTitle + QStringLiteral("  (") + doc.FileName +
            QStringLiteral(") ");
+}
+
+int AutosaveIntervalMs(int minutes)
+{
+    constexpr int MinuteMs = 60000;
+    return qBound(0, minutes, std::numeric_limits<int>::max() / MinuteMs) * MinuteMs;
 }
 
 } // namespace tb

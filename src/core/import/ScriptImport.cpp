@@ -155,6 +155,9 @@ public:
     {}
 
     bool run();
+    // Scenes and cast names that did not fit into the tables and were left out.
+    int scenesLeftOut() const { return m_scenesLeftOut; }
+    int castLeftOut() const { return m_castLeftOut; }
 
 private:
     bool readHeading(int i, QString line, const QString &intExt);
@@ -172,6 +175,8 @@ private:
     int m_start = 1;       // line index of the last heading
     int m_sceneNumber = 1; // the next scene number given out
     int m_percent = -1;
+    int m_scenesLeftOut = 0;
+    int m_castLeftOut = 0;
     // Element rows by name, for the two lookups of a cue: any letter case, and exact.
     QHash<QString, int> m_byFoldedName;
     QHash<QString, int> m_byName;
@@ -203,7 +208,7 @@ bool ScriptImporter::run()
     // The last scene runs to the end of the script. Its length keeps the raw fraction
     // of a page, without the rounding to eighths and the one-eighth minimum of the
     // other scenes; schedules imported so far carry such lengths, so it stays.
-    if (m_strip > 1)
+    if (m_strip > 1 && m_scenesLeftOut == 0)
         m_doc.strips[m_strip - 1].set(StripField::PageLength,
                                       legacy::FloatToText(double(lineCount - m_start) / m_settings.linesPerPage));
     m_doc.strips.setCount(m_strip - 1);
@@ -212,8 +217,15 @@ bool ScriptImporter::run()
 
 bool ScriptImporter::readHeading(int i, QString line, const QString &intExt)
 {
-    if (m_strip > MaxStrips)
-        return false;
+    // A script longer than the strip table keeps the scenes that fit; the rest are
+    // counted and named in a message afterwards. (The earlier edition gave up with
+    // "Error with import procedure." and kept no scene at all.)
+    if (m_strip > MaxStrips) {
+        if (m_scenesLeftOut++ == 0)
+            m_doc.strips[MaxStrips].set(StripField::PageLength,
+                                        legacy::FloatToText(SceneLength(i - m_start, m_settings.linesPerPage)));
+        return true;
+    }
 
     // Time of day. Night words first, then day words; each hit cuts the line from its
     // blank (up to 99 characters), so a day word standing before a night word wins.
@@ -268,7 +280,8 @@ bool ScriptImporter::readHeading(int i, QString line, const QString &intExt)
 
 bool ScriptImporter::readCue(const QString &line)
 {
-    if (!LooksLikeCue(line) || IsIgnored(line.toUpper(), m_ignore))
+    // Cues of scenes that were left out make no elements.
+    if (m_scenesLeftOut > 0 || !LooksLikeCue(line) || IsIgnored(line.toUpper(), m_ignore))
         return true;
     const QString name = CharacterName(line);
     const QString folded = name.toCaseFolded();
@@ -280,8 +293,12 @@ bool ScriptImporter::readCue(const QString &line)
         element.set(ElementField::HoldRule, QString());
         element.set(ElementField::PersonName, QString());
         element.set(ElementField::BoardId, QString::number(m_doc.elements.count() + 1));
-        if (!m_doc.elements.append(element))
-            return false;
+        if (!m_doc.elements.append(element)) {
+            // The element table is full: the name is left out and counted.
+            ++m_castLeftOut;
+            m_byFoldedName.insert(folded, 0);
+            return true;
+        }
         m_byFoldedName.insert(folded, m_doc.elements.count());
         m_byName.insert(name, m_doc.elements.count());
     }
@@ -313,9 +330,22 @@ Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImp
 
     doc.status().setBusy(true);
     bool ok = settings.linesPerPage >= 1;
+    QString leftOut;
     if (ok) {
         ScriptImporter importer(doc, lines, settings);
         ok = importer.run();
+        if (importer.scenesLeftOut() > 0)
+            leftOut += QStringLiteral("The schedule can hold at most %1 strips: the first %1 scenes were imported "
+                                      "and the last %2 scenes were left out.")
+                           .arg(MaxStrips)
+                           .arg(importer.scenesLeftOut());
+        if (importer.castLeftOut() > 0) {
+            if (!leftOut.isEmpty())
+                leftOut += QStringLiteral("\r\r");
+            leftOut += QStringLiteral("The schedule can hold at most %1 elements: %2 cast names were left out.")
+                           .arg(MaxElements)
+                           .arg(importer.castLeftOut());
+        }
     }
     if (ok)
         doc.view().scrollToStrip(1);
@@ -323,6 +353,8 @@ Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImp
     doc.status().setBusy(false);
     if (!ok)
         doc.prompter().error(QString::fromLatin1(ScriptImportErrorText));
+    else if (!leftOut.isEmpty())
+        doc.prompter().warning(leftOut);
 
     // Success or not, the document now differs from any file and the board shows it.
     SetModified(doc);

@@ -6,6 +6,7 @@
 
 #include "reports/ReportOutput.h"
 
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -89,7 +90,7 @@ public:
                         ++*rows;
                     }
                 } else if (strip.isBanner()) {
-                    const int days = legacy::StrToIntDef(strip[StripField::DayCount], 0);
+                    const int days = BannerDayCount(strip[StripField::DayCount]);
                     if (days > 0) {
                         d -= days;
                         const QString &text = strip[StripField::Synopsis];
