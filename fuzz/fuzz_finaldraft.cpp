@@ -3,6 +3,7 @@
 
 #include "FuzzSupport.h"
 
+#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "import/FinalDraftImport.h"
 

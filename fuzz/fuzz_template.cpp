@@ -26,7 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (!root)
         return 0;
     ResultOf<std::unique_ptr<ReportForm>> form = BuildReportForm(*root, QStringLiteral("fuzz.dfm"));
-    if (!form)
+    // A template without a report is refused by the loader before any layout.
+    if (!form || !form.value()->report)
         return 0;
     TAlReport &report = *form.value()->report;
     for (TAlField *field : form.value()->fields()) {

@@ -3,6 +3,7 @@
 #include "FuzzSupport.h"
 
 #include "document/LegacyText.h"
+#include "document/ScheduleFile.h"
 #include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
