@@ -1,7 +1,12 @@
-// Importing screenplays: a feature-length plain-text script and Final Draft reports.
+// Importing screenplays: a feature-length plain-text, Fountain and Final Draft (.fdx)
+// script, and Final Draft reports.
 
 #include "document/ScheduleDocument.h"
+#include "import/FdxImport.h"
 #include "import/FinalDraftImport.h"
+#include "import/FountainImport.h"
+#include "import/ImportSummary.h"
+#include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
 #include <QDir>
@@ -114,5 +119,107 @@ void BM_ImportFinalDraft(benchmark::State &state)
     CountStrips(state, doc, script.size());
 }
 BENCHMARK(BM_ImportFinalDraft)->Unit(benchmark::kMillisecond);
+
+// About 120 pages of Fountain: the bodies of the sample scripts (without their title
+// pages) one after the other until the script reaches 120 standard pages.
+QStringList FeatureFountain()
+{
+    QList<QStringList> bodies;
+    for (const char *name : {"my_living_memory.fountain", "printing_trouble.fountain", "brick_and_steel.fountain"}) {
+        const ResultOf<QStringList> lines =
+            ReadImportText(QDir(QStringLiteral(TB_IMPORT_DATA)).filePath(QString::fromLatin1(name)));
+        if (!lines)
+            return {};
+        QStringList body = *lines;
+        while (!body.isEmpty() && !body.first().trimmed().isEmpty())
+            body.removeFirst(); // the title page
+        bodies.append(body);
+    }
+    QStringList script{QStringLiteral("Title: Feature"), QString()};
+    for (int k = 0;; ++k) {
+        script += bodies.at(k % bodies.size());
+        const QList<double> at = PaginateScreenplay(ParseFountain(script).paragraphs);
+        if (at.last() >= 120.0)
+            return script;
+    }
+}
+
+// The same script as .fdx, paragraph by paragraph, without scene lengths and pages so
+// that the import counts them.
+QByteArray FeatureFdx(const QStringList &fountain)
+{
+    static const char *const types[] = {"Scene Heading", "Action",     "Character", "Parenthetical",
+                                        "Dialogue",      "Transition", "Action",    "Action"};
+    QString xml = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<FinalDraft DocumentType=\"Script\" "
+                                 "Version=\"5\">\n<Content>\n");
+    int scene = 0;
+    for (const ScreenplayParagraph &p : ParseFountain(fountain).paragraphs) {
+        xml += QStringLiteral("<Paragraph Type=\"%1\"").arg(QString::fromLatin1(types[int(p.kind)]));
+        if (p.kind == ScreenplayElement::Heading)
+            xml += QStringLiteral(" Number=\"%1\"").arg(++scene);
+        xml += QStringLiteral("><Text>") + p.text.toHtmlEscaped() + QStringLiteral("</Text></Paragraph>\n");
+    }
+    xml += QStringLiteral("</Content>\n</FinalDraft>\n");
+    return xml.toUtf8();
+}
+
+void CountScreenplay(benchmark::State &state, const ScheduleDocument &doc)
+{
+    state.counters["strips"] = doc.strips.count();
+    state.counters["elements"] = doc.elements.count();
+    state.counters["pages"] = SummarizeImport(doc).pages;
+}
+
+// Reading a 120-page Fountain file and building its schedule.
+void BM_ImportFountain(benchmark::State &state)
+{
+    const QStringList script = FeatureFountain();
+    if (script.isEmpty()) {
+        state.SkipWithError("the sample scripts are missing");
+        return;
+    }
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("feature.fountain")));
+    if (!file.open(QIODevice::WriteOnly)) {
+        state.SkipWithError("cannot write the script");
+        return;
+    }
+    file.write(script.join(QStringLiteral("\r\n")).toUtf8());
+    file.close();
+    ScheduleDocument doc;
+    for (auto _ : state) {
+        const ResultOf<QStringList> lines = ReadScriptFile(file.fileName());
+        if (!lines || !ImportFountain(doc, *lines, ScriptImportSettings()))
+            state.SkipWithError("import failed");
+    }
+    CountScreenplay(state, doc);
+}
+BENCHMARK(BM_ImportFountain)->Unit(benchmark::kMillisecond);
+
+// The same script as a Final Draft file.
+void BM_ImportFdx(benchmark::State &state)
+{
+    const QStringList script = FeatureFountain();
+    if (script.isEmpty()) {
+        state.SkipWithError("the sample scripts are missing");
+        return;
+    }
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("feature.fdx")));
+    if (!file.open(QIODevice::WriteOnly)) {
+        state.SkipWithError("cannot write the script");
+        return;
+    }
+    file.write(FeatureFdx(script));
+    file.close();
+    state.counters["bytes"] = double(file.size());
+    ScheduleDocument doc;
+    for (auto _ : state) {
+        if (!ImportFdxFile(doc, file.fileName(), ScriptImportSettings()))
+            state.SkipWithError("import failed");
+    }
+    CountScreenplay(state, doc);
+}
+BENCHMARK(BM_ImportFdx)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -12,7 +12,7 @@ seconds=${1:-60}
 shift || true
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
-    targets=(fuzz_schedule fuzz_textimport fuzz_finaldraft fuzz_template fuzz_settings)
+    targets=(fuzz_schedule fuzz_textimport fuzz_finaldraft fuzz_fountain fuzz_fdx fuzz_template fuzz_settings)
 fi
 
 # clang and its fuzzer runtime.
@@ -51,6 +51,8 @@ for target in "${targets[@]}"; do
     case $target in
     fuzz_schedule) seed "$target" examples/*.tbf tests/malformed/schedule ;;
     fuzz_textimport) seed "$target" ../shared/screenplays/*.txt tests/malformed/script ;;
+    fuzz_fountain) seed "$target" tests/core/import/data/*.fountain ;;
+    fuzz_fdx) seed "$target" tests/core/import/data/*.fdx ;;
     fuzz_finaldraft)
         seed "$target"
         { cat tests/core/import/data/fd-scene-report.txt; printf '\f'; cat tests/core/import/data/fd-script-report.txt; } \

@@ -58,6 +58,31 @@ run import-fd import-fd "$data/fd-scene-report.txt" "$data/fd-script-report.txt"
 cp import-fd.tbf "$out/outputs/" 2>/dev/null
 docs="$docs import-fd"
 
+# Screenplay imports: the text import's review, Fountain and Final Draft scripts. Their
+# schedules are recorded with their summary and board, not run through every command.
+screenplays=""
+if [ -d "$shared" ]; then
+    for s in "$shared"/*.txt; do
+        b=$(basename "$s" .txt)
+        run "import-text-review-$b" import-text "$s" -o "import-review-$b.tbf" --review auto
+        screenplays="$screenplays import-review-$b"
+    done
+fi
+for s in "$data"/*.fountain; do
+    b=$(basename "$s" .fountain)
+    run "import-fountain-$b" import-fountain "$s" -o "fountain-$b.tbf"
+    screenplays="$screenplays fountain-$b"
+done
+run import-fdx-garden-party import-fdx "$data/garden-party.fdx" -o fdx-garden-party.tbf
+screenplays="$screenplays fdx-garden-party"
+for d in $screenplays; do
+    [ -f "$d.tbf" ] || continue
+    cp "$d.tbf" "$out/outputs/"
+    run "$d-info" info "$d.tbf"
+    run "$d-board-png" board "$d.tbf" -o "$d-board.png"
+    cp "$d-board.png" "$out/outputs/" 2>/dev/null
+done
+
 for d in $docs; do
     in="$d.tbf"
     [ -f "$in" ] || continue
@@ -91,6 +116,15 @@ for d in $docs; do
     cmd add-scene add-scene "$in" -o "$d-add-scene.tbf" --scene 99A --pages "1 3/8" --int-ext I/E \
         --day-night N --location "HARBOUR, NORTH" --set "QUAY \"END\"" --synopsis "A, b" --elements 1,2
     cmd add-element add-element "$in" -o "$d-add-element.tbf" --description "NEW, ONE" --category 1
+    cmd details details "$in" -o "$d-details.tbf" --title "Night, \"Rain\"" --company "Brenholt" \
+        --address "1 Quay Street, Truro" --address "TR1 2AB" --ad "Kim Ode" --logo "" \
+        --crew "Gaffer=Jo Smith=07700 900123" --crew "Grip=Sam Lee"
+    run "$d-info-details" info "$in" --details
+    run "$d-details-info" info "$d-details.tbf" --details
+    run "$d-export-csv" export "$in" -o "$d-export.csv"
+    run "$d-export-html" export "$in" -o "$d-export.html"
+    run "$d-export-plain" export "$in" -o "$d-export-plain.htm" --colours plain
+    cp "$d-export.csv" "$d-export.html" "$d-export-plain.htm" "$out/outputs/" 2>/dev/null
     run "$d-board-png" board "$in" -o "$d-board.png"
     run "$d-board-classic" board "$in" -o "$d-board-classic.png" --colours classic --scale 0.8
     run "$d-board-pdf" board "$in" -o "$d-board.pdf"

@@ -1,5 +1,6 @@
 #include "CliCommand.h"
 
+#include "board/BoardExport.h"
 #include "board/DrawBoard.h"
 #include "document/AtomicWrite.h"
 #include "document/ScheduleFile.h"
@@ -29,6 +30,18 @@ struct BoardRender
     int firstElement = 1;
     BoardStyle style;
 };
+
+// The strip colours of the --colours option: classic or plain; false for anything else.
+bool styleNamed(const QString &name, BoardStyle *style)
+{
+    if (name == QLatin1String("classic"))
+        *style = ClassicBoardStyle();
+    else if (name == QLatin1String("plain"))
+        *style = BoardStyle();
+    else
+        return false;
+    return true;
+}
 
 bool readInt(const ArgParser &args, const QString &name, int low, int high, int *value, QString *error)
 {
@@ -124,10 +137,7 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
         !readInt(args, QStringLiteral("--first-strip"), 1, MaxStrips, &r.firstStrip, &error) ||
         !readInt(args, QStringLiteral("--first-element"), 1, MaxElements, &r.firstElement, &error))
         return UsageError(ctx, command, error);
-    const QString colours = args.value(QStringLiteral("--colours"), QStringLiteral("classic"));
-    if (colours == QLatin1String("classic"))
-        r.style = ClassicBoardStyle();
-    else if (colours != QLatin1String("plain"))
+    if (!styleNamed(args.value(QStringLiteral("--colours"), QStringLiteral("classic")), &r.style))
         return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
 
     ScheduleDocument doc;
@@ -157,6 +167,35 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
     return ExitOk;
 }
 
+int runExport(CliContext &ctx, const CliCommand &command, const QStringList &argv)
+{
+    ArgParser args;
+    args.valueOption(QStringLiteral("-o")).valueOption(QStringLiteral("--colours"));
+    QString error;
+    if (!args.parse(argv, &error))
+        return UsageError(ctx, command, error);
+    if (args.positional().size() != 1)
+        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
+    const QString out = args.value(QStringLiteral("-o"));
+    const std::optional<BoardExportFormat> format = BoardExportFormatOf(out);
+    if (!format)
+        return UsageError(ctx, command, QStringLiteral("needs -o OUT.csv or -o OUT.html"));
+    BoardStyle style;
+    if (!styleNamed(args.value(QStringLiteral("--colours"), QStringLiteral("classic")), &style))
+        return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, args.positional().first()))
+        return ExitUserError;
+    const Result written = ExportBoard(doc, style, *format, out);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
 } // namespace
 
 void AddBoardCommands(CommandList &commands)
@@ -169,6 +208,18 @@ void AddBoardCommands(CommandList &commands)
                      {}};
     board.run = [board](CliContext &ctx, const QStringList &args) { return runBoard(ctx, board, args); };
     commands.append(board);
+
+    CliCommand exportBoard{
+        QStringLiteral("export"),
+        QStringLiteral("export IN -o OUT.csv|OUT.html [--colours classic|plain]"),
+        QStringLiteral("Export the board as File > Export board does: a spreadsheet (CSV, one row per strip with its "
+                       "day, date, scene details, notes and one column per element category) or one web page "
+                       "(HTML, the production details and the days as strips in their board colours)."),
+        {}};
+    exportBoard.run = [exportBoard](CliContext &ctx, const QStringList &args) {
+        return runExport(ctx, exportBoard, args);
+    };
+    commands.append(exportBoard);
 }
 
 } // namespace tb::cli

@@ -12,6 +12,7 @@
 #include "ui/breakdown/TfrmStrip.h"
 #include "ui/import/TfrmFDImport.h"
 #include "ui/import/TfrmImportScript.h"
+#include "ui/reports/ExportCommands.h"
 #include "ui/scheduling/SchedulingMenu.h"
 #include "ui/shell/HelpWindow.h"
 #include "ui/shell/MenuActions.h"
@@ -365,7 +366,11 @@ private Q_SLOTS:
                     ->setText(QDir(ImportData).filePath("fd-script-report.txt"));
                 dialog->findChild<QPushButton *>("ImportBut")->click();
             });
-        QCOMPARE(p.prompter.texts(), QStringList{FinalDraftSaveQuestion});
+        // The question, and after an import its summary.
+        QCOMPARE(p.prompter.texts().value(0), QString::fromLatin1(FinalDraftSaveQuestion));
+        QCOMPARE(p.prompter.texts().size(), imports ? 2 : 1);
+        if (imports)
+            QVERIFY(p.prompter.texts().at(1).startsWith("Imported 5 scenes, 3 characters"));
         QCOMPARE(save.count(), saves);
         QCOMPARE(!caption.isEmpty(), imports);
         if (imports) {
@@ -376,6 +381,53 @@ private Q_SLOTS:
         } else {
             QCOMPARE(p.doc.strips.count(), 1);
         }
+    }
+
+    // The two Export board entries write the file chosen, adding the extension the
+    // name lacks; a file that cannot be written is reported and the board stays.
+    void exportEntries_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("written"); // empty: nothing written
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("spreadsheet") << "AsSpreadsheet1"
+                                     << "board"
+                                     << "board.csv" << QByteArray("Kind,Day,");
+        QTest::newRow("web page") << "AsHTML1"
+                                  << "board.htm"
+                                  << "board.htm" << QByteArray("<!DOCTYPE html>");
+        QTest::newRow("no folder") << "AsHTML1"
+                                   << "missing/board.html"
+                                   << "" << QByteArray();
+    }
+    void exportEntries()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, chosen);
+        QFETCH(QString, written);
+        QFETCH(QByteArray, start);
+        QTemporaryDir folder;
+        Program p;
+        QVERIFY(p.start());
+        QVERIFY(OpenDocument(p.doc, Example).ok());
+        auto *exporter = p.main->findChild<BoardExporter *>();
+        QString suggested;
+        exporter->chooseFile = [&](BoardExportFormat, const QString &name) {
+            suggested = name;
+            return QDir(folder.path()).filePath(chosen);
+        };
+        p.trigger(entry);
+        QCOMPARE(QFileInfo(suggested).fileName(),
+                 entry == "AsHTML1" ? QString("harbour-lights.html") : QString("harbour-lights.csv"));
+        if (written.isEmpty()) {
+            QCOMPARE(p.prompter.texts().size(), 1);
+            QVERIFY(p.prompter.texts().first().startsWith("Could not write"));
+            return;
+        }
+        QVERIFY(ReadFileBytes(QDir(folder.path()).filePath(written)).startsWith(start));
+        QCOMPARE(p.main->statusPanels()->panelText(StatusSink::MessagePanel), "Exported to " + written);
+        QVERIFY(!p.doc.Modified);
     }
 
     // The wizard asks about unsaved changes only at Import!, so that cancelling there
@@ -411,8 +463,12 @@ private Q_SLOTS:
                        QVERIFY(wizard->isVisible());
                        QCOMPARE(p.doc.strips[1][StripField::SceneNumber], "99");
                        next(); // Import! again, No: imported without saving
+                       QCOMPARE(wizard->currentStep(), int(TfrmImportScript::ReviewStep));
+                       next(); // Import! on the review: John is kept
                    });
-        QCOMPARE(p.prompter.texts(), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
+        QCOMPARE(p.prompter.texts().mid(0, 2), (QStringList{ScriptImportSaveQuestion, ScriptImportSaveQuestion}));
+        QCOMPARE(p.prompter.texts().value(2).section(u'\r', 0, 0),
+                 QStringLiteral("Imported 2 scenes, 1 character, 2/8 page."));
         QCOMPARE(save.count(), 0);
         QCOMPARE(wizard->result(), int(QDialog::Accepted));
         QCOMPARE(p.doc.strips.count(), 2);

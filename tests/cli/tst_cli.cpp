@@ -85,6 +85,8 @@ private Q_SLOTS:
     void reports_data();
     void reports();
     void reportTrace();
+    void details();
+    void exports();
 };
 
 void TestCli::initTestCase()
@@ -114,6 +116,9 @@ void TestCli::initTestCase()
 
     writeLines("script.txt", {"EXT. PARK - MAGIC HOUR", "", "SIMON SAYS", "Jump.", "", "EXT. PARK - GLOAMING", "",
                               "ANN", "Run.", "", "", "", ""});
+    writeLines("junk.txt", {"INT. ROOM - DAY", "", "ANN", "Hi.", "", "2.", "", "A RIVER.", "", "EXT. YARD - DAY", "",
+                            "BOB", "Yo.", "", "3.", ""});
+    writeLines("not.fdx", {"INT. ROOM - DAY"});
     writeLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
     writeLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
     QFile corrupt(TempPath("corrupt.tbf"));
@@ -141,6 +146,10 @@ void TestCli::usageErrors_data()
     Row("lines 0", import + L{"--lines", "0"}, "usage: torvanbridge-cli import-text");
     Row("lines not a number", import + L{"--lines", "many"}, "usage: torvanbridge-cli import-text");
     Row("import-fd, one report", L{"import-fd", "@two.txt", "-o", "OUT"}, "usage: torvanbridge-cli import-fd");
+    Row("review neither keep nor auto", import + L{"--review", "some"}, "--review must be keep or auto");
+    Row("import-fountain without -o", L{"import-fountain", "@script.txt"}, "usage: torvanbridge-cli import-fountain");
+    Row("import-fdx, two files", L{"import-fdx", "@not.fdx", "@two.txt", "-o", "OUT"},
+        "usage: torvanbridge-cli import-fdx");
 
     Row("lock without unlock or date", L{"lock", "SMALL", "-o", "OUT", "--from", "1", "--to", "2"},
         "give either --date YYYY-MM-DD or --unlock");
@@ -165,6 +174,11 @@ void TestCli::usageErrors_data()
         "--width must be a whole number from 1 to 20000");
     Row("board colours", L{"board", "EX", "-o", "OUT", "--colours", "pink"}, "--colours must be classic or plain");
     Row("board, two inputs", L{"board", "EX", "EX", "-o", "OUT"}, "needs one schedule file");
+
+    Row("export wrong type", L{"export", "EX", "-o", "x.xlsx"}, "needs -o OUT.csv or -o OUT.html");
+    Row("export colours", L{"export", "EX", "-o", "x.csv", "--colours", "pink"}, "--colours must be classic or plain");
+    Row("crew without a name", L{"details", "EX", "-o", "OUT", "--crew", "Gaffer"},
+        "--crew takes POSITION=NAME or POSITION=NAME=CONTACT");
 
     Row("unknown report", L{"report", "callsheet", "EX", "-o", "OUT"}, "unknown report callsheet");
     Row("report without output", L{"report", "schedule", "EX"}, "expected KIND, an input file and -o OUT.pdf");
@@ -199,6 +213,8 @@ void TestCli::refusedWritesNothing_data()
     Row("missing schedule", L{"resave", "@missing.tbf"},
         "Error opening file .\n\nThis file cannot be opened by Torvanbridge");
     Row("script missing", L{"import-text", "@missing-script.txt"}, "Error with import procedure.\n\n");
+    Row("Fountain script missing", L{"import-fountain", "@missing-script.txt"}, "Error with import procedure.\n\n");
+    Row("not an fdx", L{"import-fdx", "@not.fdx"}, "This file is not a Final Draft script (.fdx) that can be read.");
     Row("scene report missing", L{"import-fd", "@no-scenes.txt", "@two.txt"},
         "Error reading file(s). The files may be of the wrong type, or corrupted. Try re-exporting from Final Draft.");
     Row("row beyond the board", L{"add-divider", "SMALL", "--before", "9"},
@@ -219,6 +235,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("export of a missing schedule", L{"export", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
+    Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
+    Row("two-line title", L{"details", "EX", "--title", "A\nB"}, "Picture title must be one line.");
+    Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
+        "The crew list has room for 50 lines, not 51.");
 }
 
 void TestCli::refusedWritesNothing()
@@ -226,7 +247,10 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board" ? ".png" : first == "report" ? ".pdf" : ".tbf");
+    const QString out = rowOutput(first == "board"    ? ".png"
+                                  : first == "report" ? ".pdf"
+                                  : first == "export" ? ".csv"
+                                                      : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -255,8 +279,17 @@ void TestCli::schedules_data()
         L{"import-text", "@script.txt", "--lines", "4", "--day-words", "MAGIC HOUR, noon", "--night-words=GLOAMING",
           "--ignore-words", "SIMON SAYS,"},
         0, imported.arg(2).arg(1), "", "strips 2;elements 1;e 1 0 Ann;s 1 2,11,5 D|PARK|1.25;s 2 2 N");
-    Row("import-fd", L{"import-fd", "DATA/fd-scene-report.txt", "DATA/fd-script-report.txt"}, 0, imported.arg(5).arg(5),
-        "", "strips 5;s 1 5 1.375");
+    Row("import-fd", L{"import-fd", "DATA/fd-scene-report.txt", "DATA/fd-script-report.txt"}, 0, imported.arg(5).arg(3),
+        "", "strips 5;elements 3;s 1 5 1.375;s 2 11 BARN");
+    // The review's choice: page numbers and a line of action go, with their assignments.
+    Row("import-text --review auto", L{"import-text", "@junk.txt", "--review", "auto"}, 0, imported.arg(2).arg(2), "",
+        "strips 2;elements 2;e 2 0,3 Bob|2;s 1 19 1;s 2 19 2");
+    Row("import-text keeps all by default", L{"import-text", "@junk.txt"}, 0, imported.arg(2).arg(5), "",
+        "elements 5;s 1 19 1,2,3");
+    Row("import-fountain", L{"import-fountain", "DATA/brick_and_steel.fountain"}, 0, imported.arg(8).arg(7), "",
+        "strips 8;elements 7;e 1 0 STEEL;s 1 1,4,2,3,11 1|1|D|E|BRICK'S PATIO");
+    Row("import-fdx", L{"import-fdx", "DATA/garden-party.fdx"}, 0, imported.arg(3).arg(3), "",
+        "strips 3;elements 3;e 2 0 MR. PIKE;s 1 1,5,19 1|1.25|1,2,3;s 2 1,5,2,11 2|0.375|?|KITCHEN;s 3 1 2A");
     // An import that fails part-way says so and writes nothing.
     Row("import-fd, no lengths", L{"import-fd", "@two-scenes.txt", "@two.txt"}, 1, "",
         "Error converting scene length.\nCould not find scene length information. Are you sure you selected a valid "
@@ -327,8 +360,11 @@ void TestCli::schedules()
         ++inputs;
     const CliRun run = RunCli(expand(args.mid(0, inputs) + L{"-o", "OUT"} + args.mid(inputs), file));
     QVERIFY2(run.code == code, qPrintable(run.err));
-    if (!out.isEmpty())
-        QCOMPARE(run.out, out.endsWith(u'\n') ? out : out + file + u'\n');
+    // A given stdout is all of it, or its first line up to the file written.
+    if (!out.isEmpty() && out.endsWith(u'\n'))
+        QCOMPARE(run.out, out);
+    else if (!out.isEmpty())
+        QVERIFY2(run.out.startsWith(out + file + u'\n'), qPrintable(run.out));
     QVERIFY2(run.err.contains(err), qPrintable(run.err));
 
     if (checks == "none") {
@@ -453,6 +489,51 @@ void TestCli::reportTrace()
     // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
     QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
     QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+}
+
+// Details given are set, the others kept; info --details shows them all.
+void TestCli::details()
+{
+    const QString out = TempPath("details.tbf");
+    const CliRun set = RunCli({"details", Example, "-o", out, "--title", "Rain", "--address", "1 Quay St, Truro",
+                               "--address", "TR1 2AB", "--upm", "Ann Lee", "--logo", "logo.png", "--crew",
+                               "Gaffer=Jo Smith=07700 900123", "--crew", "Grip=Sam=Lee"});
+    QVERIFY2(set.code == 0, qPrintable(set.err));
+    // As in the dialog, a logo that is no picture is reported and still taken.
+    QVERIFY(set.err.contains("Error opening logo image file. Make sure this is a valid graphic file."));
+    const CliRun info = RunCli({"info", out, "--details"});
+    QCOMPARE(info.code, 0);
+    QVERIFY(info.out.startsWith("Title:       Rain\nCompany:     Brenholt Pictures Ltd\n"));
+    const QString details = info.out.mid(info.out.indexOf("Producer:"));
+    QCOMPARE(details, QString("Producer:    Anna Kerrow\n"
+                              "Director:    Declan Mayhew\n"
+                              "1st AD:      Ruth Sandoval\n"
+                              "PM:          Ann Lee\n"
+                              "Script:      Harbour Lights - shooting script, blue revision\n"
+                              "Reference:   HL-0427\n"
+                              "Prepared by: Peter Okafor\n"
+                              "Logo:        " +
+                              QDir::current().absoluteFilePath("logo.png") +
+                              "\n"
+                              "Address:\n  1 Quay St, Truro\n  TR1 2AB\n"
+                              "Crew:\n  Gaffer = Jo Smith = 07700 900123\n  Grip = Sam = Lee\n"));
+    // Without --details, info prints what it always did.
+    QVERIFY(!RunCli({"info", out}).out.contains("Producer:"));
+}
+
+void TestCli::exports()
+{
+    for (const QString &name : {QStringLiteral("board.csv"), QStringLiteral("board.HTML")}) {
+        const QString out = TempPath(name);
+        const CliRun run = RunCli({"export", Example, "-o", out});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        const QByteArray bytes = ReadFileBytes(out);
+        QVERIFY(name.endsWith("csv") ? bytes.startsWith("Kind,Day,Shooting day,Date,Scene,")
+                                     : bytes.startsWith("<!DOCTYPE html>"));
+        // The header and one row per strip.
+        if (name.endsWith("csv"))
+            QCOMPARE(bytes.count("\r\n"), 1 + 79);
+    }
 }
 
 TB_TEST_MAIN(TestCli)

@@ -129,20 +129,25 @@ void FinalDraftReader::readHeading(StripRecord &row, const QString &heading)
     row.set(StripField::DayNight, dayNight);
 
     // Location: the heading in capitals from the character after its first blank,
-    // while the characters are capital letters or blanks. The scan takes a character
-    // only while another follows it, so a location that runs to the end of the heading
-    // loses its last letter ("EXT. BARN" gives BAR). Kept as the reader always was.
+    // while the characters are capital letters or blanks.
     const QString upper = heading.toUpper();
     const qsizetype start = upper.indexOf(u' ') + 2; // 1-based; 1 when there is no blank
+    auto isLocationChar = [](QChar c) { return (c >= u'A' && c <= u'Z') || c == u' '; };
     qsizetype taken = 0;
     while (start + taken < upper.size()) {
-        const QChar c = upper.at(start + taken - 1);
-        if (!((c >= u'A' && c <= u'Z') || c == u' '))
+        if (!isLocationChar(upper.at(start + taken - 1)))
             break;
         ++taken;
     }
     m_position = taken;
-    const QString location = TrimImportLine(CopyChars(upper, start, taken));
+    // The earlier edition's scan took a character only while another followed it, so
+    // a location that ran to the end of the heading lost its last letter ("EXT. BARN"
+    // gave BAR). This program keeps the whole word: the last character is taken too
+    // when the scan reached it. The carried-over position above stays as it was.
+    qsizetype length = taken;
+    if (start >= 1 && start + taken == upper.size() && isLocationChar(upper.back()))
+        ++length;
+    const QString location = TrimImportLine(CopyChars(upper, start, length));
     row.set(StripField::Location, location);
     // The scene editor's list: not when the location is part of one already listed.
     if (!m_doc.locationPickList.join(QStringLiteral("\r\n")).contains(location))
@@ -155,22 +160,20 @@ bool FinalDraftReader::readCharacter(int strip, const QString &line)
     const QString name = TrimImportLine(paren >= 0 ? line.left(paren) : line);
     const QString upperName = name.toUpper();
 
-    // The test for a known character compares the name with the first character of
-    // one field of element row 1 per existing element (description, category,
-    // board flag, board id, person ...), so nearly every name counts as new; from
-    // five elements on it reaches the empty person field and the import stops with the
-    // read error. This is how the reader has always behaved with Final Draft reports,
-    // and it is kept.
+    // A name is new when no cast element has it yet, compared in capitals. The earlier
+    // edition compared the name with the first character of one field of element row
+    // 1 per existing element, so nearly every name counted as new and, from five
+    // elements on, the import stopped with the read error: no script with five or more
+    // characters could be imported. This program compares with the cast elements'
+    // names instead.
     bool isNew = true;
-    const ElementRecord &firstElement = m_doc.elements[1];
-    for (int field = 0; field < m_doc.elements.count(); ++field) {
-        if (field >= ElementFieldCount)
-            return false;
-        const QString &value = firstElement.at(field);
-        if (value.isEmpty())
-            return false;
-        if (upperName == value.left(1).toUpper())
+    for (int j = 1; j <= m_doc.elements.count(); ++j) {
+        const ElementRecord &element = m_doc.elements[j];
+        if (element[ElementField::CategoryNumber] == QLatin1String("1") &&
+            element[ElementField::Description].toUpper() == upperName) {
             isNew = false;
+            break;
+        }
     }
     if (isNew) {
         ElementRecord element;

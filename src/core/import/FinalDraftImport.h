@@ -27,7 +27,10 @@ inline constexpr const char *FinalDraftLengthErrorText = "Error converting scene
 // A length line without a marker shows FinalDraftNoLengthText and ends the reading
 // of lengths; a length that is no number shows FinalDraftLengthErrorText and gives
 // the scene one eighth. Both still end in a modified document with strip 1 selected.
-// A file that cannot be read, or the character fault described in the source, shows
+// A character name is new when no cast element has it yet; every new name becomes a
+// cast element, and a location keeps its last letter.
+//
+// A file that cannot be read shows
 // FinalDraftReadErrorText and fails: what was written until then stays (with the
 // strip count as far as it had grown) and the document is not marked modified.
 Result ImportFinalDraft(ScheduleDocument &doc, const QString &sceneReportPath, const QString &scriptReportPath);

@@ -1,11 +1,10 @@
 #include "import/ScriptImport.h"
 
 #include "import/ImportText.h"
+#include "import/ImportedStrips.h"
 
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-
-#include <QHash>
 
 #include <cmath>
 
@@ -152,12 +151,10 @@ public:
         , m_day(Upper(settings.dayWords, QStringLiteral(" ")))
         , m_night(Upper(settings.nightWords, QStringLiteral(" ")))
         , m_ignore(Upper(settings.ignoreWords))
+        , m_strips(doc)
     {}
 
     bool run();
-    // Scenes and cast names that did not fit into the tables and were left out.
-    int scenesLeftOut() const { return m_scenesLeftOut; }
-    int castLeftOut() const { return m_castLeftOut; }
 
 private:
     bool readHeading(int i, QString line, const QString &intExt);
@@ -171,15 +168,9 @@ private:
     const QStringList m_night;
     const QStringList m_ignore;
 
-    int m_strip = 1;       // the row the next heading fills
-    int m_start = 1;       // line index of the last heading
-    int m_sceneNumber = 1; // the next scene number given out
+    ImportedStrips m_strips;
+    int m_start = 1; // line index of the last heading
     int m_percent = -1;
-    int m_scenesLeftOut = 0;
-    int m_castLeftOut = 0;
-    // Element rows by name, for the two lookups of a cue: any letter case, and exact.
-    QHash<QString, int> m_byFoldedName;
-    QHash<QString, int> m_byName;
 };
 
 bool ScriptImporter::run()
@@ -208,106 +199,68 @@ bool ScriptImporter::run()
     // The last scene runs to the end of the script. Its length keeps the raw fraction
     // of a page, without the rounding to eighths and the one-eighth minimum of the
     // other scenes; schedules imported so far carry such lengths, so it stays.
-    if (m_strip > 1 && m_scenesLeftOut == 0)
-        m_doc.strips[m_strip - 1].set(StripField::PageLength,
-                                      legacy::FloatToText(double(lineCount - m_start) / m_settings.linesPerPage));
-    m_doc.strips.setCount(m_strip - 1);
+    if (m_strips.lastScene() > 0 && m_strips.scenesLeftOut() == 0)
+        m_strips.setLength(m_strips.lastScene(), double(lineCount - m_start) / m_settings.linesPerPage);
+    m_strips.finish();
     return true;
 }
 
 bool ScriptImporter::readHeading(int i, QString line, const QString &intExt)
 {
-    // A script longer than the strip table keeps the scenes that fit; the rest are
-    // counted and named in a message afterwards. (The earlier edition gave up with
-    // "Error with import procedure." and kept no scene at all.)
-    if (m_strip > MaxStrips) {
-        if (m_scenesLeftOut++ == 0)
-            m_doc.strips[MaxStrips].set(StripField::PageLength,
-                                        legacy::FloatToText(SceneLength(i - m_start, m_settings.linesPerPage)));
-        return true;
-    }
-
     // Time of day. Night words first, then day words; each hit cuts the line from its
     // blank (up to 99 characters), so a day word standing before a night word wins.
-    QLatin1StringView dayNight("?");
+    ImportedScene scene;
+    scene.intExt = intExt;
     for (const QString &word : m_night) {
         const qsizetype at = line.indexOf(word);
         if (at >= 0) {
-            dayNight = QLatin1StringView("N");
+            scene.dayNight = QStringLiteral("N");
             line.remove(at, 99);
         }
     }
     for (const QString &word : m_day) {
         const qsizetype at = line.indexOf(word);
         if (at >= 0) {
-            dayNight = QLatin1StringView("D");
+            scene.dayNight = QStringLiteral("D");
             line.remove(at, 99);
         }
     }
 
-    // The previous scene ends here.
-    if (m_strip > 1)
-        m_doc.strips[m_strip - 1].set(StripField::PageLength,
-                                      legacy::FloatToText(SceneLength(i - m_start, m_settings.linesPerPage)));
+    // The previous scene ends here (unless it was the last that fit).
+    if (m_strips.lastScene() > 0 && m_strips.scenesLeftOut() == 0)
+        m_strips.setLength(m_strips.lastScene(), SceneLength(i - m_start, m_settings.linesPerPage));
 
     // Location: what is left, without trailing characters that are not capital
     // letters ("KITCHEN -" gives KITCHEN). A scene number in front stays.
     while (line.size() > 1 && !IsCapitalLetter(line.back()))
         line.chop(1);
-    const QString location = TrimImportLine(line);
-
-    StripRecord &row = m_doc.strips[m_strip];
-    row.clear();
-    row.set(StripField::DayNight, dayNight);
-    row.set(StripField::IntExt, intExt);
-    row.set(StripField::ScriptPage, QStringLiteral("0"));
-    row.set(StripField::StripKind, StripKinds::Scene);
-    row.set(StripField::StripId, QString::number(++m_doc.values.NextStripId));
-    row.set(StripField::Synopsis, QString());
-    // The heading's line in the script, kept with the strip.
-    row.set(StripField::Reserved8, QString::number(i));
-    row.set(StripField::SceneNumber, QString::number(m_sceneNumber++));
-    row.set(StripField::Location, location);
-    m_doc.locationPickList.append(location);
-
-    m_doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("Import progress : ") +
-                                                              QString::number(m_sceneNumber) + QStringLiteral(" - ") +
-                                                              location);
-    ++m_strip;
+    scene.location = TrimImportLine(line);
+    // Plain text has no page numbers the import could trust, and scenes are numbered
+    // in the order their headings come.
+    scene.sceneNumber = QString::number(m_strips.lastScene() + 1);
+    scene.headingLine = i;
+    if (!m_strips.addScene(scene))
+        return false;
     m_start = i;
     return true;
 }
 
 bool ScriptImporter::readCue(const QString &line)
 {
-    // Cues of scenes that were left out make no elements.
-    if (m_scenesLeftOut > 0 || !LooksLikeCue(line) || IsIgnored(line.toUpper(), m_ignore))
+    if (!LooksLikeCue(line) || IsIgnored(line.toUpper(), m_ignore))
         return true;
     const QString name = CharacterName(line);
-    const QString folded = name.toCaseFolded();
-    if (!m_byFoldedName.contains(folded)) {
-        ElementRecord element;
-        element.set(ElementField::Description, name);
-        element.set(ElementField::CategoryNumber, QStringLiteral("1"));
-        element.set(ElementField::PrintOnBoard, QStringLiteral("1"));
-        element.set(ElementField::HoldRule, QString());
-        element.set(ElementField::PersonName, QString());
-        element.set(ElementField::BoardId, QString::number(m_doc.elements.count() + 1));
-        if (!m_doc.elements.append(element)) {
-            // The element table is full: the name is left out and counted.
-            ++m_castLeftOut;
-            m_byFoldedName.insert(folded, 0);
-            return true;
-        }
-        m_byFoldedName.insert(folded, m_doc.elements.count());
-        m_byName.insert(name, m_doc.elements.count());
-    }
+    const int cast = m_strips.castElement(name);
+    if (cast == 0)
+        return false;
+    if (cast < 0)
+        return true; // left out: the tables are full
     // Assigned to the scene of the last heading; a cue before the first heading makes
     // the element and assigns it nowhere. A character who speaks twice in a scene is
     // assigned twice; AddAssignment decides whether the list then holds it twice.
-    const int element = m_byName.value(name, 0);
-    if (element > 0 && m_strip > 1)
-        AddAssignment(m_doc, m_strip - 1, element);
+    const int element = m_strips.exactElement(name);
+    if (element > 0 && m_strips.lastScene() > 0)
+        AddAssignment(m_doc, m_strips.lastScene(), element);
     return true;
 }
 
@@ -324,42 +277,21 @@ void ScriptImporter::showProgress(int i)
 
 Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImportSettings &settings)
 {
-    doc.status().setProgress(0);
-    NewDocument(doc);
-    doc.values.NextStripId = 0;
+    ImportedStrips::begin(doc);
 
     doc.status().setBusy(true);
     bool ok = settings.linesPerPage >= 1;
-    QString leftOut;
     if (ok) {
         ScriptImporter importer(doc, lines, settings);
         ok = importer.run();
-        if (importer.scenesLeftOut() > 0)
-            leftOut += QStringLiteral("The schedule can hold at most %1 strips: the first %1 scenes were imported "
-                                      "and the last %2 scenes were left out.")
-                           .arg(MaxStrips)
-                           .arg(importer.scenesLeftOut());
-        if (importer.castLeftOut() > 0) {
-            if (!leftOut.isEmpty())
-                leftOut += QStringLiteral("\r\r");
-            leftOut += QStringLiteral("The schedule can hold at most %1 elements: %2 cast names were left out.")
-                           .arg(MaxElements)
-                           .arg(importer.castLeftOut());
-        }
     }
-    if (ok)
-        doc.view().scrollToStrip(1);
     // The normal cursor comes back before a message can show.
     doc.status().setBusy(false);
     if (!ok)
         doc.prompter().error(QString::fromLatin1(ScriptImportErrorText));
-    else if (!leftOut.isEmpty())
-        doc.prompter().warning(leftOut);
 
     // Success or not, the document now differs from any file and the board shows it.
-    SetModified(doc);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
+    EndScriptImport(doc, ok);
     return ok ? Result::success() : Result::failure(QString::fromLatin1(ScriptImportErrorText));
 }
 

@@ -1,4 +1,6 @@
 #include "ui/import/TfrmFDImport.h"
+
+#include "import/ImportSummary.h"
 #include "ui/shell/HelpWindow.h"
 
 #include "import/FinalDraftImport.h"
@@ -74,6 +76,8 @@ void TfrmFDImport::ImportButClick()
     setCursor(Qt::WaitCursor);
     const Result imported = ImportFinalDraft(m_doc, ui->SceneEdit->text(), ui->ScriptEdit->text());
     unsetCursor();
+    if (imported)
+        m_doc.prompter().information(SummarizeImport(m_doc).text());
     // The dialog closes either way; a failure has been shown to the user.
     done(imported ? QDialog::Accepted : QDialog::Rejected);
 }

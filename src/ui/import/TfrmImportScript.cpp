@@ -1,6 +1,10 @@
 #include "ui/import/TfrmImportScript.h"
 #include "ui/shell/HelpWindow.h"
 
+#include "import/CharacterReview.h"
+#include "import/FdxImport.h"
+#include "import/FountainImport.h"
+#include "import/ImportSummary.h"
 #include "import/ImportText.h"
 #include "ui_TfrmImportScript.h"
 
@@ -9,6 +13,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileSystemModel>
 #include <QFontDialog>
 #include <QInputDialog>
@@ -125,6 +130,11 @@ TfrmImportScript::TfrmImportScript(ScheduleDocument &doc, QWidget *parent)
     connect(ui->BadDelBut, &QToolButton::clicked, this, [this] { removeWord(ui->BadList); });
     for (QListWidget *list : {ui->DayList, ui->NightList, ui->BadList})
         connect(list, &QListWidget::itemDoubleClicked, this, &TfrmImportScript::editWord);
+
+    connect(ui->AcceptCharBut, &QPushButton::clicked, this, [this] { setReviewTicks(true); });
+    connect(ui->IgnoreCharBut, &QPushButton::clicked, this, [this] { setReviewTicks(false); });
+    connect(ui->KeepAllBut, &QPushButton::clicked, this, [this] { finishReview(true); });
+    ui->CharacterList->setSelectionMode(QAbstractItemView::ExtendedSelection);
 }
 
 TfrmImportScript::~TfrmImportScript() = default;
@@ -140,6 +150,16 @@ QString TfrmImportScript::selectedFile() const
     if (selected.isEmpty())
         return QString();
     return QDir(m_directory).filePath(selected.first()->text());
+}
+
+TfrmImportScript::ScriptKind TfrmImportScript::scriptKind() const
+{
+    const QString file = selectedFile();
+    if (file.endsWith(QLatin1String(".fdx"), Qt::CaseInsensitive))
+        return ScriptKind::FinalDraft;
+    if (file.endsWith(QLatin1String(".fountain"), Qt::CaseInsensitive) || ui->FountainCheck->isChecked())
+        return ScriptKind::Fountain;
+    return ScriptKind::PlainText;
 }
 
 ScriptImportSettings TfrmImportScript::settings() const
@@ -174,11 +194,23 @@ void TfrmImportScript::FormShow()
 
 void TfrmImportScript::NextButClick()
 {
+    if (currentStep() == ReviewStep) {
+        finishReview(false);
+        return;
+    }
     const bool importNow = ui->NextBut->text() == ImportCaption;
     int step = currentStep();
     const bool advanced = step < LastStep;
-    if (advanced)
+    if (advanced && step == 1 && scriptKind() != ScriptKind::PlainText) {
+        // Fountain and Final Draft scripts are paginated by the import: the pages for
+        // the line count and the font are skipped.
+        if (!loadScript())
+            return;
+        step = LastStep;
+        ui->Notebook->setCurrentIndex(step);
+    } else if (advanced) {
         ui->Notebook->setCurrentIndex(++step);
+    }
     if (importNow) {
         runImport();
         return;
@@ -192,6 +224,8 @@ void TfrmImportScript::NextButClick()
 void TfrmImportScript::BackButClick()
 {
     int step = currentStep();
+    if (step == LastStep && scriptKind() != ScriptKind::PlainText)
+        step = 2; // back over the skipped pages to the file page
     if (step > 0)
         ui->Notebook->setCurrentIndex(--step);
     if (step == 0)
@@ -212,12 +246,33 @@ bool TfrmImportScript::loadScript()
         m_doc.prompter().error(QStringLiteral("You must select a txt file in the right side box before continuing"));
         return false;
     }
-    ResultOf<QStringList> lines = ReadScriptFile(path);
-    if (!lines) {
-        m_doc.prompter().error(lines.message());
-        return false;
+    if (scriptKind() == ScriptKind::FinalDraft) {
+        // The script is read now, so that a file that is no Final Draft script is
+        // refused before anything else is asked.
+        QFile file(path);
+        QString reason;
+        ResultOf<ScreenplayText> script = ResultOf<ScreenplayText>::failure(QString());
+        if (file.open(QIODevice::ReadOnly))
+            script = ParseFdx(file.readAll());
+        else
+            script = ResultOf<ScreenplayText>::failure(file.errorString());
+        if (!script) {
+            m_doc.prompter().error(QString::fromLatin1(FdxReadErrorText) + QStringLiteral("\r\r") + path +
+                                   QStringLiteral(": ") + script.message());
+            return false;
+        }
+        m_fdx = script.value();
+        m_lines.clear();
+        for (const ScreenplayParagraph &p : m_fdx.paragraphs)
+            m_lines.append(p.text);
+    } else {
+        ResultOf<QStringList> lines = ReadScriptFile(path);
+        if (!lines) {
+            m_doc.prompter().error(lines.message());
+            return false;
+        }
+        m_lines = lines.value();
     }
-    m_lines = lines.value();
     ui->ImportEdit->setPlainText(m_lines.join(u'\n'));
     ui->ImportEdit->selectAll();
     return true;
@@ -270,7 +325,9 @@ void TfrmImportScript::fillFileList()
         ui->FileListBox1->selectedItems().isEmpty() ? QString() : ui->FileListBox1->selectedItems().first()->text();
     ui->FileListBox1->clear();
     const QStringList files =
-        QDir(m_directory).entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+        QDir(m_directory)
+            .entryList({QStringLiteral("*.txt"), QStringLiteral("*.fountain"), QStringLiteral("*.fdx")}, QDir::Files,
+                       QDir::Name | QDir::IgnoreCase);
     ui->FileListBox1->addItems(files);
     if (!selected.isEmpty()) {
         const QList<QListWidgetItem *> again = ui->FileListBox1->findItems(selected, Qt::MatchExactly);
@@ -316,14 +373,94 @@ void TfrmImportScript::runImport()
     ui->BackBut->setEnabled(false);
     ui->CancelBut->setEnabled(false);
     StatusSink &main = m_doc.status();
+    Result imported = Result::success();
     {
         WizardStatus status(main, ui->PBar, ui->ImportLab);
         m_doc.setStatusSink(&status);
-        (void)DoImport(m_doc, m_lines, settings()); // a failure has been shown to the user
+        switch (scriptKind()) {
+        case ScriptKind::PlainText:
+            imported = DoImport(m_doc, m_lines, settings());
+            break;
+        case ScriptKind::Fountain:
+            imported = ImportFountain(m_doc, m_lines, settings());
+            break;
+        case ScriptKind::FinalDraft:
+            imported = BuildScheduleFromScreenplay(m_doc, m_fdx, settings());
+            break;
+        }
         m_doc.setStatusSink(&main);
     }
     ui->CancelBut->setEnabled(true);
+    if (!imported) {
+        accept(); // the failure has been shown to the user
+        return;
+    }
+    showReview();
+}
+
+void TfrmImportScript::showReview()
+{
+    const QList<ReviewedCharacter> cast = ReviewCharacters(m_doc);
+    if (cast.isEmpty()) {
+        showSummary({});
+        accept();
+        return;
+    }
+    ui->CharacterList->clear();
+    for (const ReviewedCharacter &c : cast) {
+        auto *item = new QTreeWidgetItem(ui->CharacterList);
+        item->setText(0, c.name);
+        item->setText(1, QString::number(c.scenes));
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        item->setText(2, c.doubt);
+        item->setCheckState(0, c.doubt.isEmpty() ? Qt::Checked : Qt::Unchecked);
+        item->setData(0, Qt::UserRole, c.element);
+    }
+    ui->CharacterList->resizeColumnToContents(0);
+    ui->CharacterList->resizeColumnToContents(1);
+    ui->Notebook->setCurrentIndex(ReviewStep);
+    // The schedule is made: there is no going back, and closing keeps everything.
+    ui->BackBut->setEnabled(false);
+    ui->CancelBut->setEnabled(false);
+    ui->NextBut->setEnabled(true);
+    ui->NextBut->setText(ImportCaption);
+}
+
+void TfrmImportScript::setReviewTicks(bool keep)
+{
+    for (QTreeWidgetItem *item : ui->CharacterList->selectedItems())
+        item->setCheckState(0, keep ? Qt::Checked : Qt::Unchecked);
+}
+
+void TfrmImportScript::finishReview(bool keepAll)
+{
+    QList<int> ignored;
+    if (!keepAll) {
+        for (int k = 0; k < ui->CharacterList->topLevelItemCount(); ++k) {
+            const QTreeWidgetItem *item = ui->CharacterList->topLevelItem(k);
+            if (item->checkState(0) != Qt::Checked)
+                ignored.append(item->data(0, Qt::UserRole).toInt());
+        }
+    }
+    const QStringList dropped = RemoveCharacters(m_doc, ignored);
+    ui->CancelBut->setEnabled(true);
+    showSummary(dropped);
     accept();
+}
+
+void TfrmImportScript::showSummary(const QStringList &dropped)
+{
+    m_doc.prompter().information(SummarizeImport(m_doc, dropped).text());
+}
+
+void TfrmImportScript::reject()
+{
+    // Closing the review keeps every character, as Keep all does.
+    if (currentStep() == ReviewStep) {
+        finishReview(true);
+        return;
+    }
+    QDialog::reject();
 }
 
 } // namespace tb

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/ScreenplayText.h"
 #include "import/ScriptImport.h"
 
 #include <QDialog>
@@ -24,8 +25,12 @@ class ScheduleDocument;
 
 // The script import wizard: five pages that ask for the script file, the lines on a
 // printed page, the font of the printed script and the words of scene headings and
-// cues, then build a new schedule from the script (DoImport). The word lists are kept
-// while the program runs; the dialog is created once and shown for every import.
+// cues, then build a new schedule from the script (DoImport; ImportFountain and the
+// .fdx import for those files, which skip the line and font pages). A review page
+// follows the import: the characters found, doubtful names unticked; Import! removes
+// the unticked ones, Keep all keeps everything. A summary ends every import. The word
+// lists are kept while the program runs; the dialog is created once and shown for
+// every import.
 class TfrmImportScript : public QDialog
 {
     Q_OBJECT
@@ -35,6 +40,13 @@ public:
     ~TfrmImportScript() override;
 
     static constexpr int LastStep = 4;
+    // The page that reviews the characters after the import.
+    static constexpr int ReviewStep = 6;
+
+    // What the selected file holds: formatted plain text, Fountain (a .fountain file,
+    // or a .txt file the user marks so) or a Final Draft script (.fdx).
+    enum class ScriptKind { PlainText, Fountain, FinalDraft };
+    ScriptKind scriptKind() const;
     static constexpr const char *HelpPage = "import-script.html";
 
     // Asked when Import! is clicked, before the document is emptied; false keeps the
@@ -57,6 +69,9 @@ public:
 Q_SIGNALS:
     void helpRequested(const QString &page);
 
+public Q_SLOTS:
+    void reject() override;
+
 protected:
     void showEvent(QShowEvent *event) override;
 
@@ -74,12 +89,17 @@ private:
     void editWord(QListWidgetItem *item);
     void removeWord(QListWidget *list);
     void runImport();
+    void showReview();
+    void setReviewTicks(bool keep);
+    void finishReview(bool keepAll);
+    void showSummary(const QStringList &dropped);
 
     ScheduleDocument &m_doc;
     std::unique_ptr<Ui::TfrmImportScript> ui;
     QFileSystemModel *m_folders = nullptr;
     QString m_directory;
     QStringList m_lines;
+    ScreenplayText m_fdx; // the .fdx script as read when its file was chosen
 };
 
 } // namespace tb

@@ -191,6 +191,7 @@ private slots:
             {"board png", {"board", example, "--width", "800", "--height", "600", "-o"}, "out.png"},
             {"board pdf", {"board", example, "--width", "800", "--height", "600", "-o"}, "out.pdf"},
             {"report pdf", {"report", "schedule", example, "-o"}, "out.pdf"},
+            {"export csv", {"export", example, "-o"}, "out.csv"},
         };
         QList<std::pair<const char *, Fault>> faults = Faults;
         faults.append({"killed part-way", {"kill", 0, 2048}});

@@ -1,11 +1,13 @@
 #include "ImportTestSupport.h"
 
 #include "document/DocumentOperations.h"
+#include "import/FdxImport.h"
 #include "import/FinalDraftImport.h"
 #include "ui/import/TfrmFDImport.h"
 #include "ui/import/TfrmImportScript.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -21,6 +23,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
+#include <QTreeWidget>
 
 using namespace tb;
 using namespace tb::test;
@@ -38,6 +41,19 @@ struct ScriptFolder
         write("kitchen.txt", "FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n          MARY\n    Tea?\n\n"
                              "EXT. BARN - DAY\n\n          JOHN\n    Later.\n");
         write("B-SIDE.TXT", "EXT. ROAD - DAY\n");
+        // Page numbers and a line of action in capitals: junk for the review.
+        write("junk.txt", "INT. KITCHEN - NIGHT\n\n          MARY\n    Tea?\n\n2.\n\nA RIVER.\n\n"
+                          "EXT. BARN - DAY\n\n          JOHN\n    Later.\n\n          MARY\n    Now.\n\n3.\n");
+        write("heist.fountain", "Title: The Heist\n\nINT. VAULT - NIGHT #7#\n\nAlarms.\n\nMARY\nGo.\n\n"
+                                "EXT. ROOF - DAY #8#\n\nJOHN\nJump.\n");
+        write("heist.fdx", "<?xml version=\"1.0\"?><FinalDraft DocumentType=\"Script\"><Content>"
+                           "<Paragraph Type=\"Scene Heading\" Number=\"7\"><Text>INT. VAULT - NIGHT</Text></Paragraph>"
+                           "<Paragraph Type=\"Character\"><Text>MARY</Text></Paragraph>"
+                           "<Paragraph Type=\"Dialogue\"><Text>Go.</Text></Paragraph>"
+                           "<Paragraph Type=\"Scene Heading\" Number=\"8\"><Text>EXT. ROOF - DAY</Text></Paragraph>"
+                           "<Paragraph Type=\"Character\"><Text>JOHN</Text></Paragraph>"
+                           "<Paragraph Type=\"Dialogue\"><Text>Jump.</Text></Paragraph></Content></FinalDraft>");
+        write("bad.fdx", "INT. VAULT - NIGHT\n");
         write("notes.pdf", "%PDF");
         write("report.text", "x");
         QDir(dir.path()).mkdir("drafts");
@@ -96,6 +112,11 @@ private Q_SLOTS:
     void wizardUnreadableFileAndCancel();
     void wizardFont();
     void wizardWordLists();
+    void wizardScreenplayFiles_data();
+    void wizardScreenplayFiles();
+    void wizardNotAnFdx();
+    void wizardReview_data();
+    void wizardReview();
     void finalDraftDialog();
 };
 
@@ -169,8 +190,9 @@ void TestImportDialogs::wizardFileList()
     ScheduleDocument doc;
     TfrmImportScript wizard(doc);
     wizard.setDirectory(folder.dir.path());
-    // Text files only, whatever the case of the extension.
-    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")), (QStringList{"B-SIDE.TXT", "kitchen.txt"}));
+    // Text, Fountain and Final Draft files only, whatever the case of the extension.
+    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")),
+             (QStringList{"B-SIDE.TXT", "bad.fdx", "heist.fdx", "heist.fountain", "junk.txt", "kitchen.txt"}));
     QCOMPARE(wizard.selectedFile(), QString());
 
     // Choosing a folder in the tree lists its files.
@@ -180,7 +202,7 @@ void TestImportDialogs::wizardFileList()
     QCOMPARE(tree->currentIndex().data().toString(), QStringLiteral("drafts"));
     tree->setCurrentIndex(tree->currentIndex().parent());
     QCOMPARE(wizard.directory(), folder.dir.path());
-    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")).size(), 2);
+    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")).size(), 6);
 }
 
 void TestImportDialogs::wizardUnreadableFileAndCancel()
@@ -301,6 +323,146 @@ void TestImportDialogs::wizardWordLists()
     QCOMPARE(wizard.settings().nightWords, s.nightWords);
 }
 
+void TestImportDialogs::wizardScreenplayFiles_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("markedFountain");
+    QTest::newRow("Fountain") << "heist.fountain" << false;
+    QTest::newRow("Final Draft") << "heist.fdx" << false;
+    QTest::newRow("txt marked as Fountain") << "heist.txt" << true;
+}
+
+void TestImportDialogs::wizardScreenplayFiles()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, markedFountain);
+    ScriptFolder folder;
+    QFile::copy(folder.path("heist.fountain"), folder.path("heist.txt"));
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
+    TfrmImportScript wizard(doc);
+    wizard.setDirectory(folder.dir.path());
+    wizard.show();
+    auto *next = child<QPushButton>(&wizard, "NextBut");
+    Click(&wizard, "NextBut");
+    SelectFile(wizard, file);
+    child<QCheckBox>(&wizard, "FountainCheck")->setChecked(markedFountain);
+
+    // The line and font pages are skipped both ways.
+    Click(&wizard, "NextBut");
+    QCOMPARE(wizard.currentStep(), 4);
+    QCOMPARE(next->text(), QStringLiteral("Import!"));
+    Click(&wizard, "BackBut");
+    QCOMPARE(wizard.currentStep(), 1);
+    Click(&wizard, "NextBut");
+    QCOMPARE(wizard.currentStep(), 4);
+    QVERIFY(child<QPlainTextEdit>(&wizard, "ImportEdit")->toPlainText().contains("VAULT"));
+
+    Click(&wizard, "NextBut");
+    QCOMPARE(wizard.currentStep(), int(TfrmImportScript::ReviewStep));
+    QCOMPARE(doc.strips.count(), 2);
+    QCOMPARE(doc.strips[1][StripField::SceneNumber], QStringLiteral("7"));
+    QCOMPARE(doc.strips[2][StripField::SceneNumber], QStringLiteral("8"));
+    QCOMPARE(Cast(doc), (QStringList{"MARY", "JOHN"}));
+    QVERIFY(prompter.prompts.isEmpty());
+    Click(&wizard, "NextBut");
+    QVERIFY(!wizard.isVisible());
+    QCOMPARE(prompter.prompts.size(), 1);
+    QCOMPARE(prompter.prompts.first().kind, MessageKind::Information);
+    QVERIFY(prompter.texts().first().startsWith("Imported 2 scenes, 2 characters,"));
+}
+
+void TestImportDialogs::wizardNotAnFdx()
+{
+    ScriptFolder folder;
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
+    TfrmImportScript wizard(doc);
+    wizard.setDirectory(folder.dir.path());
+    wizard.show();
+    Click(&wizard, "NextBut");
+    SelectFile(wizard, "bad.fdx");
+    Click(&wizard, "NextBut");
+    QCOMPARE(wizard.currentStep(), 1);
+    QCOMPARE(prompter.prompts.size(), 1);
+    QVERIFY(prompter.texts().first().startsWith(QString::fromLatin1(FdxReadErrorText)));
+}
+
+void TestImportDialogs::wizardReview_data()
+{
+    QTest::addColumn<QString>("finish");
+    QTest::addColumn<QStringList>("cast");
+    QTest::addColumn<QStringList>("assignments");
+    QTest::addColumn<QString>("dropped");
+    // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
+    QTest::newRow("Import! removes the unticked") << "NextBut" << QStringList{"Mary", "John"} << QStringList{"1", "2,1"}
+                                                  << "Dropped in the review: 2., A river., 3..";
+    QTest::newRow("Keep all keeps the text import's result")
+        << "KeepAllBut" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
+    QTest::newRow("closing keeps all too")
+        << "close" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
+    QTest::newRow("Ignore character on a name")
+        << "ignore" << QStringList{"John"} << QStringList{"", "1"} << "Dropped in the review: Mary, 2., A river., 3..";
+}
+
+void TestImportDialogs::wizardReview()
+{
+    QFETCH(QString, finish);
+    QFETCH(QStringList, cast);
+    QFETCH(QStringList, assignments);
+    QFETCH(QString, dropped);
+    ScriptFolder folder;
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    doc.setPrompter(&prompter);
+    TfrmImportScript wizard(doc);
+    wizard.setDirectory(folder.dir.path());
+    wizard.show();
+    Click(&wizard, "NextBut");
+    SelectFile(wizard, "junk.txt");
+    for (int k = 0; k < 4; ++k)
+        Click(&wizard, "NextBut");
+    QCOMPARE(wizard.currentStep(), int(TfrmImportScript::ReviewStep));
+    QVERIFY(!child<QPushButton>(&wizard, "BackBut")->isEnabled());
+    QVERIFY(!child<QPushButton>(&wizard, "CancelBut")->isEnabled());
+
+    auto *list = child<QTreeWidget>(&wizard, "CharacterList");
+    QStringList shown;
+    QList<Qt::CheckState> ticks;
+    for (int k = 0; k < list->topLevelItemCount(); ++k) {
+        shown << list->topLevelItem(k)->text(0) + u' ' + list->topLevelItem(k)->text(1);
+        ticks << list->topLevelItem(k)->checkState(0);
+    }
+    QCOMPARE(shown, (QStringList{"Mary 2", "2. 1", "A river. 1", "John 1", "3. 1"}));
+    QCOMPARE(ticks, (QList<Qt::CheckState>{Qt::Checked, Qt::Unchecked, Qt::Unchecked, Qt::Checked, Qt::Unchecked}));
+
+    if (finish == "ignore") {
+        list->setCurrentItem(list->topLevelItem(0));
+        Click(&wizard, "IgnoreCharBut");
+        list->setCurrentItem(list->topLevelItem(3));
+        Click(&wizard, "IgnoreCharBut");
+        Click(&wizard, "AcceptCharBut");
+        Click(&wizard, "NextBut");
+    } else if (finish == "close") {
+        wizard.close();
+    } else {
+        Click(&wizard, qPrintable(finish));
+    }
+    QVERIFY(!wizard.isVisible());
+    QCOMPARE(wizard.result(), int(QDialog::Accepted));
+    QCOMPARE(Cast(doc), cast);
+    QCOMPARE(doc.strips[1][StripField::Assignments], assignments.at(0));
+    QCOMPARE(doc.strips[2][StripField::Assignments], assignments.at(1));
+    QCOMPARE(prompter.prompts.size(), 1);
+    const QString summary = prompter.texts().first();
+    QVERIFY(summary.startsWith(QStringLiteral("Imported 2 scenes, %1 character").arg(cast.size())));
+    QCOMPARE(summary.contains("Dropped"), !dropped.isEmpty());
+    if (!dropped.isEmpty())
+        QVERIFY2(summary.endsWith(dropped), qPrintable(summary));
+}
+
 void TestImportDialogs::finalDraftDialog()
 {
     ScheduleDocument doc;
@@ -331,7 +493,10 @@ void TestImportDialogs::finalDraftDialog()
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(doc.strips.count(), 5);
     QVERIFY(doc.Modified);
-    QVERIFY(prompter.prompts.isEmpty());
+    // The summary of what was imported.
+    QCOMPARE(prompter.texts().value(0).section(u'\r', 0, 0),
+             QStringLiteral("Imported 5 scenes, 3 characters, 2 5/8 pages."));
+    prompter.prompts.clear();
 
     // Shown again: both names empty; the browse buttons fill them.
     dialog.show();
