@@ -20,7 +20,7 @@ Result BoardBuffer::SetBufferSize(int width, int height, qreal devicePixelRatio)
     if (pixelWidth > MaxSide || pixelHeight > MaxSide)
         return Result::failure(QStringLiteral(
             "Error with Torvanbridge display buffer. Try saving your work and re-starting the computer."));
-    const QSize pixels(int(pixelWidth), int(pixelHeight));
+    const QSize pixels{int(pixelWidth), int(pixelHeight)};
     if (m_size == QSize(width, height) && m_image.size() == pixels && m_image.devicePixelRatio() == devicePixelRatio)
         return Result::success();
     QImage image(pixels, QImage::Format_RGB32);
