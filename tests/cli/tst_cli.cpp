@@ -85,6 +85,8 @@ private Q_SLOTS:
     void reports_data();
     void reports();
     void reportTrace();
+    void checkTemplate_data();
+    void checkTemplate();
     void details();
     void exports();
 };
@@ -192,6 +194,13 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+        "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+        "--date needs a date as YYYY-MM-DD");
+    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+        "--date YYYY-MM-DD and --shot SCENE,... are required");
 }
 
 void TestCli::usageErrors()
@@ -238,6 +247,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+        "You need to enter a production start date before you can print call sheets.");
+    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
+    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+        "Scene 11 is not scheduled on 2027-04-06.");
     Row("export of a missing schedule", L{"export", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
     Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
     Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
@@ -249,10 +263,10 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board"    ? ".png"
-                                  : first == "report" ? ".pdf"
-                                  : first == "export" ? ".csv"
-                                                      : ".tbf");
+    const QString out = rowOutput(first == "board"                            ? ".png"
+                                  : first == "report" || first == "callsheet" ? ".pdf"
+                                  : first == "export"                         ? ".csv"
+                                                                              : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -421,33 +435,51 @@ void TestCli::info()
 void TestCli::board_data()
 {
     QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("settings"); // the user's Torvanbridge.ini; empty: none
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("out");   // stdout after "OUT: "
     QTest::addColumn<QPoint>("pixel");  // of the PNG
     QTest::addColumn<QString>("check"); // its colour, or what the PDF holds
 
-    // At 140% the fifth strip, a day divider, is black.
-    Row("png", L{"--scale", "1.4", "--width", "900", "--height", "700"}, "board.png",
-        "900 x 700 at 140%, strips 1-12, element rows 1-12", QPoint(280 + 4 * 56 + 28, 400 + 25 * 5 + 12), "#000000");
-    // Without a colour scheme the same divider, now first, is white.
+    // At 140% the fifth strip is a day divider, drawn with the user's divider colour.
+    const L big{"--scale", "1.4", "--width", "900", "--height", "700"};
+    const QPoint divider(280 + 4 * 56 + 28, 400 + 25 * 5 + 12);
+    const QByteArray redDividers("[Strips]\r\nCB7=clRed\r\n");
+    Row("preferences", big, redDividers, "board.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
+        "#ff0000");
+    Row("classic over preferences", big + L{"--colours", "classic"}, redDividers, "classic.png",
+        "900 x 700 at 140%, strips 1-12, element rows 1-12", divider, "#000000");
+    // Without preferences, or with plain colours, the same divider, now first, is white.
     Row("plain colours, scrolled",
         L{"--colours", "plain", "--first-strip", "5", "--first-element", "10", "--width", "800", "--height", "600"},
-        "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27", QPoint(200 + 20, 288 + 18 * 3 + 9),
+        redDividers, "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27",
+        QPoint(200 + 20, 288 + 18 * 3 + 9), "#ffffff");
+    Row("no preferences", big, QByteArray(), "none.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
         "#ffffff");
     // One page, 1200 x 800 pixels at 96 per inch: 900 x 600 points.
-    Row("pdf", L{"--width", "1200", "--height", "800"}, "board.pdf",
+    Row("pdf", L{"--width", "1200", "--height", "800"}, QByteArray(), "board.pdf",
         "1200 x 800 at 100%, strips 1-25, element rows 1-29", QPoint(), "/MediaBox [0 0 900.000000 600.000000]");
 }
 
 void TestCli::board()
 {
     QFETCH(QStringList, options);
+    QFETCH(QByteArray, settings);
     QFETCH(QString, file);
     QFETCH(QString, out);
     QFETCH(QPoint, pixel);
     QFETCH(QString, check);
+    // The test runner's private configuration folder stands for the user's.
+    const QString ini = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini";
+    QFile::remove(ini);
+    if (!settings.isEmpty()) {
+        QDir().mkpath(qEnvironmentVariable("XDG_CONFIG_HOME"));
+        QFile f(ini);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(settings) == settings.size());
+    }
     const QString path = TempPath(file);
     const CliRun run = RunCli(L{"board", Example, "-o", path} + options);
+    QFile::remove(ini);
     QCOMPARE(run.code, 0);
     QCOMPARE(run.out, path + ": " + out + u'\n');
     if (file.endsWith(".pdf")) {
@@ -490,7 +522,43 @@ void TestCli::reportTrace()
     QCOMPARE(lines.at(0), QStringLiteral("AddNamedValue(PictureField) = \"Harbour Lights\""));
     // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
     QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
-    QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    // The closing line of every report, then this program's own values after it.
+    const qsizetype end = lines.indexOf(QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    QVERIFY(end > 0);
+    QCOMPARE(lines.mid(end + 1, 2), QStringList({"AddNamedValue(TotalsField) = 1 shooting day, 4 scenes, 4 6/8 pages",
+                                                 "AddNamedValue(TitleField) = Harbour Lights"}));
+}
+
+void TestCli::checkTemplate_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
+    const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
+    QTest::newRow("fields checked") << head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
+                                              "    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "lacks DayField";
+    QTest::newRow("unfilled field") << head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "field Extra receives no value from the report";
+    QTest::newRow("mistake with line and cause")
+        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
+        << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
+}
+
+void TestCli::checkTemplate()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QDir().mkpath(TempPath(QTest::currentDataTag()));
+    const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(text);
+    f.close();
+    const CliRun run = RunCli({"check-template", path});
+    QCOMPARE(run.code, code);
+    QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
 }
 
 // Details given are set, the others kept; info --details shows them all.

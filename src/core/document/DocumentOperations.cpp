@@ -1,6 +1,8 @@
 #include "document/DocumentOperations.h"
 
+#include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
+#include "document/DocumentEdit.h"
 #include "document/LegacyText.h"
 
 #include <cmath>
@@ -8,74 +10,42 @@
 
 namespace tb {
 
-using legacy::JoinCommaText;
-using legacy::SplitCommaText;
-
 void AddAssignment(ScheduleDocument &doc, int strip, int element)
 {
     StripRecord &row = doc.strips[strip];
-    const QString &list = row[StripField::Assignments];
-    // The padded search is the program's long-standing duplicate test; see the header.
-    if (list.contains(legacy::Pad3(element)))
-        return;
-    const QString number = QString::number(element);
-    row.set(StripField::Assignments, list.isEmpty() ? number : list + u',' + number);
+    const QString list = AppendToAssignmentList(row[StripField::Assignments], element);
+    if (list != row[StripField::Assignments])
+        row.set(StripField::Assignments, list);
 }
 
 bool IsAssigned(const ScheduleDocument &doc, int strip, int element)
 {
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return false;
-    const QStringList items = SplitCommaText(list);
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            // "stip" is the program's own spelling of this message.
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            return false;
-        }
-        if (number == element)
-            return true;
-    }
+    // Items are compared in order, so an element before an unreadable item is found
+    // without a message.
+    const AssignmentRead read =
+        ReadAssignmentList(doc.strips[strip][StripField::Assignments], UnreadableItem::EndsList);
+    if (read.numbers.contains(element))
+        return true;
+    if (read.unreadable)
+        doc.prompter().error(QString::fromLatin1(AssignmentReadError));
     return false;
 }
 
 void RemoveAssignment(ScheduleDocument &doc, int strip, int element)
 {
     StripRecord &row = doc.strips[strip];
-    QStringList items = SplitCommaText(row[StripField::Assignments]);
-    for (int i = 0; i < items.size();) {
-        bool ok = false;
-        const int number = legacy::StrToInt(items.at(i), &ok);
-        if (!ok) {
-            doc.prompter().error(QStringLiteral("Error removing assignment!"));
-            return;
-        }
-        if (number == element)
-            items.removeAt(i);
-        else
-            ++i;
+    const std::optional<QString> list = RemoveFromAssignmentList(row[StripField::Assignments], element);
+    if (!list) {
+        doc.prompter().error(QString::fromLatin1(AssignmentRemoveError));
+        return;
     }
-    row.set(StripField::Assignments, JoinCommaText(items));
+    row.set(StripField::Assignments, *list);
 }
 
 QList<int> AssignedElements(const ScheduleDocument &doc, int strip)
 {
-    QList<int> numbers;
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return numbers;
-    const QStringList items = SplitCommaText(list);
-    numbers.reserve(items.size());
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (ok)
-            numbers.append(number);
-    }
-    return numbers;
+    const AssignmentRead read = ReadAssignmentList(doc.strips[strip][StripField::Assignments], UnreadableItem::Skipped);
+    return QList<int>(read.numbers.cbegin(), read.numbers.cend());
 }
 
 QString FormatPageLength(double pages)
@@ -115,37 +85,37 @@ double StartDateSerial(const ScheduleDocument &doc)
     return ok ? value : 0.0;
 }
 
-void SetModified(ScheduleDocument &doc)
+void SetModified(ScheduleDocument &doc, const DocumentChange &change)
 {
-    doc.Modified = true;
-    doc.status().setPanelText(StatusSink::ModifiedPanel, QStringLiteral("Modified"));
-    RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    DocumentEdit edit(doc);
+    if (change.firstStrip)
+        edit.scrollToStrip(*change.firstStrip);
+    if (change.scrollPositions)
+        edit.restoreScrollPositions(change.scrollPositions->first, change.scrollPositions->second);
 }
 
 void ClearModified(ScheduleDocument &doc)
 {
     doc.Modified = false;
     doc.status().setPanelText(StatusSink::ModifiedPanel, QString());
-    UpdateCommandsAndStatus(doc);
+    // The commands and the pages panel follow; the days are not recalculated.
+    doc.view().documentChanged(doc, {});
 }
 
 void NewDocument(ScheduleDocument &doc)
 {
-    // 1. Editor mode and production details. The crew list belongs to the
-    //    production details and is emptied with them.
-    doc.stripEditMode = 0;
+    // 1. Production details. The crew list belongs to the production details and is
+    //    emptied with them. (The scene editor takes its mode anew each time it opens.)
     doc.values = ProductionValues(); // also the version, zoom, call times and counters
     for (CrewRow &row : doc.crew)
         row.clear();
-    // 2. Autosave interval from the preferences.
-    doc.view().setAutosaveInterval(AutosaveIntervalMs(doc.autosaveMinutes));
+    // 2. The autosave timer starts again with the interval of the preferences.
+    doc.view().restartAutosave();
     // 3.-5. Zoom, file name, selection, rest day rule, strip serials, hold days.
     doc.FileName.clear();
     doc.SelStart = 0;
     doc.SelEnd = 0;
     doc.SelElement = -1;
-    doc.printZoom = 1.0;
     // 6. The scene editor's pick lists hold this document's values only.
     doc.locationPickList.clear();
     doc.setPickList.clear();
@@ -165,9 +135,12 @@ void NewDocument(ScheduleDocument &doc)
     doc.view().setTitle(UpdateTitle(doc));
     doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("New file."));
     doc.status().setPanelText(StatusSink::PagesPanel, QString());
-    ClearModified(doc);
+    doc.Modified = false;
+    doc.status().setPanelText(StatusSink::ModifiedPanel, QString());
     RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    // ClearModified's command update and the one after the recalculation are one
+    // notification: the views show the empty document once.
+    doc.view().documentChanged(doc, {});
 }
 
 QString UpdateTitle(const ScheduleDocument &doc)

@@ -5,6 +5,7 @@
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace tb {
@@ -16,7 +17,11 @@ QImage LoadLogo(const ScheduleDocument &doc)
         return QImage();
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    return reader.read(); // null when the file is gone or no picture: the reports print without it
+    QImage image = reader.read(); // null when the file is gone or no picture: the reports print without it
+    // The reports keep a lossless picture lossless; they need to know which it was.
+    if (!image.isNull())
+        image.setText(QStringLiteral("format"), QString::fromLatin1(reader.format()));
+    return image;
 }
 
 namespace reportdetail {
@@ -29,7 +34,11 @@ ResultOf<std::unique_ptr<ReportForm>> LoadBuilderTemplate(ScheduleDocument &doc,
         context.templatePath.isEmpty() ? TemplatePath(QString::fromLatin1(fileName)) : context.templatePath;
     ResultOf<std::unique_ptr<ReportForm>> loaded = LoadTemplate(path, context.trace);
     if (!loaded) {
-        const QString text = message(path);
+        QString text = message(path);
+        // A template that is there but does not load: where and why, so that whoever
+        // changed it can mend it.
+        if (QFileInfo(path).isFile())
+            text += QStringLiteral("\r\r") + loaded.message();
         doc.prompter().error(text);
         return Result::failure(text);
     }
@@ -68,7 +77,12 @@ ResultOf<BuiltReport> BuilderRun::load(const char *fileName, const std::function
     }
     BuiltReport built;
     built.form = std::move(loaded.value());
-    built.report().SetPicture(m_logo);
+    TAlReport &report = built.report();
+    report.SetPicture(m_logo);
+    // A PDF file of the report is titled with the production and the report, by the company.
+    const QString title = m_doc.values.PictureTitle.trimmed();
+    report.documentTitle = title.isEmpty() ? report.ReportTitle : title + QStringLiteral(" - ") + report.ReportTitle;
+    report.documentAuthor = m_doc.values.Company.trimmed();
     return built;
 }
 
@@ -88,27 +102,6 @@ void BuilderRun::finish()
     if (m_context.progress)
         m_context.progress->hideProgress();
     m_doc.status().setBusy(false);
-}
-
-QList<bool> AssignedFlags(ScheduleDocument &doc, int strip)
-{
-    QList<bool> flags(doc.elements.count() + 1, false);
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return flags;
-    const QStringList items = legacy::SplitCommaText(list);
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            // The program's own spelling of this message ("stip").
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            break;
-        }
-        if (number >= 1 && number < flags.size())
-            flags[number] = true;
-    }
-    return flags;
 }
 
 QString LinesText(const QStringList &lines)

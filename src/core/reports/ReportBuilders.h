@@ -7,6 +7,8 @@
 
 #include "reports/AlReport.h"
 
+#include "board/BoardStyle.h"
+
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
 
@@ -96,6 +98,8 @@ struct BreakdownReportOptions
 {
     bool all = true; // "All" instead of "Specific:"
     QList<int> rows; // "Specific:": the strip rows of the selected items, in list order
+    // The board's colours: each sheet's heading takes its strip's colour from them.
+    BoardStyle style;
 };
 
 ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const BreakdownReportOptions &options,
@@ -145,10 +149,6 @@ private:
     QImage m_logo;
     bool m_finished = false;
 };
-
-// Which elements a strip is assigned, read the way IsAssigned reads the list: an item
-// that is no number ends the list there and shows "Error reading stip assignments!" once.
-QList<bool> AssignedFlags(ScheduleDocument &doc, int strip);
 
 // Lines as a text of the string-list form: each line followed by CR LF.
 QString LinesText(const QStringList &lines);

@@ -11,6 +11,7 @@
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "document/ShellCommands.h"
+#include "reports/CallSheetFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -106,9 +107,9 @@ private slots:
         QTest::addColumn<qint64>("after");
         for (const auto &[faultName, fault] : Faults) {
             const QByteArray name(faultName);
-            for (const char *writer : {"schedule", "autosave", "settings"}) {
+            for (const char *writer : {"schedule", "autosave", "settings", "call sheet"}) {
                 for (const int scenes : {3, 900}) {
-                    if (QByteArrayView(writer) == "settings" && scenes > 3)
+                    if ((QByteArrayView(writer) == "settings" || QByteArrayView(writer) == "call sheet") && scenes > 3)
                         continue;
                     QTest::addRow("%s, %s, %d scenes", writer, name.constData(), scenes)
                         << QString::fromLatin1(writer) << scenes << QByteArray(fault.op) << fault.error << fault.after;
@@ -138,6 +139,8 @@ private slots:
             saved = SaveDocument(doc, target);
         else if (writer == QLatin1String("autosave"))
             saved = AutosaveCommand(doc, target);
+        else if (writer == QLatin1String("call sheet"))
+            saved = WriteCallSheetFile(CallSheet(), target);
         else {
             IniFile ini(target);
             ini.load();
@@ -151,7 +154,9 @@ private slots:
         QCOMPARE(ReadFileBytes(target), Earlier);
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("sched.tbf")});
         QVERIFY2(saved.message().contains(cause(error)), qPrintable(saved.message()));
-        if (writer != QLatin1String("settings")) {
+        if (writer == QLatin1String("call sheet")) {
+            QVERIFY(saved.message().startsWith(QStringLiteral("Error saving call sheet file\r\r")));
+        } else if (writer != QLatin1String("settings")) {
             QVERIFY(saved.message().startsWith(QStringLiteral("Error saving file ") + target +
                                                QStringLiteral(". Try again using SaveAs from the file menu.\r\r")));
             QVERIFY(doc.Modified);
