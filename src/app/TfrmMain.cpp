@@ -11,6 +11,7 @@
 #include "document/Settings.h"
 #include "document/UndoStore.h"
 #include "ui/board/BoardView.h"
+#include "ui/board/FindStripsBar.h"
 #include "ui/breakdown/BreakdownMenu.h"
 #include "ui/import/ImportMenu.h"
 #include "ui/reports/ExportCommands.h"
@@ -39,6 +40,7 @@
 #include <QSignalBlocker>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 namespace tb {
@@ -80,9 +82,18 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_statusBar = new PanelStatusBar(this);
     setStatusBar(m_statusBar);
 
-    m_board = new BoardView(m_doc, m_settings, this);
+    // The board, with the Find strips bar over it (hidden until Ctrl+F).
+    auto *centre = new QWidget(this);
+    centre->setObjectName(QStringLiteral("BoardArea"));
+    auto *centreLayout = new QVBoxLayout(centre);
+    centreLayout->setContentsMargins(0, 0, 0, 0);
+    centreLayout->setSpacing(0);
+    m_board = new BoardView(m_doc, m_settings, centre);
     m_board->setObjectName(QStringLiteral("Board"));
-    setCentralWidget(m_board);
+    m_findBar = new FindStripsBar(m_doc, centre);
+    centreLayout->addWidget(m_findBar);
+    centreLayout->addWidget(m_board, 1);
+    setCentralWidget(centre);
 
     // Every area's entries, each area making its dialogs once for the whole run; then
     // the menus, the pop-up and the tool bar are assembled from them.
@@ -94,6 +105,7 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_commands->add(ReportsMenuEntries(*this));
     m_commands->add(ExportMenuEntries(*this));
     buildMenus();
+    m_commands->claimAddedShortcuts();
     buildPopup();
     buildToolBar();
     connectWindowParts();
@@ -132,6 +144,9 @@ void TfrmMain::buildMenus()
     }
     // The recent files follow Exit, after a separator of their own.
     m_recent = new RecentFilesList(m_fileMenu, this);
+    // The list the last run kept. (The earlier edition wrote the list on exit but never
+    // read it back, so it was empty at every start and the next exit overwrote it.)
+    m_recent->load();
 
     m_zoomGroup = new QActionGroup(this);
     m_zoomGroup->setExclusive(true);
@@ -187,6 +202,9 @@ void TfrmMain::connectWindowParts()
     connect(m_board, &BoardView::editSceneRequested, this, [this] { findAction(Editscene1)->trigger(); });
     connect(m_board, &BoardView::editBannerRequested, this, [this] { findAction(EditBanner1)->trigger(); });
     connect(m_board, &BoardView::editElementRequested, this, [this] { findAction(Editelement1)->trigger(); });
+
+    connect(m_findBar, &FindStripsBar::stripFound, this, [this](int row) { m_board->selectStrips(row, row, row); });
+    connect(m_findBar, &FindStripsBar::closed, this, [this] { m_board->paintBox()->setFocus(); });
 }
 
 QAction *TfrmMain::findAction(const QString &objectName) const
@@ -204,6 +222,8 @@ QAction *TfrmMain::action(const char *objectName)
 void TfrmMain::updateCommands(const ScheduleDocument &doc)
 {
     m_commands->updateEnabled(doc);
+    // SetModified and ClearModified both end here.
+    showCaption();
 }
 
 void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled,
@@ -222,7 +242,22 @@ void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, boo
 
 void TfrmMain::setTitle(const QString &title)
 {
-    setWindowTitle(title);
+    // A schedule with neither a title nor a file reads "Torvanbridge - Untitled"
+    // rather than "Torvanbridge -   () ", and an asterisk follows the caption while
+    // there are unsaved changes (setWindowModified in updateCommands).
+    const bool untitled = m_doc.values.PictureTitle.isEmpty() && m_doc.FileName.trimmed().isEmpty();
+    m_caption = untitled ? QStringLiteral("Torvanbridge - Untitled") : title;
+    showCaption();
+}
+
+void TfrmMain::showCaption()
+{
+    if (m_caption.isEmpty())
+        return; // "Torvanbridge" until the first document
+    QString caption = m_caption;
+    if (m_doc.Modified)
+        caption += caption.endsWith(QLatin1Char(' ')) ? QStringLiteral("*") : QStringLiteral(" *");
+    setWindowTitle(caption);
 }
 
 void TfrmMain::repaintBoard()
@@ -316,10 +351,10 @@ void TfrmMain::FormShow()
     m_doc.clipboard.ClipKind = StripClipboard::Empty;
     m_doc.clipboard.ClipCount = 0;
     if (hasPrinter && !hasPrinter()) {
-        m_doc.prompter().error(QStringLiteral("Torvanbridge cannot find any printers installed on this computer. You "
-                                              "can continue to use the software, but all Print features will be "
-                                              "disabled.\r\rSee Windows Help if you require assistance on installing "
-                                              "printers."));
+        // The earlier edition said at every start that all print features would be
+        // disabled. Every report can be written to a PDF file, which the print
+        // dialogs always offer, so the status bar says that once instead.
+        m_statusBar->setPanelText(StatusSink::MessagePanel, QString::fromLatin1(NoPrinterStatusText));
     }
     m_firstShowDone = true;
     emit firstShowFinished();
@@ -529,6 +564,23 @@ void TfrmMain::N1001Click(QAction *item)
     // A zoom counts as a change to the schedule (the zoom is saved with it); this is
     // deliberate.
     SetModified(m_doc);
+}
+
+void TfrmMain::ZoomStepClick(int direction)
+{
+    const QList<ZoomStep> steps = ZoomSteps();
+    int index = ZoomIndexForScale(m_board->boardScale());
+    if (index < 0)
+        index = ZoomIndexForScale(1.0);
+    const int wanted = direction == 0 ? ZoomIndexForScale(1.0) : qBound(0, index + direction, int(steps.size()) - 1);
+    if (wanted == index && direction != 0)
+        return;
+    N1001Click(findAction(QLatin1String(steps.at(wanted).entry)));
+}
+
+void TfrmMain::FindStrips1Click()
+{
+    m_findBar->open();
 }
 
 void TfrmMain::ZoomComboChange(int index)

@@ -29,7 +29,10 @@ MenuTable ReportsMenuEntries(CommandHost &host)
         {.name = Dayoutofdays1, .caption = "&Day out of days..."},
         {.name = Elementsummary1, .caption = "Element summary...", .handler = showDialog<TfrmElUse>(host)},
         {.name = Productionboard1, .caption = "&Production board..."},
-        {.name = Shootingschedule1, .caption = "&Shooting schedule...", .handler = showDialog<TfrmShootSch>(host)},
+        {.name = Shootingschedule1,
+         .caption = "&Shooting schedule...",
+         .handler = showDialog<TfrmShootSch>(host),
+         .addedShortcuts = {"Ctrl+P"}},
     };
 }
 
