@@ -22,7 +22,6 @@
 #include "ui/shell/MenuCommands.h"
 #include "ui/shell/PanelStatusBar.h"
 #include "ui/shell/RecentFilesList.h"
-#include "ui/shell/StyleFromSettings.h"
 #include "ui/shell/TfrmPref.h"
 #include "ui/shell/ToolIcons.h"
 

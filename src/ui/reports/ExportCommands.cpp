@@ -4,7 +4,6 @@
 #include "document/ScheduleDocument.h"
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
-#include "ui/shell/StyleFromSettings.h"
 
 #include <QDir>
 #include <QFileDialog>
