@@ -24,6 +24,7 @@
 #include "ui/shell/RecentFilesList.h"
 #include "ui/shell/TfrmPref.h"
 #include "ui/shell/ToolIcons.h"
+#include "ui/shell/WindowPlacement.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -114,6 +115,13 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
 
     m_doc.setStatusSink(m_statusBar);
     m_doc.setView(this);
+
+    // The window where it was left, fitted to the screen it opens on.
+    const Settings::RememberedWindow remembered = m_settings.readWindow();
+    if (remembered.geometry.isValid())
+        PlaceWindow(*this, remembered.geometry);
+    if (remembered.maximised)
+        setWindowState(windowState() | Qt::WindowMaximized);
 
     updateCommands(m_doc);
 }
@@ -345,8 +353,20 @@ void TfrmMain::FormShow()
     if (!problems.isEmpty())
         m_doc.prompter().error(problems.join(QStringLiteral("\r\r")));
     NewDocument(m_doc);
+    // The zoom the board had when the program was last closed. The empty schedule is
+    // not marked changed for it.
+    const int zoomIndex = ZoomIndexForScale(m_settings.readWindow().zoomPercent / 100.0);
+    if (zoomIndex >= 0 && zoomIndex != ZoomIndexForScale(1.0)) {
+        m_doc.values.BoardZoom = ScaleForZoomIndex(zoomIndex);
+        zoomChanged(m_doc.values.BoardZoom);
+    }
     if (!m_commandLineFile.isEmpty())
         (void)OpenDocument(m_doc, m_commandLineFile); // its messages are all there is
+    // An autosave the last run left behind, of changes never saved.
+    const QString restore = AutosaveRestoreQuestion(m_autosavePath);
+    if (!restore.isEmpty() &&
+        m_doc.prompter().question(MessageKind::Confirmation, restore, Buttons::YesNo) == Answer::Yes)
+        (void)RestoreAutosave(m_doc, m_autosavePath);
     m_doc.clipboard.ClipKind = StripClipboard::Empty;
     m_doc.clipboard.ClipCount = 0;
     if (hasPrinter && !hasPrinter()) {
@@ -372,6 +392,12 @@ void TfrmMain::closeEvent(QCloseEvent *event)
     m_autosaveTimer.stop();
     if (HelpWindow *help = ProgramHelpWindow())
         help->close();
+    // The user has answered for the changes; there is nothing left to restore.
+    DiscardAutosave(m_autosavePath);
+    // The window's place and the board's zoom for the next start. Failing to keep them
+    // loses nothing of the schedule, so it is not worth a message while closing.
+    (void)m_settings.writeWindow({isMaximized() || isFullScreen() ? normalGeometry() : geometry(), isMaximized(),
+                                  qRound(m_board->boardScale() * 100)});
     event->accept();
 }
 
@@ -437,7 +463,7 @@ void TfrmMain::MRUClick(const QString &path)
 
 void TfrmMain::WMDROPFILES(const QStringList &paths)
 {
-    DropFilesCommand(m_doc, paths);
+    DropFilesCommand(m_doc, *m_files, paths);
     m_board->repaintBoard();
 }
 

@@ -18,6 +18,15 @@ const QString ZeroLengthMessage =
     QStringLiteral("Oops! Scene must be a minimum of 1/8ths of a page long. Please enter the correct number of pages "
                    "/ eights of a page.");
 
+// The one-eighth rule of the editor, with its message.
+bool refusedForLength(ScheduleDocument &doc, const ScenePage &page)
+{
+    if (page.whole != 0 || page.eighths != 0)
+        return false;
+    doc.prompter().error(ZeroLengthMessage);
+    return true;
+}
+
 const QStringList DayNightCodes = {QStringLiteral("D"), QStringLiteral("N"), QStringLiteral("DWN"),
                                    QStringLiteral("DSK")};
 const QStringList IntExtCodes = {QStringLiteral("I"), QStringLiteral("E"), QStringLiteral("I/E")};
@@ -230,6 +239,11 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
 ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                         const AssignmentFlags &flags)
 {
+    // A page of no length is refused before anything happens: no undo step is taken
+    // for it, and the editor stays open with what was typed. (The earlier edition took
+    // the snapshot, refused, and closed the dialog, throwing the typing away.)
+    if (refusedForLength(doc, page))
+        return ResultOf<int>::failure(ZeroLengthMessage);
     TakeUndoSnapshot(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
     ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
     SetModified(doc);
@@ -241,6 +255,8 @@ ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const Scen
 ResultOf<int> ApplyScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                          const AssignmentFlags &flags)
 {
+    if (refusedForLength(doc, page))
+        return ResultOf<int>::failure(ZeroLengthMessage);
     TakeUndoSnapshot(doc, QStringLiteral("add / edit scene"));
     ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
     SetModified(doc);

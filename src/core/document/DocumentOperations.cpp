@@ -104,6 +104,7 @@ void NewDocument(ScheduleDocument &doc)
     //    production details and is emptied with them.
     doc.stripEditMode = 0;
     doc.values = ProductionValues(); // also the version, zoom, call times and counters
+    ++doc.documentNumber;
     for (CrewRow &row : doc.crew)
         row.clear();
     // 2. Autosave interval from the preferences.

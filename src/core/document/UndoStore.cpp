@@ -26,6 +26,7 @@ void copyLevel(UndoLevel &to, const UndoLevel &from, int strips, int elements)
     to.horizontalScroll = from.horizontalScroll;
     to.verticalScroll = from.verticalScroll;
     to.label = from.label;
+    to.documentNumber = from.documentNumber;
 }
 
 } // namespace
@@ -47,6 +48,7 @@ void TakeUndoSnapshot(ScheduleDocument &doc, const QString &label)
     newest.horizontalScroll = doc.view().horizontalScroll();
     newest.verticalScroll = doc.view().verticalScroll();
     newest.label = label;
+    newest.documentNumber = doc.documentNumber;
 
     doc.undoCaption = QStringLiteral("Undo ") + label;
     doc.undoEnabled = true;
@@ -68,6 +70,8 @@ void Undo(ScheduleDocument &doc)
     doc.values.NextStripId = newest.nextStripId;
     const int horizontal = newest.horizontalScroll;
     const int vertical = newest.verticalScroll;
+    const int restoredNumber = newest.documentNumber;
+    const bool fromAnotherDocument = restoredNumber != doc.documentNumber;
 
     const int n = doc.strips.count();
     const int m = doc.elements.count();
@@ -86,7 +90,14 @@ void Undo(ScheduleDocument &doc)
     doc.view().repaintBoard();
     doc.view().setScrolls();
     doc.view().setScrollPositions(horizontal, vertical);
+    if (fromAnotherDocument) {
+        // Tables of an earlier schedule: untitled from now on, so Save asks for a name.
+        doc.FileName.clear();
+        doc.documentNumber = restoredNumber;
+    }
     SetModified(doc);
+    if (fromAnotherDocument)
+        doc.view().setTitle(UpdateTitle(doc));
 }
 
 void Redo(ScheduleDocument &) {}

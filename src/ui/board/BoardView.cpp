@@ -552,7 +552,7 @@ void BoardView::popupAtSelection()
     int x = g.colW + g.stripW / 2;
     if (m_doc.SelStart >= 1)
         x = qBound(0, g.colW + (m_doc.SelStart - m_hScroll->value()) * g.stripW + g.stripW / 2, m_pbox->width() - 1);
-    const int y = qBound(0, m_drawState.headerHeight / 2, m_pbox->height() - 1);
+    const int y = qBound(0, m_lastDraw.headerHeight / 2, m_pbox->height() - 1);
     m_popup->popup(m_pbox->mapToGlobal(QPoint(x, y)));
 }
 

@@ -57,8 +57,8 @@ ScheduleDocument &SchedulingCommands::doc() const
 BannerColours SchedulingCommands::bannerColours() const
 {
     const Settings &settings = m_host.settings();
-    return {legacy::ColorValueToString(settings.stripBackground[SlotBanner]),
-            legacy::ColorValueToString(settings.stripText[SlotBanner])};
+    return {legacy::ColorValueToString(settings.stripBackground[static_cast<int>(StripSlot::Banner)]),
+            legacy::ColorValueToString(settings.stripText[static_cast<int>(StripSlot::Banner)])};
 }
 
 void SchedulingCommands::openBannerDialog(BannerMode mode)
