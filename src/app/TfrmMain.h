@@ -29,8 +29,7 @@ class TfrmAbout;
 class TfrmPref;
 
 // Shown once in the status bar at start-up when the system has no printer.
-inline constexpr const char *NoPrinterStatusText =
-    "No printer is installed. Reports can still be saved as PDF files: choose \"PDF file\" in the print dialogs.";
+inline constexpr const char *NoPrinterStatusText = "No printer: print reports to PDF files.";
 
 // The main window: menus, tool bar, the board, the status bar, the recent-files list,
 // the autosave timer and the document commands. It is the document's view and the
