@@ -142,7 +142,7 @@ QMenu *topMenu(TfrmMain &main, const QString &caption)
 }
 
 // The entries of commands not built yet: they stand in their menus, disabled.
-const QStringList NotBuilt = {"Callsheet1", "Dayoutofdays1", "Productionboard1"};
+const QStringList NotBuilt = {"Dayoutofdays1", "Productionboard1"};
 
 } // namespace
 

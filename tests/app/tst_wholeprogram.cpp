@@ -112,6 +112,19 @@ private Q_SLOTS:
         QCOMPARE(p.main->findChildren<TfrmFDImport *>().size(), 1);
     }
 
+    void callSheetAsksForAStartDateFirst()
+    {
+        Program p;
+        QVERIFY(p.start());
+        QVERIFY(OpenDocument(p.doc, Example).ok());
+        p.doc.values.StartDate.clear();
+        // The start date dialog comes first; cancelled, the call sheet does not open.
+        QCOMPARE(p.dialogOf([&] { p.trigger("Callsheet1"); }), "Start date");
+        QCOMPARE(p.prompter.texts(),
+                 QStringList{"You need to enter a production start date before you can print call sheets."});
+        QVERIFY(!p.main->findChild<QDialog *>("TfrmCallSheet")->isVisible());
+    }
+
     void entriesOpenTheirDialogs_data()
     {
         QTest::addColumn<QString>("entry");
@@ -154,6 +167,10 @@ private Q_SLOTS:
                                           << "breakdown-sheets.html";
         QTest::newRow("element summary") << "Elementsummary1" << 1 << "Print element summary"
                                          << "element-summary.html";
+        QTest::newRow("call sheet") << "Callsheet1" << 1 << "Print Call Sheet"
+                                    << "call-sheet.html";
+        QTest::newRow("end of day") << "Endofday1" << 1 << "End of day"
+                                    << "end-of-day.html";
         QTest::newRow("import script") << "Importscript1" << 1 << "Script import (TXT file)"
                                        << "import-script.html";
     }

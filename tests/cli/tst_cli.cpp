@@ -190,6 +190,13 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+        "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+        "--date needs a date as YYYY-MM-DD");
+    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+        "--date YYYY-MM-DD and --shot SCENE,... are required");
 }
 
 void TestCli::usageErrors()
@@ -236,6 +243,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "The file cannot be read: there is no such file.");
+    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+        "You need to enter a production start date before you can print call sheets.");
+    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
+    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+        "Scene 11 is not scheduled on 2027-04-06.");
     Row("export of a missing schedule", L{"export", "@missing.tbf"}, "The file cannot be read: there is no such file.");
     Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
     Row("two-line title", L{"details", "EX", "--title", "A\nB"}, "Picture title must be one line.");
@@ -248,10 +260,10 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board"    ? ".png"
-                                  : first == "report" ? ".pdf"
-                                  : first == "export" ? ".csv"
-                                                      : ".tbf");
+    const QString out = rowOutput(first == "board"                            ? ".png"
+                                  : first == "report" || first == "callsheet" ? ".pdf"
+                                  : first == "export"                         ? ".csv"
+                                                                              : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))

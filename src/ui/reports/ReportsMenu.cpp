@@ -1,12 +1,18 @@
 #include "ui/reports/ReportsMenu.h"
 
 #include "board/BoardStyle.h"
+#include "document/ScheduleDocument.h"
+#include "reports/CallSheet.h"
+#include "scheduling/Calendar.h"
 
+#include "ui/reports/TfrmCallSheet.h"
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPrintBS.h"
 #include "ui/reports/TfrmShootSch.h"
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
+
+#include <QAction>
 
 namespace tb {
 
@@ -28,11 +34,25 @@ MenuTable ReportsMenuEntries(CommandHost &host)
     sheets->boardStyle = [h] { return StyleFromSettings(h->settings()); };
     auto *elementSummary = new TfrmElUse(host.document(), host.window());
     auto *schedule = new TfrmShootSch(host.document(), host.window());
+    auto *callSheet = new TfrmCallSheet(host.document(), host.window());
+    callSheet->setSettings(&host.settings());
+    // The call sheet needs dates: without a start date the user is asked for one first,
+    // and the sheet opens only once one has been entered.
+    auto openCallSheet = [h, callSheet] {
+        ScheduleDocument &doc = h->document();
+        if (!HasStartDate(doc)) {
+            doc.prompter().information(QString::fromLatin1(CallSheetNeedsStartText));
+            h->action(actions::Startdate1)->trigger();
+            if (!HasStartDate(doc))
+                return;
+        }
+        callSheet->exec();
+    };
 
     using namespace actions;
     return {
         {.name = Breakdownsheets1, .caption = "&Breakdown sheets...", .handler = showDialog(sheets)},
-        {.name = Callsheet1, .caption = "&Call sheet..."},
+        {.name = Callsheet1, .caption = "&Call sheet...", .handler = openCallSheet},
         {.name = Dayoutofdays1, .caption = "&Day out of days..."},
         {.name = Elementsummary1, .caption = "Element summary...", .handler = showDialog(elementSummary)},
         {.name = Productionboard1, .caption = "&Production board..."},
