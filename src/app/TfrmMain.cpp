@@ -4,6 +4,7 @@
 #include "app/ShellMenu.h"
 #include "app/TfrmAbout.h"
 #include "document/Clipboard.h"
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
@@ -247,6 +248,30 @@ void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, boo
 
 // ---- The document's view ----------------------------------------------------------
 
+void TfrmMain::documentChanged(const ScheduleDocument &doc, const DocumentChange &change)
+{
+    // The scroll bars follow the strip and element counts, then the board goes where
+    // the change asks.
+    m_board->SetScrolls();
+    if (change.scrollPositions)
+        m_board->setScrollPositions(change.scrollPositions->first, change.scrollPositions->second);
+    else if (change.firstStrip)
+        m_board->scrollToStrip(*change.firstStrip);
+    if (!change.boardOnly) {
+        // The entries keep their first captions ("&Undo") until the store changes.
+        const UndoCommandState undo = UndoCommands(doc.undo);
+        if (undo != m_undoShown) {
+            m_undoShown = undo;
+            setUndoCommands(undo.undoEnabled, undo.undoCaption, undo.redoEnabled, undo.redoCaption);
+        }
+        // UpdateCommandsAndStatus: the commands for the state and the selection, and
+        // the selected scenes' pages in panel 1.
+        updateCommands(doc);
+        doc.status().setPanelText(StatusSink::PagesPanel, SelectedPagesText(doc));
+    }
+    m_board->repaintBoard();
+}
+
 void TfrmMain::setTitle(const QString &title)
 {
     // A schedule with neither a title nor a file reads "Torvanbridge - Untitled"
@@ -272,16 +297,6 @@ void TfrmMain::repaintBoard()
     m_board->repaintBoard();
 }
 
-void TfrmMain::setScrolls()
-{
-    m_board->SetScrolls();
-}
-
-void TfrmMain::scrollToStrip(int row)
-{
-    m_board->scrollToStrip(row);
-}
-
 void TfrmMain::resetBoard()
 {
     m_board->resetBoard();
@@ -300,6 +315,11 @@ void TfrmMain::zoomChanged(double zoom)
 void TfrmMain::addRecentFile(const QString &path)
 {
     m_recent->add(path);
+}
+
+void TfrmMain::restartAutosave()
+{
+    setAutosaveInterval(m_settings.autosaveMinutes * 60000);
 }
 
 void TfrmMain::setAutosaveInterval(int milliseconds)
@@ -321,11 +341,6 @@ int TfrmMain::verticalScroll() const
     return m_board->verticalScroll();
 }
 
-void TfrmMain::setScrollPositions(int horizontal, int vertical)
-{
-    m_board->setScrollPositions(horizontal, vertical);
-}
-
 // ---- Start-up and closing ----------------------------------------------------------
 
 void TfrmMain::showEvent(QShowEvent *event)
@@ -341,7 +356,6 @@ void TfrmMain::showEvent(QShowEvent *event)
 
 void TfrmMain::applySettings()
 {
-    m_doc.autosaveMinutes = m_settings.autosaveMinutes;
     m_board->setStyle(StyleFromSettings(m_settings));
 }
 

@@ -1,14 +1,15 @@
 #include "breakdown/SceneEditing.h"
 
 #include "document/AssignmentList.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-#include "document/UndoStore.h"
 
 #include <QCollator>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace tb {
 
@@ -173,7 +174,11 @@ void RebuildPickLists(ScheduleDocument &doc)
     sortPickList(doc.setPickList);
 }
 
-ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
+namespace {
+
+// RecordStrip within the edit of the caller (OK, Apply), or within an edit of its own
+// without a snapshot when the caller has none.
+ResultOf<int> recordStrip(ScheduleDocument &doc, DocumentEdit *outer, int mode, int current, const ScenePage &page,
                           const AssignmentFlags &flags)
 {
     if (page.whole == 0 && page.eighths == 0) {
@@ -203,6 +208,9 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
         doc.strips[row].set(StripField::StripId, QString::number(++doc.values.NextStripId));
     }
 
+    std::optional<DocumentEdit> own;
+    DocumentEdit &edit = outer ? *outer : own.emplace(doc);
+
     StripRecord &strip = doc.strips[row];
     strip.set(StripField::StripKind, StripKinds::Scene);
     strip.set(StripField::SceneNumber, page.scene);
@@ -225,15 +233,23 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
     }
 
     doc.SelElement = -1;
+    // The recalculation may put rest days before the strip: it is found again by the
+    // number of strips before it.
     const int position = stripsBefore(doc, row);
-    SetModified(doc);
+    edit.markModified();
     row = rowOf(doc, position);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
 
     AddToPickList(doc.locationPickList, page.location);
     AddToPickList(doc.setPickList, page.set);
     return row;
+}
+
+} // namespace
+
+ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
+                          const AssignmentFlags &flags)
+{
+    return recordStrip(doc, nullptr, mode, current, page, flags);
 }
 
 ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
@@ -244,11 +260,10 @@ ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const Scen
     // the snapshot, refused, and closed the dialog, throwing the typing away.)
     if (refusedForLength(doc, page))
         return ResultOf<int>::failure(ZeroLengthMessage);
-    TakeUndoSnapshot(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
-    ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
-    SetModified(doc);
+    DocumentEdit edit(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
+    ResultOf<int> saved = recordStrip(doc, &edit, mode, current, page, flags);
     if (mode == SceneMode::Add)
-        doc.view().scrollToStrip(ScrollPositionAfterAppend(doc.strips.count()));
+        edit.scrollToStrip(ScrollPositionAfterAppend(doc.strips.count()));
     return saved;
 }
 
@@ -257,11 +272,8 @@ ResultOf<int> ApplyScene(ScheduleDocument &doc, int mode, int current, const Sce
 {
     if (refusedForLength(doc, page))
         return ResultOf<int>::failure(ZeroLengthMessage);
-    TakeUndoSnapshot(doc, QStringLiteral("add / edit scene"));
-    ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
-    SetModified(doc);
-    doc.view().repaintBoard();
-    return saved;
+    DocumentEdit edit(doc, QStringLiteral("add / edit scene"));
+    return recordStrip(doc, &edit, mode, current, page, flags);
 }
 
 int ScrollPositionAfterAppend(int stripCount)
@@ -284,8 +296,11 @@ SceneStep StepToScene(ScheduleDocument &doc, int current, int direction)
         step.found = true;
         doc.SelStart = index;
         doc.SelEnd = index;
-        doc.view().scrollToStrip(index);
-        doc.view().repaintBoard();
+        // The board behind the editor shows the strip first; nothing else follows.
+        DocumentChange showing;
+        showing.firstStrip = index;
+        showing.boardOnly = true;
+        doc.view().documentChanged(doc, showing);
     }
     if (direction > 0 && index >= count) {
         step.atLimit = true;

@@ -1,6 +1,7 @@
 #include "document/CommandState.h"
 
 #include "document/ScheduleDocument.h"
+#include "document/UndoStore.h"
 
 namespace tb {
 
@@ -43,12 +44,12 @@ bool CanPasteSelection(const ScheduleDocument &doc)
 
 bool CanUndo(const ScheduleDocument &doc)
 {
-    return doc.undoEnabled;
+    return UndoCommands(doc.undo).undoEnabled;
 }
 
 bool CanRedo(const ScheduleDocument &doc)
 {
-    return doc.redoEnabled;
+    return UndoCommands(doc.undo).redoEnabled;
 }
 
 } // namespace tb

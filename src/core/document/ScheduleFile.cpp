@@ -209,7 +209,8 @@ void finishOpen(ScheduleDocument &doc, const QString &path, bool addToRecentFile
     doc.view().setTitle(UpdateTitle(doc));
     doc.status().setProgress(0);
     RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    // The board, its scroll bars and the commands show the opened document.
+    doc.view().documentChanged(doc, {});
     if (addToRecentFiles)
         doc.view().addRecentFile(path);
     doc.status().setBusy(false);
@@ -401,7 +402,6 @@ Result OpenDocument(ScheduleDocument &doc, const QString &path, const OpenOption
             QStringLiteral("Error opening file."));
     }
 
-    doc.view().setScrolls();
     doc.view().setTitle(UpdateTitle(doc));
     status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Opened OK."));
     finishOpen(doc, path, options.addToRecentFiles);

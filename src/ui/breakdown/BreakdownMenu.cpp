@@ -42,7 +42,7 @@ MenuTable BreakdownMenuEntries(CommandHost &host)
             // Only a scene strip opens for editing; dividers and banners have editors of their own.
             if (mode == SceneMode::Edit && !FirstSelectedIsScene(d))
                 return;
-            d.stripEditMode = mode;
+            stripDialog->editMode = mode;
             stripDialog->currentStrip = valid ? d.SelStart : 0;
             stripDialog->exec();
             h->repaintBoard();
