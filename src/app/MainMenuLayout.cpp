@@ -39,8 +39,9 @@ QList<MenuItem> MainMenuLayout()
                                {e(Breakdownsheets1), e(Callsheet1), e(Dayoutofdays1), e(Elementsummary1),
                                 e(Productionboard1), e(Shootingschedule1)}),
              separator, e(Preferences1), separator, e(Exit1)}),
-        MenuItem::submenu("Edit1", QStringLiteral("&Edit"),
-                          {e(Undo1), e(Redo1), separator, e(Cut1), e(Copy1), e(Paste1), e(Delete1)}),
+        MenuItem::submenu(
+            "Edit1", QStringLiteral("&Edit"),
+            {e(Undo1), e(Redo1), separator, e(Cut1), e(Copy1), e(Paste1), e(Delete1), separator, e(FindStrips1)}),
         MenuItem::submenu("Production1", QStringLiteral("&Production"),
                           {e(Maindetails1), e(Startdate1), e(Holddays1), separator, e(Endofday1)}),
         // Locking strips to a date has no entry of its own in the earlier edition's
@@ -70,7 +71,8 @@ QList<MenuItem> MainMenuLayout()
         MenuItem::submenu("Elements1", QStringLiteral("Ele&ments"),
                           {e(Addelement1), e(Editelement1), separator, e(Reordercastnumbering1), e(Sortelements1)}),
         MenuItem::submenu("View1", QStringLiteral("&View"),
-                          {e(Fullscreen1), MenuItem::submenu("Zoom1", QStringLiteral("&Zoom"), zoom)}),
+                          {e(Fullscreen1), MenuItem::submenu("Zoom1", QStringLiteral("&Zoom"), zoom), separator,
+                           e(ZoomIn1), e(ZoomOut1), e(ZoomReset1)}),
         MenuItem::submenu("Help1", QStringLiteral("&Help"), {e(Contents1), e(Index1), separator, e(About1)}),
     };
 }

@@ -17,10 +17,22 @@ MenuTable ShellMenuEntries(TfrmMain &main)
     using namespace actions;
     MenuTable table{
         // File
-        {.name = New1, .caption = "&New", .handler = run(&TfrmMain::New1Click)},
-        {.name = Openfile1, .caption = "&Open...", .hint = "Open", .handler = run(&TfrmMain::Openfile1Click)},
-        {.name = Save1, .caption = "&Save", .shortcut = "F12", .hint = "Save", .handler = run(&TfrmMain::Save1Click)},
-        {.name = SaveAs1, .caption = "Save &As...", .handler = run(&TfrmMain::SaveAs1Click)},
+        {.name = New1, .caption = "&New", .handler = run(&TfrmMain::New1Click), .addedShortcuts = {"Ctrl+N"}},
+        {.name = Openfile1,
+         .caption = "&Open...",
+         .hint = "Open",
+         .handler = run(&TfrmMain::Openfile1Click),
+         .addedShortcuts = {"Ctrl+O"}},
+        {.name = Save1,
+         .caption = "&Save",
+         .shortcut = "F12",
+         .hint = "Save",
+         .handler = run(&TfrmMain::Save1Click),
+         .addedShortcuts = {"Ctrl+S"}},
+        {.name = SaveAs1,
+         .caption = "Save &As...",
+         .handler = run(&TfrmMain::SaveAs1Click),
+         .addedShortcuts = {"Ctrl+Shift+S"}},
         {.name = Preferences1, .caption = "P&references...", .handler = run(&TfrmMain::Preferences1Click)},
         {.name = Exit1, .caption = "&Exit", .shortcut = "Ctrl+Q", .handler = run(&TfrmMain::Exit1Click)},
         // Edit
@@ -54,6 +66,11 @@ MenuTable ShellMenuEntries(TfrmMain &main)
          .shortcut = "Del",
          .enabledWhen = HasSelection,
          .handler = run(&TfrmMain::Delete1Click)},
+        // Find strips: an addition of this edition.
+        {.name = FindStrips1,
+         .caption = "&Find strips...",
+         .handler = run(&TfrmMain::FindStrips1Click),
+         .addedShortcuts = {"Ctrl+F"}},
         // The board's pop-up
         {.name = PopCut1,
          .caption = "Cut",
@@ -88,6 +105,22 @@ MenuTable ShellMenuEntries(TfrmMain &main)
                       .handler = [m, name] { m->N1001Click(m->findAction(QLatin1String(name))); },
                       .checkable = true});
     }
+    // Zooming by keys: an addition of this edition. Each step goes through the zoom
+    // items, so it counts as a change of the schedule as they do.
+    table.append({
+        {.name = ZoomIn1,
+         .caption = "Zoom &in",
+         .handler = [m] { m->ZoomStepClick(+1); },
+         .addedShortcuts = {"Ctrl++", "Ctrl+="}},
+        {.name = ZoomOut1,
+         .caption = "Zoom &out",
+         .handler = [m] { m->ZoomStepClick(-1); },
+         .addedShortcuts = {"Ctrl+-"}},
+        {.name = ZoomReset1,
+         .caption = "&Actual size",
+         .handler = [m] { m->ZoomStepClick(0); },
+         .addedShortcuts = {"Ctrl+0"}},
+    });
     table.append({
         {.name = Contents1, .caption = "&Contents", .shortcut = "F1", .handler = run(&TfrmMain::Contents1Click)},
         {.name = Index1, .caption = "&Index", .handler = run(&TfrmMain::Index1Click)},

@@ -12,6 +12,7 @@
 #include "document/Settings.h"
 #include "document/UndoStore.h"
 #include "ui/board/BoardView.h"
+#include "ui/board/FindStripsBar.h"
 #include "ui/breakdown/BreakdownMenu.h"
 #include "ui/import/ImportMenu.h"
 #include "ui/reports/ExportCommands.h"
@@ -24,6 +25,7 @@
 #include "ui/shell/RecentFilesList.h"
 #include "ui/shell/TfrmPref.h"
 #include "ui/shell/ToolIcons.h"
+#include "ui/shell/WindowPlacement.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -39,6 +41,7 @@
 #include <QSignalBlocker>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 namespace tb {
@@ -80,9 +83,18 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_statusBar = new PanelStatusBar(this);
     setStatusBar(m_statusBar);
 
-    m_board = new BoardView(m_doc, m_settings, this);
+    // The board, with the Find strips bar over it (hidden until Ctrl+F).
+    auto *centre = new QWidget(this);
+    centre->setObjectName(QStringLiteral("BoardArea"));
+    auto *centreLayout = new QVBoxLayout(centre);
+    centreLayout->setContentsMargins(0, 0, 0, 0);
+    centreLayout->setSpacing(0);
+    m_board = new BoardView(m_doc, m_settings, centre);
     m_board->setObjectName(QStringLiteral("Board"));
-    setCentralWidget(m_board);
+    m_findBar = new FindStripsBar(m_doc, centre);
+    centreLayout->addWidget(m_findBar);
+    centreLayout->addWidget(m_board, 1);
+    setCentralWidget(centre);
 
     // Every area's entries, each area making its dialogs once for the whole run; then
     // the menus, the pop-up and the tool bar are assembled from them.
@@ -94,6 +106,7 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     m_commands->add(ReportsMenuEntries(*this));
     m_commands->add(ExportMenuEntries(*this));
     buildMenus();
+    m_commands->claimAddedShortcuts();
     buildPopup();
     buildToolBar();
     connectWindowParts();
@@ -103,6 +116,13 @@ TfrmMain::TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent)
 
     m_doc.setStatusSink(m_statusBar);
     m_doc.setView(this);
+
+    // The window where it was left, fitted to the screen it opens on.
+    const Settings::RememberedWindow remembered = m_settings.readWindow();
+    if (remembered.geometry.isValid())
+        PlaceWindow(*this, remembered.geometry);
+    if (remembered.maximised)
+        setWindowState(windowState() | Qt::WindowMaximized);
 
     updateCommands(m_doc);
 }
@@ -132,6 +152,9 @@ void TfrmMain::buildMenus()
     }
     // The recent files follow Exit, after a separator of their own.
     m_recent = new RecentFilesList(m_fileMenu, this);
+    // The list the last run kept. (The earlier edition wrote the list on exit but never
+    // read it back, so it was empty at every start and the next exit overwrote it.)
+    m_recent->load();
 
     m_zoomGroup = new QActionGroup(this);
     m_zoomGroup->setExclusive(true);
@@ -187,6 +210,9 @@ void TfrmMain::connectWindowParts()
     connect(m_board, &BoardView::editSceneRequested, this, [this] { findAction(Editscene1)->trigger(); });
     connect(m_board, &BoardView::editBannerRequested, this, [this] { findAction(EditBanner1)->trigger(); });
     connect(m_board, &BoardView::editElementRequested, this, [this] { findAction(Editelement1)->trigger(); });
+
+    connect(m_findBar, &FindStripsBar::stripFound, this, [this](int row) { m_board->selectStrips(row, row, row); });
+    connect(m_findBar, &FindStripsBar::closed, this, [this] { m_board->paintBox()->setFocus(); });
 }
 
 QAction *TfrmMain::findAction(const QString &objectName) const
@@ -204,6 +230,8 @@ QAction *TfrmMain::action(const char *objectName)
 void TfrmMain::updateCommands(const ScheduleDocument &doc)
 {
     m_commands->updateEnabled(doc);
+    // SetModified and ClearModified both end here.
+    showCaption();
 }
 
 void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled,
@@ -246,7 +274,22 @@ void TfrmMain::documentChanged(const ScheduleDocument &doc, const DocumentChange
 
 void TfrmMain::setTitle(const QString &title)
 {
-    setWindowTitle(title);
+    // A schedule with neither a title nor a file reads "Torvanbridge - Untitled"
+    // rather than "Torvanbridge -   () ", and an asterisk follows the caption while
+    // there are unsaved changes (setWindowModified in updateCommands).
+    const bool untitled = m_doc.values.PictureTitle.isEmpty() && m_doc.FileName.trimmed().isEmpty();
+    m_caption = untitled ? QStringLiteral("Torvanbridge - Untitled") : title;
+    showCaption();
+}
+
+void TfrmMain::showCaption()
+{
+    if (m_caption.isEmpty())
+        return; // "Torvanbridge" until the first document
+    QString caption = m_caption;
+    if (m_doc.Modified)
+        caption += caption.endsWith(QLatin1Char(' ')) ? QStringLiteral("*") : QStringLiteral(" *");
+    setWindowTitle(caption);
 }
 
 void TfrmMain::repaintBoard()
@@ -324,15 +367,27 @@ void TfrmMain::FormShow()
     if (!problems.isEmpty())
         m_doc.prompter().error(problems.join(QStringLiteral("\r\r")));
     NewDocument(m_doc);
+    // The zoom the board had when the program was last closed. The empty schedule is
+    // not marked changed for it.
+    const int zoomIndex = ZoomIndexForScale(m_settings.readWindow().zoomPercent / 100.0);
+    if (zoomIndex >= 0 && zoomIndex != ZoomIndexForScale(1.0)) {
+        m_doc.values.BoardZoom = ScaleForZoomIndex(zoomIndex);
+        zoomChanged(m_doc.values.BoardZoom);
+    }
     if (!m_commandLineFile.isEmpty())
         (void)OpenDocument(m_doc, m_commandLineFile); // its messages are all there is
+    // An autosave the last run left behind, of changes never saved.
+    const QString restore = AutosaveRestoreQuestion(m_autosavePath);
+    if (!restore.isEmpty() &&
+        m_doc.prompter().question(MessageKind::Confirmation, restore, Buttons::YesNo) == Answer::Yes)
+        (void)RestoreAutosave(m_doc, m_autosavePath);
     m_doc.clipboard.ClipKind = StripClipboard::Empty;
     m_doc.clipboard.ClipCount = 0;
     if (hasPrinter && !hasPrinter()) {
-        m_doc.prompter().error(QStringLiteral("Torvanbridge cannot find any printers installed on this computer. You "
-                                              "can continue to use the software, but all Print features will be "
-                                              "disabled.\r\rSee Windows Help if you require assistance on installing "
-                                              "printers."));
+        // The earlier edition said at every start that all print features would be
+        // disabled. Every report can be written to a PDF file, which the print
+        // dialogs always offer, so the status bar says that once instead.
+        m_statusBar->setPanelText(StatusSink::MessagePanel, QString::fromLatin1(NoPrinterStatusText));
     }
     m_firstShowDone = true;
     emit firstShowFinished();
@@ -351,6 +406,12 @@ void TfrmMain::closeEvent(QCloseEvent *event)
     m_autosaveTimer.stop();
     if (HelpWindow *help = ProgramHelpWindow())
         help->close();
+    // The user has answered for the changes; there is nothing left to restore.
+    DiscardAutosave(m_autosavePath);
+    // The window's place and the board's zoom for the next start. Failing to keep them
+    // loses nothing of the schedule, so it is not worth a message while closing.
+    (void)m_settings.writeWindow({isMaximized() || isFullScreen() ? normalGeometry() : geometry(), isMaximized(),
+                                  qRound(m_board->boardScale() * 100)});
     event->accept();
 }
 
@@ -416,7 +477,7 @@ void TfrmMain::MRUClick(const QString &path)
 
 void TfrmMain::WMDROPFILES(const QStringList &paths)
 {
-    DropFilesCommand(m_doc, paths);
+    DropFilesCommand(m_doc, *m_files, paths);
     m_board->repaintBoard();
 }
 
@@ -542,6 +603,23 @@ void TfrmMain::N1001Click(QAction *item)
     // A zoom counts as a change to the schedule (the zoom is saved with it); this is
     // deliberate.
     SetModified(m_doc);
+}
+
+void TfrmMain::ZoomStepClick(int direction)
+{
+    const QList<ZoomStep> steps = ZoomSteps();
+    int index = ZoomIndexForScale(m_board->boardScale());
+    if (index < 0)
+        index = ZoomIndexForScale(1.0);
+    const int wanted = direction == 0 ? ZoomIndexForScale(1.0) : qBound(0, index + direction, int(steps.size()) - 1);
+    if (wanted == index && direction != 0)
+        return;
+    N1001Click(findAction(QLatin1String(steps.at(wanted).entry)));
+}
+
+void TfrmMain::FindStrips1Click()
+{
+    m_findBar->open();
 }
 
 void TfrmMain::ZoomComboChange(int index)

@@ -19,6 +19,7 @@ class QToolBar;
 namespace tb {
 
 class BoardView;
+class FindStripsBar;
 class HelpWindow;
 class MenuCommands;
 class PanelStatusBar;
@@ -27,6 +28,9 @@ class ScheduleDocument;
 class Settings;
 class TfrmAbout;
 class TfrmPref;
+
+// Shown once in the status bar at start-up when the system has no printer.
+inline constexpr const char *NoPrinterStatusText = "No printer: print reports to PDF files.";
 
 // The main window: menus, tool bar, the board, the status bar, the recent-files list,
 // the autosave timer and the document commands. It is the document's view and the
@@ -72,6 +76,7 @@ public:
     RecentFilesList *recentFiles() const { return m_recent; }
     QComboBox *zoomCombo() const { return m_zoomCombo; }
     QMenu *boardPopup() const { return m_popup; }
+    FindStripsBar *findBar() const { return m_findBar; }
     QToolBar *toolBar() const { return m_toolBar; }
     QTimer &autosaveTimer() { return m_autosaveTimer; }
     // The program's help window; null until a page was shown.
@@ -118,6 +123,10 @@ public:
     void Index1Click();
     void About1Click();
     void N1001Click(QAction *item);
+    // Zoom in (+1) or out (-1) one step, or back to 100% (0), through the zoom items.
+    void ZoomStepClick(int direction);
+    // Find strips: the search bar over the board.
+    void FindStrips1Click();
     void ZoomComboChange(int index);
     void SetZoomCombo();
     void SetZoomMenu();
@@ -146,12 +155,15 @@ private:
     void connectWindowParts();
     void applySettings();
     void FormShow();
+    // The caption of the last setTitle, with an asterisk while there are unsaved changes.
+    void showCaption();
 
     ScheduleDocument &m_doc;
     Settings &m_settings;
     FileChooser *m_files;
 
     BoardView *m_board = nullptr;
+    FindStripsBar *m_findBar = nullptr;
     PanelStatusBar *m_statusBar = nullptr;
     RecentFilesList *m_recent = nullptr;
     QToolBar *m_toolBar = nullptr;
@@ -169,6 +181,7 @@ private:
     TfrmPref *m_pref = nullptr;
     TfrmAbout *m_about = nullptr;
 
+    QString m_caption;
     QString m_programFolder;
     QString m_autosavePath;
     QString m_commandLineFile;

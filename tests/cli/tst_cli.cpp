@@ -223,7 +223,7 @@ void TestCli::refusedWritesNothing_data()
     Row("corrupt schedule", L{"resave", "@corrupt.tbf"},
         "Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
     Row("missing schedule", L{"resave", "@missing.tbf"},
-        "Error opening file .\n\nThis file cannot be opened by Torvanbridge");
+        "missing.tbf.\n\nThe file cannot be read: there is no such file.");
     Row("script missing", L{"import-text", "@missing-script.txt"}, "Error with import procedure.\n\n");
     Row("Fountain script missing", L{"import-fountain", "@missing-script.txt"}, "Error with import procedure.\n\n");
     Row("not an fdx", L{"import-fdx", "@not.fdx"}, "This file is not a Final Draft script (.fdx) that can be read.");
@@ -238,7 +238,7 @@ void TestCli::refusedWritesNothing_data()
     Row("no such element", scene + L{"1", "--elements", "1,99"},
         "There is no element 99 in this schedule (it has 65).");
     Row("conform with nothing accepted", L{"conform", "EX", "--", "999"}, "No strip was found with that number.");
-    Row("board of a missing schedule", L{"board", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
+    Row("board of a missing schedule", L{"board", "@missing.tbf"}, "The file cannot be read: there is no such file.");
     Row("day range", L{"report", "schedule", "EX", "--from", "3", "--to", "99"},
         "The day range 3 to 99 is not within the schedule's production days 1 to 19.");
     Row("unknown sheet", L{"report", "breakdown", "EX", "--sheets", "11,9999"},
@@ -246,13 +246,13 @@ void TestCli::refusedWritesNothing_data()
     Row("unknown category", L{"report", "elements", "EX", "--categories", "16"},
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
-        "This file cannot be opened by Torvanbridge");
+        "The file cannot be read: there is no such file.");
     Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
         "You need to enter a production start date before you can print call sheets.");
     Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
     Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
         "Scene 11 is not scheduled on 2027-04-06.");
-    Row("export of a missing schedule", L{"export", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
+    Row("export of a missing schedule", L{"export", "@missing.tbf"}, "The file cannot be read: there is no such file.");
     Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
     Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
         "The crew list has room for 50 lines, not 51.");
@@ -454,8 +454,9 @@ void TestCli::board_data()
         L{"--colours", "plain", "--first-strip", "5", "--first-element", "10", "--width", "800", "--height", "600"},
         redDividers, "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27",
         QPoint(200 + 20, 288 + 18 * 3 + 9), "#ffffff");
+    // No settings file: the standard colours of a first start (day dividers black).
     Row("no preferences", big, QByteArray(), "none.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
-        "#ffffff");
+        "#000000");
     // One page, 1200 x 800 pixels at 96 per inch: 900 x 600 points.
     Row("pdf", L{"--width", "1200", "--height", "800"}, QByteArray(), "board.pdf",
         "1200 x 800 at 100%, strips 1-25, element rows 1-29", QPoint(), "/MediaBox [0 0 900.000000 600.000000]");

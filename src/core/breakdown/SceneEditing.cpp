@@ -19,6 +19,15 @@ const QString ZeroLengthMessage =
     QStringLiteral("Oops! Scene must be a minimum of 1/8ths of a page long. Please enter the correct number of pages "
                    "/ eights of a page.");
 
+// The one-eighth rule of the editor, with its message.
+bool refusedForLength(ScheduleDocument &doc, const ScenePage &page)
+{
+    if (page.whole != 0 || page.eighths != 0)
+        return false;
+    doc.prompter().error(ZeroLengthMessage);
+    return true;
+}
+
 const QStringList DayNightCodes = {QStringLiteral("D"), QStringLiteral("N"), QStringLiteral("DWN"),
                                    QStringLiteral("DSK")};
 const QStringList IntExtCodes = {QStringLiteral("I"), QStringLiteral("E"), QStringLiteral("I/E")};
@@ -246,10 +255,13 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
 ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                         const AssignmentFlags &flags)
 {
+    // A page of no length is refused before anything happens: no undo step is taken
+    // for it, and the editor stays open with what was typed. (The earlier edition took
+    // the snapshot, refused, and closed the dialog, throwing the typing away.)
+    if (refusedForLength(doc, page))
+        return ResultOf<int>::failure(ZeroLengthMessage);
     DocumentEdit edit(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
     ResultOf<int> saved = recordStrip(doc, &edit, mode, current, page, flags);
-    // A refused page still counts as a change, as the snapshot was taken.
-    edit.markModified();
     if (mode == SceneMode::Add)
         edit.scrollToStrip(ScrollPositionAfterAppend(doc.strips.count()));
     return saved;
@@ -258,6 +270,8 @@ ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const Scen
 ResultOf<int> ApplyScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                          const AssignmentFlags &flags)
 {
+    if (refusedForLength(doc, page))
+        return ResultOf<int>::failure(ZeroLengthMessage);
     DocumentEdit edit(doc, QStringLiteral("add / edit scene"));
     return recordStrip(doc, &edit, mode, current, page, flags);
 }

@@ -83,11 +83,13 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
                           const AssignmentFlags &flags);
 
 // OK: undo snapshot ("edit scene" or "add new scene"), save, and after an append the
-// board scrolled to show the new strip. The editor closes whatever the result.
+// board scrolled to show the new strip. A page of no length is refused with the
+// editor's message before the snapshot, so a refused edit takes no undo step.
 ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                         const AssignmentFlags &flags);
 
-// Apply: undo snapshot "add / edit scene", save, repaint. The mode stays as it is,
+// Apply: undo snapshot "add / edit scene", save, repaint (a page of no length is
+// refused before the snapshot, as with OK). The mode stays as it is,
 // so each Apply in the add mode appends another strip.
 ResultOf<int> ApplyScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                          const AssignmentFlags &flags);

@@ -1,6 +1,7 @@
 #include "document/CommandState.h"
 
 #include "document/ScheduleDocument.h"
+#include "document/UndoStore.h"
 
 namespace tb {
 

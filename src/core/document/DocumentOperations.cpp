@@ -107,6 +107,7 @@ void NewDocument(ScheduleDocument &doc)
     // 1. Production details. The crew list belongs to the production details and is
     //    emptied with them. (The scene editor takes its mode anew each time it opens.)
     doc.values = ProductionValues(); // also the version, zoom, call times and counters
+    ++doc.documentNumber;
     for (CrewRow &row : doc.crew)
         row.clear();
     // 2. The autosave timer starts again with the interval of the preferences.

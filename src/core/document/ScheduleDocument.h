@@ -80,6 +80,9 @@ public:
 
     bool Modified = false;
     QString FileName; // full path; blank = untitled
+    // Counts the documents of the run: NewDocument (and so every Open) starts the next.
+    // Undo levels keep the one they were taken in (see Undo).
+    int documentNumber = 0;
 
     // Selection: strip rows (0 = none) and element row (-1 = none).
     int SelStart = 0;

@@ -5,7 +5,9 @@
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringView>
 
 #include <cmath>
@@ -117,7 +119,9 @@ private:
 // limit a value passes; it follows the reader's message.
 struct ReadFailure
 {
-    QString detail;
+    enum Cause { EndedEarly, NotANumber, OutOfRange } cause = EndedEarly;
+    int line = 0;   // the line the reader wanted, from 1
+    QString detail; // for OutOfRange: which limit the value passes
 };
 
 class DocumentReader
@@ -133,7 +137,7 @@ public:
     {
         QStringView line;
         if (!m_lines.next(&line))
-            throw ReadFailure{};
+            throw ReadFailure{ReadFailure::EndedEarly, m_lines.lineNumber() + 1};
         return line.toString();
     }
     int integer()
@@ -141,7 +145,7 @@ public:
         bool ok = false;
         const int value = legacy::StrToInt(text(), &ok);
         if (!ok)
-            throw ReadFailure{};
+            throw ReadFailure{ReadFailure::NotANumber, m_lines.lineNumber()};
         return value;
     }
     double number()
@@ -149,7 +153,7 @@ public:
         bool ok = false;
         const double value = legacy::FloatFromText(text(), &ok);
         if (!ok)
-            throw ReadFailure{};
+            throw ReadFailure{ReadFailure::NotANumber, m_lines.lineNumber()};
         return value;
     }
     // A number that must lie in [low, high]; what stands for it is named in the message.
@@ -157,7 +161,7 @@ public:
     {
         const int value = integer();
         if (value < low || value > high)
-            throw ReadFailure{QStringLiteral("Line %1 gives %2 as %3; it must lie between %4 and %5.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("Line %1 gives %2 as %3; it must lie between %4 and %5.")
                                   .arg(lineNumber())
                                   .arg(value)
                                   .arg(QLatin1String(what))
@@ -170,12 +174,12 @@ public:
     {
         const int value = integer();
         if (value < 0)
-            throw ReadFailure{QStringLiteral("Line %1 gives %2 as the number of %3.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("Line %1 gives %2 as the number of %3.")
                                   .arg(lineNumber())
                                   .arg(value)
                                   .arg(QLatin1String(what))};
         if (value > capacity)
-            throw ReadFailure{QStringLiteral("The file holds %1 %3; a schedule can hold at most %2 %3.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("The file holds %1 %3; a schedule can hold at most %2 %3.")
                                   .arg(value)
                                   .arg(capacity)
                                   .arg(QLatin1String(what))};
@@ -237,9 +241,8 @@ void readBody(ScheduleDocument &doc, DocumentReader &in)
         in.record(doc.crew[r]);
 }
 
-// The common end of every open that got past the header: the document is shown under
-// its path, whether it was read whole or only in part.
-void finishOpen(ScheduleDocument &doc, const QString &path)
+// The end of an open that read the whole file: the document is shown under its path.
+void finishOpen(ScheduleDocument &doc, const QString &path, bool addToRecentFiles)
 {
     doc.view().resetBoard();
     doc.FileName = path;
@@ -248,7 +251,8 @@ void finishOpen(ScheduleDocument &doc, const QString &path)
     RecalculateDays(doc);
     // The board, its scroll bars and the commands show the opened document.
     doc.view().documentChanged(doc, {});
-    doc.view().addRecentFile(path);
+    if (addToRecentFiles)
+        doc.view().addRecentFile(path);
     doc.status().setBusy(false);
 }
 
@@ -263,13 +267,10 @@ QStringList ScheduleFileLines(const ScheduleDocument &doc)
     return lines;
 }
 
-Result SaveDocument(ScheduleDocument &doc, const QString &path)
-{
-    StatusSink &status = doc.status();
-    status.setBusy(true);
-    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saveing file..."));
-    status.keepAlive();
+namespace {
 
+QString scheduleText(const ScheduleDocument &doc, StatusSink *status)
+{
     QString text;
     text.reserve(64 * 1024 + 24 * (doc.strips.count() + doc.elements.count()) * 20);
     int lastPercent = -1;
@@ -280,32 +281,83 @@ Result SaveDocument(ScheduleDocument &doc, const QString &path)
             text += QLatin1String("\r\n");
         },
         [&](int percent) {
-            if (percent != lastPercent) {
+            if (status && percent != lastPercent) {
                 lastPercent = percent;
-                status.setProgress(percent);
+                status->setProgress(percent);
             }
         });
+    return text;
+}
 
-    // Saving goes through a temporary file that replaces the document only once it is
-    // complete and on the disk, so a failed or interrupted save leaves the earlier file
-    // whole. (The earlier edition wrote in place and could leave half a file behind.)
-    const Result written = WriteFileAtomically(path, legacy::EncodeFileText(text));
-    if (!written) {
-        const QString message = WithCause(QStringLiteral("Error saving file ") + path +
-                                              QStringLiteral(". Try again using SaveAs from the file menu."),
-                                          written);
-        doc.prompter().error(message);
-        status.setProgress(0);
-        status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error saving file."));
-        status.setBusy(false);
-        return Result::failure(message);
+// Saving goes through a temporary file that replaces the document only once it is
+// complete and on the disk, so a failed or interrupted save leaves the earlier file
+// whole and the message says why. (The earlier edition wrote in place and could leave
+// half a file behind.)
+Result writeAtomically(const QString &path, const QString &text)
+{
+    return WriteFileAtomically(path, legacy::EncodeFileText(text));
+}
+
+Result saveFailure(const ScheduleDocument &doc, const QString &path, const Result &written)
+{
+    const QString message = WithCause(
+        QStringLiteral("Error saving file ") + path + QStringLiteral(". Try again using SaveAs from the file menu."),
+        written);
+    doc.prompter().error(message);
+    StatusSink &status = doc.status();
+    status.setProgress(0);
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error saving file."));
+    status.setBusy(false);
+    return Result::failure(message);
+}
+
+// What went wrong with a file that could not be opened, in plain words.
+QString readFailureCause(const ReadFailure &failure)
+{
+    switch (failure.cause) {
+    case ReadFailure::EndedEarly:
+        return QStringLiteral("The file is cut short: it ends at line ") + QString::number(failure.line - 1) +
+               QStringLiteral(", where more of the schedule should follow.");
+    case ReadFailure::NotANumber:
+        return QStringLiteral("The file is damaged: line ") + QString::number(failure.line) +
+               QStringLiteral(" should hold a number and does not.");
+    case ReadFailure::OutOfRange:
+        return failure.detail;
     }
+    return QStringLiteral("The file is damaged: the count on line ") + QString::number(failure.line) +
+           QStringLiteral(" is larger than a schedule can hold.");
+}
+
+// A failed open: the message, and the document left empty and untitled.
+Result openFailure(ScheduleDocument &doc, const QString &message, const QString &statusText)
+{
+    StatusSink &status = doc.status();
+    // Nothing of the file stays: what was read would otherwise stand under the file's
+    // name, unmodified, and the next Save would write the damage over the file.
+    NewDocument(doc);
+    doc.prompter().error(message, /*beep=*/true);
+    status.setPanelText(StatusSink::MessagePanel, statusText);
+    status.setProgress(0);
+    status.setBusy(false);
+    return Result::failure(message);
+}
+
+} // namespace
+
+Result SaveDocument(ScheduleDocument &doc, const QString &path)
+{
+    StatusSink &status = doc.status();
+    status.setBusy(true);
+    status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saveing file..."));
+    status.keepAlive();
+
+    const Result written = writeAtomically(path, scheduleText(doc, &status));
+    if (!written)
+        return saveFailure(doc, path, written);
 
     ClearModified(doc);
     doc.view().setTitle(UpdateTitle(doc));
-    // The list gets the document's own name, not the path written: an autosave writes
-    // elsewhere and must not put its file on the list (it hands a blank name for an
-    // untitled document, which the list ignores).
+    // The list gets the document's own name, not the path written.
     doc.view().addRecentFile(doc.FileName);
     status.setProgress(0);
     status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Saved OK."));
@@ -313,7 +365,15 @@ Result SaveDocument(ScheduleDocument &doc, const QString &path)
     return Result::success();
 }
 
-Result OpenDocument(ScheduleDocument &doc, const QString &path)
+Result WriteScheduleCopy(const ScheduleDocument &doc, const QString &path)
+{
+    const Result written = writeAtomically(path, scheduleText(doc, nullptr));
+    if (!written)
+        return saveFailure(doc, path, written);
+    return Result::success();
+}
+
+Result OpenDocument(ScheduleDocument &doc, const QString &path, const OpenOptions &options)
 {
     StatusSink &status = doc.status();
     status.setBusy(true);
@@ -321,55 +381,65 @@ Result OpenDocument(ScheduleDocument &doc, const QString &path)
     // The old document is gone from here on, even if the file proves unreadable.
     NewDocument(doc);
 
+    const QString name = QDir::toNativeSeparators(path);
     QFile file(path);
     QString text;
-    const bool opened = file.open(QIODevice::ReadOnly);
-    if (opened)
-        text = legacy::DecodeFileText(file.readAll());
-    const bool readError = !opened || file.error() != QFileDevice::NoError;
+    if (!file.open(QIODevice::ReadOnly)) {
+        // The earlier edition called an unreadable file "badly corrupted"; say why.
+        QString reason = file.errorString();
+        if (!QFileInfo::exists(path))
+            reason = QStringLiteral("there is no such file");
+        else if (QFileInfo(path).isDir())
+            reason = QStringLiteral("it is a folder");
+        else if (!QFileInfo(path).isReadable())
+            reason = QStringLiteral("permission denied");
+        return openFailure(doc,
+                           QStringLiteral("Error opening file ") + name +
+                               QStringLiteral(".\r\rThe file cannot be read: ") + reason + QLatin1Char('.'),
+                           QStringLiteral("Error opening file."));
+    }
+    text = legacy::DecodeFileText(file.readAll());
+    const bool readError = file.error() != QFileDevice::NoError;
+    const QString readErrorText = file.errorString();
     file.close();
+    if (readError)
+        return openFailure(doc,
+                           QStringLiteral("Error opening file ") + name +
+                               QStringLiteral(".\r\rThe file cannot be read: ") + readErrorText + QLatin1Char('.'),
+                           QStringLiteral("Error opening file."));
 
     DocumentReader in(text);
-    if (!readError) {
-        QString header;
-        try {
-            header = in.text();
-        } catch (const ReadFailure &) {
-        }
-        if (header != QLatin1String(ScheduleFileHeader)) {
-            // "Torvanbrigde" is the program's own spelling of this message.
-            const QString message = QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or "
-                                                   "perhaps it is corrupted.");
-            doc.prompter().error(message, /*beep=*/true);
-            status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error reading file."));
-            status.setBusy(false);
-            return Result::failure(message);
-        }
+    QString header;
+    try {
+        header = in.text();
+    } catch (const ReadFailure &) {
+    }
+    if (header != QLatin1String(ScheduleFileHeader)) {
+        // "Torvanbrigde" is the program's own spelling of this message.
+        return openFailure(doc,
+                           QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps "
+                                          "it is corrupted.\r\r") +
+                               name +
+                               QStringLiteral(" is not a Torvanbridge schedule: its first line is not the "
+                                              "line a schedule starts with."),
+                           QStringLiteral("Error reading file."));
     }
 
     try {
-        if (readError)
-            throw ReadFailure{};
         readBody(doc, in);
     } catch (const ReadFailure &failure) {
-        // The file name in this message is still blank at this point; the program has
-        // always shown it so. A value past a limit is named after the message.
-        QString message =
-            QStringLiteral("Error opening file ") + doc.FileName + QStringLiteral(".\r\r") +
-            QStringLiteral("This file cannot be opened by Torvanbridge - it may be badly corrupted, or the system may "
-                           "be unstable. Try again after re-booting the computer.");
-        if (!failure.detail.isEmpty())
-            message += QStringLiteral("\r\r") + failure.detail;
-        doc.prompter().error(message);
-        status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error opening file."));
-        finishOpen(doc, path);
-        return Result::failure(message);
+        // The earlier edition named no file here (its name was still blank).
+        return openFailure(
+            doc,
+            QStringLiteral("Error opening file ") + name + QStringLiteral(".\r\r") + readFailureCause(failure) +
+                QStringLiteral("\r\rThis file cannot be opened by Torvanbridge - it may be badly corrupted, or the "
+                               "system may be unstable. Try again after re-booting the computer."),
+            QStringLiteral("Error opening file."));
     }
 
     doc.view().setTitle(UpdateTitle(doc));
-    doc.view().addRecentFile(doc.FileName); // still blank; the list ignores it
     status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Opened OK."));
-    finishOpen(doc, path);
+    finishOpen(doc, path, options.addToRecentFiles);
     return Result::success();
 }
 

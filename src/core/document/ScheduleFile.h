@@ -20,11 +20,26 @@ inline constexpr const char *ScheduleFileExtension = "tbf";
 // error, the earlier file at the path is left whole, and Modified is left as it was.
 Result SaveDocument(ScheduleDocument &doc, const QString &path);
 
-// Replaces the document with the file's content. The document is emptied first, so a
-// failed open leaves an empty document (wrong header) or what was read up to the
-// failure (a damaged file), as the program always has. Messages go to the prompter;
-// the returned failure carries the same text.
-Result OpenDocument(ScheduleDocument &doc, const QString &path);
+// Writes the document to the path as SaveDocument does, atomically, but leaves the
+// document as it is: not marked saved, its name and the recent-files list untouched.
+// The autosave writes with it. A failure is shown as a failed save is.
+Result WriteScheduleCopy(const ScheduleDocument &doc, const QString &path);
+
+struct OpenOptions
+{
+    // A successful open puts the path on the recent-files list (not for an autosave
+    // being restored).
+    bool addToRecentFiles = true;
+};
+
+// Replaces the document with the file's content. The document is emptied first.
+// A file that fails to open leaves an empty, untitled, unmodified document and is not
+// put on the recent-files list: the earlier edition left the part it had read under
+// the file's name, so the next Save overwrote the file with the damage. The message
+// names the file and says what went wrong (it cannot be read, it is not a schedule,
+// it is cut short or damaged at a line). Messages go to the prompter; the returned
+// failure carries the same text.
+Result OpenDocument(ScheduleDocument &doc, const QString &path, const OpenOptions &options = {});
 
 // The file's lines as the writer produces them, without line ends (for tests and tools).
 QStringList ScheduleFileLines(const ScheduleDocument &doc);

@@ -3,6 +3,7 @@
 #include "document/AtomicWrite.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
+#include "document/StandardColours.h"
 
 #include <QDir>
 #include <QFile>
@@ -374,6 +375,15 @@ QStringList Settings::LoadSettings()
     };
     visitPreferences(*this, read);
     visitPerforatedStock(*this, read);
+    // A first start: with no settings file at all, the strips take the standard
+    // colours instead of all white, so that day dividers and rest days do not look
+    // like empty scenes. An existing file is read as it is, a missing colour key in it
+    // still meaning white strips with black text.
+    if (!QFileInfo::exists(m_path)) {
+        const StripColours standard = StandardStripColours();
+        stripBackground = standard.background;
+        stripText = standard.text;
+    }
     return problems;
 }
 
@@ -390,6 +400,37 @@ Result Settings::WritePerforatedStock() const
     IniFile ini(m_path);
     ini.load();
     visitPerforatedStock(*this, [&ini](const auto &key, const auto &value) { WriteSetting(ini, key, value); });
+    return ini.save();
+}
+
+Settings::RememberedWindow Settings::readWindow() const
+{
+    IniFile ini(m_path);
+    ini.load();
+    RememberedWindow window;
+    const int width = ReadSetting(ini, SettingKeys::WindowWidth);
+    const int height = ReadSetting(ini, SettingKeys::WindowHeight);
+    if (width > 0 && height > 0)
+        window.geometry =
+            QRect(ReadSetting(ini, SettingKeys::WindowLeft), ReadSetting(ini, SettingKeys::WindowTop), width, height);
+    window.maximised = ReadSetting(ini, SettingKeys::WindowMaximised);
+    window.zoomPercent = ReadSetting(ini, SettingKeys::BoardZoomPercent);
+    return window;
+}
+
+Result Settings::writeWindow(const RememberedWindow &window) const
+{
+    IniFile ini(m_path);
+    // A file made here for the window keeps the preferences in use too, so that the
+    // standard colours of a first start stay those of the next start.
+    if (!ini.load() && !QFileInfo::exists(m_path))
+        writePreferences(ini, *this);
+    WriteSetting(ini, SettingKeys::WindowLeft, window.geometry.left());
+    WriteSetting(ini, SettingKeys::WindowTop, window.geometry.top());
+    WriteSetting(ini, SettingKeys::WindowWidth, window.geometry.width());
+    WriteSetting(ini, SettingKeys::WindowHeight, window.geometry.height());
+    WriteSetting(ini, SettingKeys::WindowMaximised, window.maximised);
+    WriteSetting(ini, SettingKeys::BoardZoomPercent, window.zoomPercent);
     return ini.save();
 }
 

@@ -5,6 +5,7 @@
 #include "document/Result.h"
 
 #include <QList>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -137,6 +138,15 @@ inline const SettingKey<double> PerfWidth{QStringLiteral("Printing"), QStringLit
 inline const SettingKey<bool> AutoRestClick{QStringLiteral("PBDialog"), QStringLiteral("AutoRestClick"), false};
 inline const SettingKey<bool> SceneChange{QStringLiteral("StripDlg"), QStringLiteral("SceneChange"), false};
 inline const SettingKey<bool> CallSheetRest{QStringLiteral("CallSheetDlg"), QStringLiteral("CallSheetRest"), false};
+// The main window as it was left (an addition of this edition, written when the
+// window closes): its normal place and size, whether it was maximised, and the board's
+// zoom in percent. A width of 0 means none was kept.
+inline const SettingKey<int> WindowLeft{QStringLiteral("Window"), QStringLiteral("Left"), 0};
+inline const SettingKey<int> WindowTop{QStringLiteral("Window"), QStringLiteral("Top"), 0};
+inline const SettingKey<int> WindowWidth{QStringLiteral("Window"), QStringLiteral("Width"), 0};
+inline const SettingKey<int> WindowHeight{QStringLiteral("Window"), QStringLiteral("Height"), 0};
+inline const SettingKey<bool> WindowMaximised{QStringLiteral("Window"), QStringLiteral("Maximised"), false};
+inline const SettingKey<int> BoardZoomPercent{QStringLiteral("Window"), QStringLiteral("Zoom"), 100};
 } // namespace SettingKeys
 
 // ---- The preferences ---------------------------------------------------------
@@ -178,9 +188,10 @@ public:
     double perfMargin;     // PerfMargin
     double perfWidth;      // PerfWidth
 
-    // Reads every key but the three remembered warnings; a missing file or key leaves
-    // the default. Returns a line for each value that is present but unreadable (a
-    // colour that is no colour, a stock size that is no number); those keep the default.
+    // Reads every key but the three remembered warnings; a missing key leaves the
+    // default. With no file at all (a first start) the strips take the standard colours
+    // (StandardStripColours) rather than the keys' white and black. Returns a line for each value that is present but
+    // unreadable (a colour that is no colour, a stock size that is no number); those keep the default.
     QStringList LoadSettings();
 
     // Writes what the preferences dialog writes: Autosavetime, CB1..CB10, CT1..CT10,
@@ -188,6 +199,17 @@ public:
     Result WritePreferences() const;
     // Writes PerfMargin and PerfWidth with the system's decimal separator.
     Result WritePerforatedStock() const;
+
+    // The main window as it was left: [Window] Left, Top, Width, Height, Maximised and
+    // Zoom. Read when the window opens, written when it closes; none is kept until then.
+    struct RememberedWindow
+    {
+        QRect geometry; // the normal (not maximised) place; empty when none was kept
+        bool maximised = false;
+        int zoomPercent = 100;
+    };
+    RememberedWindow readWindow() const;
+    Result writeWindow(const RememberedWindow &window) const;
 
     // Whether the user asked not to see a warning again. Read from the file each time,
     // by the message that shows the warning.

@@ -5,7 +5,10 @@
 #include "document/ScheduleFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QLocale>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tb {
@@ -94,9 +97,11 @@ void OpenRecentCommand(ScheduleDocument &doc, FileChooser &files, const QString 
     (void)OpenDocument(doc, path);
 }
 
-void DropFilesCommand(ScheduleDocument &doc, const QStringList &paths)
+void DropFilesCommand(ScheduleDocument &doc, FileChooser &files, const QStringList &paths)
 {
     if (paths.isEmpty())
+        return;
+    if (!AskToSaveChanges(doc, files, /*beep=*/true))
         return;
     (void)OpenDocument(doc, paths.first());
 }
@@ -109,9 +114,60 @@ bool CloseQuery(ScheduleDocument &doc, FileChooser &files)
 Result AutosaveCommand(ScheduleDocument &doc, const QString &autosavePath)
 {
     doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("Autosaving..."));
-    Result saved = SaveDocument(doc, autosavePath);
+    Result saved = WriteScheduleCopy(doc, autosavePath);
+    if (saved) {
+        // Which schedule the copy belongs to, for the offer at the next start.
+        QSaveFile owner(AutosaveOwnerPath(autosavePath));
+        if (owner.open(QIODevice::WriteOnly)) {
+            owner.write(doc.FileName.trimmed().toUtf8());
+            owner.commit();
+        }
+    }
     doc.status().setPanelText(StatusSink::MessagePanel, QString());
     return saved;
+}
+
+QString AutosaveOwnerPath(const QString &autosavePath)
+{
+    return autosavePath + QStringLiteral(".owner");
+}
+
+QString AutosaveRestoreQuestion(const QString &autosavePath)
+{
+    const QFileInfo autosave(autosavePath);
+    QFile ownerFile(AutosaveOwnerPath(autosavePath));
+    if (!autosave.isFile() || !ownerFile.open(QIODevice::ReadOnly))
+        return {};
+    const QString owner = QString::fromUtf8(ownerFile.readAll()).trimmed();
+    const QFileInfo ownerInfo(owner);
+    const QString when = QLocale().toString(autosave.lastModified(), QLocale::ShortFormat);
+    if (owner.isEmpty())
+        return QStringLiteral("Torvanbridge was not closed properly while an untitled schedule had changes. An "
+                              "automatic copy from ") +
+               when + QStringLiteral(" was kept.\r\rDo you wish to restore it?");
+    if (ownerInfo.isFile() && ownerInfo.lastModified() >= autosave.lastModified())
+        return {}; // saved since
+    return QStringLiteral("Torvanbridge was not closed properly while ") + QDir::toNativeSeparators(owner) +
+           QStringLiteral(" had changes which were not saved. An automatic copy from ") + when +
+           QStringLiteral(" was kept.\r\rDo you wish to restore it? It opens untitled, so that you choose where to "
+                          "save it.");
+}
+
+Result RestoreAutosave(ScheduleDocument &doc, const QString &autosavePath)
+{
+    Result opened = OpenDocument(doc, autosavePath, OpenOptions{.addToRecentFiles = false});
+    if (!opened)
+        return opened;
+    doc.FileName.clear();
+    SetModified(doc);
+    doc.view().setTitle(UpdateTitle(doc));
+    return opened;
+}
+
+void DiscardAutosave(const QString &autosavePath)
+{
+    QFile::remove(autosavePath);
+    QFile::remove(AutosaveOwnerPath(autosavePath));
 }
 
 QString AutosavePath(const QString &programFolder)

@@ -58,17 +58,37 @@ bool SaveCommand(ScheduleDocument &doc, FileChooser &files);
 bool SaveAsCommand(ScheduleDocument &doc, FileChooser &files);
 // A recent file: its own question naming the path (with a beep), then the file.
 void OpenRecentCommand(ScheduleDocument &doc, FileChooser &files, const QString &path);
-// Files dropped on the window: only the first is opened, and without the
-// unsaved-changes question. Dropping is deliberately taken as the user's decision.
-void DropFilesCommand(ScheduleDocument &doc, const QStringList &paths);
+// Files dropped on the window: only the first is opened. The earlier edition took a
+// drop as the user's decision and replaced an unsaved schedule without a word; here a
+// drop asks the unsaved-changes question first, as Open does.
+void DropFilesCommand(ScheduleDocument &doc, FileChooser &files, const QStringList &paths);
 // Closing the window: the unsaved-changes question without a beep. Returns false
 // when the window must stay open.
 bool CloseQuery(ScheduleDocument &doc, FileChooser &files);
-// The autosave: the whole document to the autosave file. Because a save marks the
-// document saved, an autosave clears Modified and the close question no longer comes;
-// the document's own file is not written and its name stays. This is the program's
-// required behaviour.
+// The autosave: the whole document to the autosave file, with "Autosaving..." in the
+// status bar meanwhile. The earlier edition's autosave marked the document saved, so
+// the close question no longer came and the changes never reached the user's own
+// file. Here the document is left as it was (Modified stays, the name stays, nothing
+// goes on the recent-files list), and beside the autosave file (AutosaveOwnerPath) is
+// kept the path of the schedule it belongs to, blank for an untitled one.
 Result AutosaveCommand(ScheduleDocument &doc, const QString &autosavePath);
+
+// The file beside the autosave naming the schedule it belongs to: the autosave path
+// with ".owner" added.
+QString AutosaveOwnerPath(const QString &autosavePath);
+
+// An autosave worth offering at start-up: it exists, and the schedule it belongs to
+// was not saved after it (or is untitled, or gone). Empty text when there is none;
+// otherwise the question to ask.
+QString AutosaveRestoreQuestion(const QString &autosavePath);
+
+// Opens the autosave as an untitled, modified schedule, so that Save asks where to
+// keep it; it does not go on the recent-files list.
+Result RestoreAutosave(ScheduleDocument &doc, const QString &autosavePath);
+
+// The autosave and its owner file removed: the window closed after its question, so
+// nothing is left to restore.
+void DiscardAutosave(const QString &autosavePath);
 
 // Where the autosave goes. The earlier edition wrote "autosave.tbf" into the program
 // folder. A program folder is often not writable by its user today, so the file goes

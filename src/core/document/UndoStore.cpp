@@ -1,5 +1,7 @@
 #include "document/UndoStore.h"
 
+#include "document/DocumentOperations.h"
+
 #include "document/DocumentEdit.h"
 #include "document/ScheduleDocument.h"
 
@@ -26,6 +28,7 @@ void copyLevel(UndoLevel &to, const UndoLevel &from, int strips, int elements)
     to.horizontalScroll = from.horizontalScroll;
     to.verticalScroll = from.verticalScroll;
     to.label = from.label;
+    to.documentNumber = from.documentNumber;
 }
 
 } // namespace
@@ -47,6 +50,7 @@ void TakeUndoSnapshot(ScheduleDocument &doc, const QString &label)
     newest.horizontalScroll = doc.view().horizontalScroll();
     newest.verticalScroll = doc.view().verticalScroll();
     newest.label = label;
+    newest.documentNumber = doc.documentNumber;
 
     // The first snapshot into an empty store disables Redo.
     if (undo.UndoDepth == 1)
@@ -63,6 +67,8 @@ void Undo(ScheduleDocument &doc)
     copyRows(doc.elements, newest.elements, newest.elements.count());
     doc.values.NextStripId = newest.nextStripId;
     edit.restoreScrollPositions(newest.horizontalScroll, newest.verticalScroll);
+    const int restoredNumber = newest.documentNumber;
+    const bool fromAnotherDocument = restoredNumber != doc.documentNumber;
 
     const int n = doc.strips.count();
     const int m = doc.elements.count();
@@ -72,6 +78,12 @@ void Undo(ScheduleDocument &doc)
         --undo.UndoDepth;
     // The Redo caption names level 9, which is blank unless nine levels were filled.
     undo.redoLabel = undo.levels[MaxUndoLevels - 1].label;
+    if (fromAnotherDocument) {
+        // Tables of an earlier schedule: untitled from now on, so Save asks for a name.
+        doc.FileName.clear();
+        doc.documentNumber = restoredNumber;
+        doc.view().setTitle(UpdateTitle(doc));
+    }
 }
 
 UndoCommandState UndoCommands(const UndoStack &undo)

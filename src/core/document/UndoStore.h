@@ -23,6 +23,8 @@ struct UndoLevel
     int horizontalScroll = 0;
     int verticalScroll = 0;
     QString label;
+    // The document the tables were taken from (ScheduleDocument::documentNumber).
+    int documentNumber = 0;
 };
 
 // Ten levels, level 1 the newest. Tables are shared with the document and with each

@@ -7,6 +7,7 @@
 #include "document/Settings.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -49,6 +50,8 @@ public:
         setMouseTracking(true);
         setAttribute(Qt::WA_OpaquePaintEvent);
         setAttribute(Qt::WA_NoSystemBackground);
+        // The board takes the keyboard focus when clicked, for its keys (handleKey).
+        setFocusPolicy(Qt::StrongFocus);
     }
 
 protected:
@@ -65,7 +68,18 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override { m_view->PBoxMouseMove(event); }
     void mouseReleaseEvent(QMouseEvent *event) override { m_view->PBoxMouseUp(event); }
     void wheelEvent(QWheelEvent *event) override { m_view->handleWheel(event); }
-    void contextMenuEvent(QContextMenuEvent *event) override { m_view->PBoxContextMenu(event->globalPos()); }
+    void contextMenuEvent(QContextMenuEvent *event) override
+    {
+        if (event->reason() == QContextMenuEvent::Keyboard)
+            m_view->popupAtSelection();
+        else
+            m_view->PBoxContextMenu(event->globalPos());
+    }
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (!m_view->handleKey(event))
+            QWidget::keyPressEvent(event);
+    }
 
 private:
     BoardView *m_view;
@@ -504,6 +518,106 @@ void BoardView::PBoxContextMenu(const QPoint &globalPos)
 {
     if (m_popup)
         m_popup->popup(globalPos);
+}
+
+// ---- Keys ------------------------------------------------------------------------
+// Keys are an addition of this edition: the earlier one was driven by the mouse only.
+
+int BoardView::visibleStripCount() const
+{
+    const BoardGeometry g = boardGeometry();
+    return qMax(1, (m_pbox->width() - g.colW) / qMax(1, g.stripW));
+}
+
+void BoardView::selectStrips(int first, int last, int shown)
+{
+    m_doc.SelStart = first;
+    m_doc.SelEnd = last;
+    m_doc.SelElement = -1;
+    const int firstShown = m_hScroll->value();
+    const int visible = visibleStripCount();
+    if (shown < firstShown)
+        m_hScroll->setValue(shown);
+    else if (shown >= firstShown + visible)
+        m_hScroll->setValue(shown - visible + 1);
+    repaintBoard();
+    recalculate();
+    emit selectionChanged();
+}
+
+void BoardView::popupAtSelection()
+{
+    if (!m_popup || m_popup->isVisible())
+        return;
+    const BoardGeometry g = boardGeometry();
+    int x = g.colW + g.stripW / 2;
+    if (m_doc.SelStart >= 1)
+        x = qBound(0, g.colW + (m_doc.SelStart - m_hScroll->value()) * g.stripW + g.stripW / 2, m_pbox->width() - 1);
+    const int y = qBound(0, m_lastDraw.headerHeight / 2, m_pbox->height() - 1);
+    m_popup->popup(m_pbox->mapToGlobal(QPoint(x, y)));
+}
+
+bool BoardView::handleKey(QKeyEvent *event)
+{
+    const Qt::KeyboardModifiers keys = event->modifiers() & ~Qt::KeypadModifier;
+    const int key = event->key();
+    if (key == Qt::Key_Menu || (key == Qt::Key_F10 && keys == Qt::ShiftModifier)) {
+        popupAtSelection();
+        return true;
+    }
+    const int count = m_doc.strips.count();
+    if (count == 0 || (keys != Qt::NoModifier && keys != Qt::ShiftModifier))
+        return false;
+    const bool shift = keys == Qt::ShiftModifier;
+    const auto selectable = [this](int row) { return m_doc.strips[row].kind() != StripKinds::AutoRestDay; };
+    // The nearest selectable strip from row on in the direction, or 0.
+    const auto step = [&](int row, int direction) {
+        for (; row >= 1 && row <= count; row += direction)
+            if (selectable(row))
+                return row;
+        return 0;
+    };
+    const bool selected = m_doc.SelStart >= 1 && m_doc.SelStart <= count;
+    const int start = selected ? m_doc.SelStart : 0;
+    const int end = selected ? qBound(m_doc.SelStart, m_doc.SelEnd, count) : 0;
+    int row = 0;
+    switch (key) {
+    case Qt::Key_Left:
+        if (shift && selected) {
+            if (start > 1)
+                selectStrips(start - 1, end, start - 1);
+            return true;
+        }
+        row = selected ? step(start - 1, -1) : step(1, 1);
+        break;
+    case Qt::Key_Right:
+        if (shift && selected) {
+            if (end < count)
+                selectStrips(start, end + 1, end + 1);
+            return true;
+        }
+        row = selected ? step(end + 1, 1) : step(1, 1);
+        break;
+    case Qt::Key_Home:
+        if (shift && selected) {
+            selectStrips(1, end, 1);
+            return true;
+        }
+        row = step(1, 1);
+        break;
+    case Qt::Key_End:
+        if (shift && selected) {
+            selectStrips(start, count, count);
+            return true;
+        }
+        row = step(count, -1);
+        break;
+    default:
+        return false;
+    }
+    if (row >= 1)
+        selectStrips(row, row, row);
+    return true;
 }
 
 void BoardView::LTimerTimer()

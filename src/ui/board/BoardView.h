@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QKeyEvent;
 class QMenu;
 class QMouseEvent;
 class QScrollBar;
@@ -72,8 +73,20 @@ public:
     int verticalScroll() const;
     void setScrollPositions(int horizontal, int vertical);
 
-    // The board's pop-up menu, shown on a right click on the paint box.
+    // The board's pop-up menu, shown on a right click on the paint box, with the
+    // context-menu key or with Shift+F10.
     void setPopupMenu(QMenu *menu) { m_popup = menu; }
+
+    // Selects the strips first..last as a click does (no element selected, day
+    // recalculation and command update, selectionChanged) and scrolls the board so
+    // that `shown` is in view.
+    void selectStrips(int first, int last, int shown);
+    // The keys of the board (the paint box has the focus): Left and Right select the
+    // strip before or after the selection, Shift+Left and Shift+Right widen it, Home
+    // and End select the first and the last strip; the context-menu key and Shift+F10
+    // open the pop-up at the selection. Automatic rest days, which cannot be selected,
+    // are stepped over. Returns whether the key was one of these.
+    bool handleKey(QKeyEvent *event);
 
     // The wheel as the main window takes it anywhere over itself: with exactly Shift the
     // element rows scroll (down = next row); otherwise the strips, wheel down moving the
@@ -122,6 +135,10 @@ private:
     void PBoxMouseUp(QMouseEvent *event);
     void PBoxDblClick();
     void PBoxContextMenu(const QPoint &globalPos);
+    // The pop-up opened from the keyboard, below the selected strip's heading.
+    void popupAtSelection();
+    // Strips shown across the paint box at the current zoom.
+    int visibleStripCount() const;
     void LTimerTimer();
     void RTimerTimer();
     void showHint(QMouseEvent *event);

@@ -327,15 +327,17 @@ void TfrmStrip::SceneEditChange()
 
 void TfrmStrip::OKButClick()
 {
-    // The dialog closes even when the save is refused for want of length, with the
-    // undo snapshot already taken; that is how it has always behaved.
-    (void)SaveScene(m_doc, mode(), currentStrip, gatherPage(), m_flags);
+    // A refused scene (no length) keeps the dialog open with everything typed. The
+    // earlier edition closed it and lost the typing; see the help's differences page.
+    if (!SaveScene(m_doc, mode(), currentStrip, gatherPage(), m_flags))
+        return;
     accept();
 }
 
 void TfrmStrip::AddContButClick()
 {
-    (void)ApplyScene(m_doc, mode(), currentStrip, gatherPage(), m_flags);
+    if (!ApplyScene(m_doc, mode(), currentStrip, gatherPage(), m_flags))
+        return; // refused: nothing was written, the dialog stays as it is
     refreshPickLists();
     m_ui->CancelBut->setText(QStringLiteral("Close"));
     m_ui->OKBut->setEnabled(false);

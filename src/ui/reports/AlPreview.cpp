@@ -150,6 +150,13 @@ void tAlPreview::paintEvent(QPaintEvent *)
     painter.setClipRect(rect);
     painter.translate(rect.topLeft());
     painter.scale(m_zoom / 100.0, m_zoom / 100.0);
+    // A recorded page holds only the changes of pen, brush and font from those a
+    // painter starts with. A painter on this view starts with the view's light text
+    // colour, so a page whose first text is black (the element summary's title and
+    // company) would play back white on white. Start from the recording's defaults.
+    painter.setPen(QPen());
+    painter.setBrush(QBrush());
+    painter.setFont(QFont());
     painter.drawPicture(0, 0, m_pages.at(m_page - 1)->picture());
     painter.restore();
     painter.setPen(QPen(Qt::black, 1));

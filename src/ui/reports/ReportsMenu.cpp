@@ -56,7 +56,10 @@ MenuTable ReportsMenuEntries(CommandHost &host)
         {.name = Dayoutofdays1, .caption = "&Day out of days..."},
         {.name = Elementsummary1, .caption = "Element summary...", .handler = showDialog(elementSummary)},
         {.name = Productionboard1, .caption = "&Production board..."},
-        {.name = Shootingschedule1, .caption = "&Shooting schedule...", .handler = showDialog(schedule)},
+        {.name = Shootingschedule1,
+         .caption = "&Shooting schedule...",
+         .handler = showDialog(schedule),
+         .addedShortcuts = {"Ctrl+P"}},
     };
 }
 

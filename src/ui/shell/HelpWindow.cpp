@@ -1,7 +1,12 @@
 #include "ui/shell/HelpWindow.h"
 
+#include "ui/shell/HelpSearch.h"
+#include "ui/shell/WindowPlacement.h"
+
 #include <QAction>
+#include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QPointer>
 #include <QStyle>
 #include <QTextBrowser>
@@ -22,6 +27,7 @@ QString pageFile(const QString &page)
 HelpWindow::HelpWindow(QWidget *parent)
     : QMainWindow(parent, Qt::Window)
     , m_browser(new QTextBrowser(this))
+    , m_search(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(QStringLiteral("Torvanbridge Help"));
@@ -47,6 +53,13 @@ HelpWindow::HelpWindow(QWidget *parent)
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
     connect(contents, &QAction::triggered, this, [this] { showPage(QString::fromLatin1(ContentsPage)); });
     connect(index, &QAction::triggered, this, [this] { showPage(QString::fromLatin1(IndexPage)); });
+    bar->addSeparator();
+    m_search->setObjectName(QStringLiteral("HelpSearchEdit"));
+    m_search->setPlaceholderText(QStringLiteral("Search the help"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setMaximumWidth(240);
+    bar->addWidget(m_search);
+    connect(m_search, &QLineEdit::returnPressed, this, [this] { search(m_search->text()); });
     connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
         const QString title = m_browser->documentTitle();
         setWindowTitle(title.isEmpty() ? QStringLiteral("Torvanbridge Help")
@@ -72,6 +85,14 @@ void HelpWindow::showPage(const QString &page)
     show();
     raise();
     activateWindow();
+}
+
+void HelpWindow::search(const QString &text)
+{
+    if (text.trimmed().isEmpty())
+        return;
+    m_browser->setHtml(HelpSearchResultsHtml(text.simplified(), SearchHelpPages(text)));
+    setWindowTitle(QStringLiteral("Torvanbridge Help - Search"));
 }
 
 QString HelpWindow::currentPage() const
@@ -100,7 +121,29 @@ void ShowHelpPage(const QString &page)
     QPointer<HelpWindow> &window = programHelpWindow();
     if (!window)
         window = new HelpWindow;
+    // A modal dialog blocks every window but its own, so help shown from one (F1 in
+    // the dialog) could be neither clicked nor scrolled until the dialog closed. The
+    // help window therefore becomes a window of the open dialog, on top of it, and
+    // goes back to having no owner when help is asked for with no dialog open. If
+    // that dialog is deleted, the help window goes with it and is made anew next time.
+    QWidget *owner = QApplication::activeModalWidget();
+    if (window->parentWidget() != owner) {
+        const QRect placed = window->geometry();
+        const bool wasShown = window->isVisible();
+        window->setParent(owner, Qt::Window);
+        if (wasShown)
+            window->setGeometry(placed);
+    }
+    const bool first = !window->isVisible();
     window->showPage(page);
+    if (first && owner) {
+        // Beside the dialog where there is room, never partly off the screen.
+        const QRect dialog = owner->frameGeometry();
+        PlaceWindow(*window, QRect(dialog.topLeft() + QPoint(40, 40), window->size()));
+    }
+    KeepOnScreen(*window);
+    window->raise();
+    window->activateWindow();
 }
 
 void DeleteProgramHelpWindow()

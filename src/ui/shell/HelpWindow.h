@@ -2,14 +2,17 @@
 
 #include <QMainWindow>
 
+class QLineEdit;
 class QTextBrowser;
 class QWidget;
 
 namespace tb {
 
 // The help window: the program's bundled HTML pages (the docs/help folder, built into
-// the program under ":/help") in a browser with Back, Forward, Contents and Index.
-// It has no owner window, so it stays usable beside the main window and its dialogs.
+// the program under ":/help") in a browser with Back, Forward, Contents, Index and a
+// search box over all the pages. It has no owner window, so it stays usable beside the
+// main window; help asked for while a dialog is open belongs to that dialog, so that
+// the dialog does not block it (ShowHelpPage).
 class HelpWindow : public QMainWindow
 {
     Q_OBJECT
@@ -26,12 +29,16 @@ public:
     // The file name of the page shown ("board.html"), without the anchor.
     QString currentPage() const;
     QTextBrowser *browser() const { return m_browser; }
+    QLineEdit *searchBox() const { return m_search; }
+    // Lists the pages that hold every word of the text (the search box's Enter).
+    void search(const QString &text);
 
     // Whether the help folder holds the page.
     static bool pageExists(const QString &page);
 
 private:
     QTextBrowser *m_browser;
+    QLineEdit *m_search;
 };
 
 // The program's one help window, made on first use (null before); the menu's

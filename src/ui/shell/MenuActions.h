@@ -25,12 +25,13 @@ inline constexpr char Preferences1[] = "Preferences1";           // "P&reference
 inline constexpr char Exit1[] = "Exit1";                         // "&Exit" Ctrl+Q
 
 // Edit
-inline constexpr char Undo1[] = "Undo1";     // "&Undo" Ctrl+Z
-inline constexpr char Redo1[] = "Redo1";     // "Redo"
-inline constexpr char Cut1[] = "Cut1";       // "&Cut" Ctrl+X
-inline constexpr char Copy1[] = "Copy1";     // "Co&py" Ctrl+C
-inline constexpr char Paste1[] = "Paste1";   // "&Paste" Ctrl+V
-inline constexpr char Delete1[] = "Delete1"; // "Delete" Del
+inline constexpr char Undo1[] = "Undo1";             // "&Undo" Ctrl+Z
+inline constexpr char Redo1[] = "Redo1";             // "Redo"
+inline constexpr char Cut1[] = "Cut1";               // "&Cut" Ctrl+X
+inline constexpr char Copy1[] = "Copy1";             // "Co&py" Ctrl+C
+inline constexpr char Paste1[] = "Paste1";           // "&Paste" Ctrl+V
+inline constexpr char Delete1[] = "Delete1";         // "Delete" Del
+inline constexpr char FindStrips1[] = "FindStrips1"; // "&Find strips..." Ctrl+F (an addition)
 
 // Production
 inline constexpr char Maindetails1[] = "Maindetails1"; // "&Main details..."
@@ -75,6 +76,10 @@ inline constexpr char N1101[] = "N1101";             // "110%"
 inline constexpr char N1201[] = "N1201";             // "120%"
 inline constexpr char N1301[] = "N1301";             // "130%"
 inline constexpr char N1401[] = "N1401";             // "140%"
+// Additions: zoom by keys.
+inline constexpr char ZoomIn1[] = "ZoomIn1";       // "Zoom &in" Ctrl++
+inline constexpr char ZoomOut1[] = "ZoomOut1";     // "Zoom &out" Ctrl+-
+inline constexpr char ZoomReset1[] = "ZoomReset1"; // "&Actual size" Ctrl+0
 
 // Help
 inline constexpr char Contents1[] = "Contents1"; // "&Contents" F1

@@ -58,6 +58,22 @@ void MenuCommands::fillMenu(QMenu *menu, const QList<MenuItem> &items)
     place(menu, items, false);
 }
 
+void MenuCommands::claimAddedShortcuts()
+{
+    for (int row = 0; row < m_entries.size(); ++row) {
+        QAction *action = m_actions.at(row);
+        QList<QKeySequence> keys = action->shortcuts();
+        for (const QString &shortcut : m_entries.at(row).addedShortcuts) {
+            const QString key = keyText(shortcut);
+            if (m_claimedKeys.contains(key))
+                continue;
+            keys.append(QKeySequence(shortcut));
+            m_claimedKeys.insert(key, action);
+        }
+        action->setShortcuts(keys);
+    }
+}
+
 void MenuCommands::fillPopup(QMenu *popup, const QList<MenuItem> &items)
 {
     place(popup, items, true);

@@ -53,6 +53,9 @@ public:
     // both show it; giving it to both would make it ambiguous, and Qt would then fire
     // neither. Menus are therefore filled in the order the menu bar shows them.
     void fillMenu(QMenu *menu, const QList<MenuItem> &items);
+    // Gives the entries their added keys (MenuEntry::addedShortcuts) where no entry of
+    // the main menu holds them. Called once the main menu is filled.
+    void claimAddedShortcuts();
     // Fills the board's pop-up. Its entries show their keys, which the main menu holds.
     void fillPopup(QMenu *popup, const QList<MenuItem> &items);
 

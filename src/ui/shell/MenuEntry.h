@@ -35,6 +35,11 @@ struct MenuEntry
     std::function<void()> handler = {};
     // A check mark that the entry toggles ("Fullscreen", the zoom steps).
     bool checkable = false;
+    // Keys desktop programs commonly use for the entry ("Ctrl+S"), which the earlier
+    // edition did not give. They are added after every menu is placed, each only where
+    // no entry holds that key already, so a key of the earlier edition always wins and
+    // no key becomes ambiguous (MenuCommands::claimAddedShortcuts).
+    QStringList addedShortcuts = {};
 };
 
 using MenuTable = QList<MenuEntry>;

@@ -1,5 +1,7 @@
 #include "ui/shell/TfrmPref.h"
 
+#include "document/StandardColours.h"
+
 #include "document/LegacyText.h"
 #include "ui_TfrmPref.h"
 
@@ -59,6 +61,7 @@ TfrmPref::TfrmPref(ScheduleDocument &doc, Settings &settings, const QString &aut
         connect(slotButton(*m_ui, slot), &QPushButton::clicked, this, [this, slot] { SlotButClick(slot); });
     connect(m_ui->BackColorBut, &QPushButton::clicked, this, &TfrmPref::BackColorButClick);
     connect(m_ui->TextColorBut, &QPushButton::clicked, this, &TfrmPref::TextColorButClick);
+    connect(m_ui->ResetColoursBut, &QPushButton::clicked, this, &TfrmPref::ResetColoursButClick);
     connect(m_ui->FontBut, &QPushButton::clicked, this, &TfrmPref::FontButClick);
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmPref::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmPref::reject);
@@ -131,6 +134,17 @@ void TfrmPref::TextColorButClick()
     if (legacy::StringToColorValue(legacy::ColorToString(chosen), &value))
         m_pending.stripText[m_slot] = value;
     showSlotColours(m_slot);
+}
+
+void TfrmPref::ResetColoursButClick()
+{
+    // An addition of this edition: every slot back to the standard colours; like any
+    // colour chosen here, they are kept only with OK.
+    const StripColours standard = StandardStripColours();
+    m_pending.stripBackground = standard.background;
+    m_pending.stripText = standard.text;
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
+        showSlotColours(slot);
 }
 
 void TfrmPref::FontButClick()

@@ -44,6 +44,7 @@ public:
     void SlotButClick(int slot);
     void BackColorButClick();
     void TextColorButClick();
+    void ResetColoursButClick();
     void FontButClick();
 
 protected:

@@ -195,8 +195,9 @@ void TestSceneEditing::zeroLengthIsRefused()
     QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
     QCOMPARE(doc.strips.count(), 1);
     QCOMPARE(doc.values.NextStripId, 1);
-    // The snapshot was taken before the refusal, as the editor always did.
-    QCOMPARE(doc.undo.UndoDepth, 1);
+    // A refused scene takes no undo step (the earlier edition took one).
+    QCOMPARE(doc.undo.UndoDepth, 0);
+    QVERIFY(!doc.Modified);
 }
 
 void TestSceneEditing::insertStartsAsCopyOfThePlace()

@@ -3,6 +3,7 @@
 #include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
@@ -256,58 +257,69 @@ private Q_SLOTS:
             return (lines.join("\r\n") + "\r\n").toLatin1();
         };
         QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("message"); // the earlier edition's text the message starts with
+        QTest::addColumn<QString>("cause");   // what went wrong, in plain words
         QTest::addColumn<QString>("status");
-        QTest::addColumn<bool>("named"); // the path is kept after a read error
-        QTest::newRow("empty file") << QByteArray() << HeaderError << "Error reading file." << false;
-        QTest::newRow("wrong header") << with(0, "Some other file") << HeaderError << "Error reading file." << false;
+        const QString notSchedule = "is not a Torvanbridge schedule";
+        QTest::newRow("empty file") << QByteArray() << HeaderError << notSchedule << "Error reading file.";
+        QTest::newRow("wrong header") << with(0, "Some other file") << HeaderError << notSchedule
+                                      << "Error reading file.";
         QTest::newRow("trailing blank on header")
-            << with(0, QString(ScheduleFileHeader) + " ") << HeaderError << "Error reading file." << false;
+            << with(0, QString(ScheduleFileHeader) + " ") << HeaderError << notSchedule << "Error reading file.";
         QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12) << HeaderError
-                                        << "Error reading file." << false;
-        QTest::newRow("zoom not a number") << with(12, "wide") << OpenError << "Error opening file." << true;
-        QTest::newRow("hold days not a number") << with(17, "ten") << OpenError << "Error opening file." << true;
-        QTest::newRow("strip count not a number") << with(21, "x1") << OpenError << "Error opening file." << true;
-        QTest::newRow("strip count huge") << with(21, "99999999999") << OpenError << "Error opening file." << true;
-        QTest::newRow("strip count past capacity")
-            << with(21, "1001")
-            << OpenError + "\r\rThe file holds 1001 strips; a schedule can hold at most 1000 strips."
-            << "Error opening file." << true;
-        QTest::newRow("element count negative")
-            << with(22, "-1") << OpenError + "\r\rLine 23 gives -1 as the number of elements."
-            << "Error opening file." << true;
+                                        << notSchedule << "Error reading file.";
+        const QString open = "Error opening file ";
+        QTest::newRow("zoom not a number") << with(12, "wide") << open << "line 13 should hold a number"
+                                           << "Error opening file.";
+        QTest::newRow("hold days not a number") << with(17, "ten") << open << "line 18 should hold a number"
+                                                << "Error opening file.";
+        QTest::newRow("strip count not a number") << with(21, "x1") << open << "line 22 should hold a number"
+                                                  << "Error opening file.";
+        QTest::newRow("strip count huge") << with(21, "99999999999") << open << "line 22 should hold a number"
+                                          << "Error opening file.";
+        QTest::newRow("strip count past capacity") << with(21, "1001") << open
+            << "The file holds 1001 strips; a schedule can hold at most 1000 strips."
+                                                   << "Error opening file.";
+        QTest::newRow("element count negative") << with(22, "-1") << open << "Line 23 gives -1 as the number of elements."
+                                                << "Error opening file.";
         QTest::newRow("strip count too large for the file")
-            << with(21, "2") << OpenError << "Error opening file." << true;
+            << with(21, "2") << open << "The file is cut short: it ends at line"
+            << "Error opening file.";
     }
 
+    // A file that fails to open leaves an empty, untitled document and a message that
+    // names the file and the cause.
     void malformed()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, message);
+        QFETCH(QString, cause);
         QFETCH(QString, status);
-        QFETCH(bool, named);
         const QString path = TempPath("bad.tbf");
         writeAll(path, bytes);
 
         ScheduleDocument doc;
         ScriptedPrompter prompter;
         RecordingStatus sink;
+        RecordingView view;
         doc.setPrompter(&prompter);
         doc.setStatusSink(&sink);
+        doc.setView(&view);
         AddScene(doc, "old", "1");
         doc.FileName = "/old/path.tbf";
         const Result result = OpenDocument(doc, path);
         QVERIFY(!result.ok());
-        QCOMPARE(result.message(), message);
-        QCOMPARE(prompter.texts(), QStringList{message});
+        QVERIFY2(result.message().startsWith(message), qPrintable(result.message()));
+        QVERIFY2(result.message().contains(cause), qPrintable(result.message()));
+        QVERIFY(result.message().contains(QDir::toNativeSeparators(path)));
+        QCOMPARE(prompter.texts(), QStringList{result.message()});
         QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
-        QCOMPARE(prompter.prompts.first().beep, message == HeaderError);
         QCOMPARE(sink.panels.value(StatusSink::MessagePanel), status);
-        QCOMPARE(doc.FileName, named ? path : QString());
+        QCOMPARE(doc.FileName, QString());
         QVERIFY(!doc.Modified);
         QVERIFY(!sink.busy);
-        if (!named)
-            QCOMPARE(doc.strips.count(), 0); // the old document is gone all the same
+        QCOMPARE(doc.strips.count(), 0);
+        QVERIFY(!view.recent.contains(path));
     }
 
     void cutAfterEveryLine()
@@ -326,7 +338,13 @@ private Q_SLOTS:
             reopened.setPrompter(&prompter);
             QVERIFY(!OpenDocument(reopened, path).ok());
             QCOMPARE(prompter.prompts.size(), 1);
-            QCOMPARE(prompter.texts().first(), kept == 0 ? HeaderError : OpenError);
+            const QString text = prompter.texts().first();
+            if (kept == 0)
+                QVERIFY(text.startsWith(HeaderError));
+            else
+                QVERIFY2(text.contains("The file is cut short: it ends at line " + QString::number(kept) + ","),
+                         qPrintable(text));
+            QCOMPARE(reopened.strips.count(), 0);
         }
         // The whole file opens, even without its last line end.
         QStringList whole = lines;

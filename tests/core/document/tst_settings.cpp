@@ -3,6 +3,7 @@
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
 #include "document/Settings.h"
+#include "document/StandardColours.h"
 
 #include <QDir>
 #include <QFile>
@@ -55,10 +56,11 @@ private slots:
         Settings s(TempPath("none/Torvanbridge.ini"));
         QVERIFY(s.LoadSettings().isEmpty());
         QCOMPARE(s.autosaveMinutes, 0);
-        for (int slot = 1; slot <= StripSlotCount; ++slot) {
-            QCOMPARE(legacy::ColorValueToString(s.stripBackground[slot]), "clWhite");
-            QCOMPARE(legacy::ColorValueToString(s.stripText[slot]), "clBlack");
-        }
+        // A first start: the standard colours, not all white (a departure); an
+        // existing file without colour keys still gives white strips.
+        QCOMPARE(s.stripBackground, StandardStripColours().background);
+        QCOMPARE(s.stripText, StandardStripColours().text);
+        QCOMPARE(legacy::ColorValueToString(s.stripBackground[int(StripSlot::DayExt)]), "clYellow");
         QCOMPARE(s.boardFont, "Arial");
         QCOMPARE(s.descLine1, 12); // location over synopsis
         QCOMPARE(s.descLine2, 7);

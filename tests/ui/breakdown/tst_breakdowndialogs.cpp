@@ -167,7 +167,7 @@ private Q_SLOTS:
     void nextStopsAtTheLastStrip();
     void insertModeDisablesApplyAndStepping();
     void applyInAddModeAppendsAgain();
-    void zeroLengthStillCloses();
+    void zeroLengthKeepsTheDialogOpen();
     void addNewThenCancelFlagsTheLastElement();
     void applyNextTwice();
     void categoryChangeGivesCastNumber();
@@ -354,16 +354,23 @@ void TestBreakdownDialogs::applyInAddModeAppendsAgain()
     QCOMPARE(doc.strips.count(), 6);
 }
 
-void TestBreakdownDialogs::zeroLengthStillCloses()
+void TestBreakdownDialogs::zeroLengthKeepsTheDialogOpen()
 {
     ScheduleDocument &doc = small();
     RememberingPrompter &prompter = *prompterp;
     TfrmStrip &dialog = openScene(SceneMode::Add, 0);
+    child<QLineEdit>(dialog, "SceneEdit")->setText("77");
     child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
     click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
     QCOMPARE(prompter.prompts.size(), 1);
     QCOMPARE(doc.strips.count(), 4);
+    click(dialog, "AddContBut"); // Apply refuses the same way
+    QVERIFY(dialog.isVisible());
+    QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
+    QCOMPARE(doc.strips.count(), 4);
+    click(dialog, "CancelBut");
 }
 
 void TestBreakdownDialogs::addNewThenCancelFlagsTheLastElement()

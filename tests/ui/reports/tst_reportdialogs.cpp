@@ -376,6 +376,24 @@ void TestReportDialogs::elementSummaryDialogCategories()
     keepScreenshot(dialog, QStringLiteral("TfrmElUse"));
     ui.FilterList->item(3)->setCheckState(Qt::Checked);
     QCOMPARE(dialog.options().categories, QSet<int>({1, 4}));
+    // The preview shows the title and the company, which are the first texts on the
+    // page and black: dark pixels where they stand, left of the director's name.
+    int darkPixels = -1;
+    PreviewWindowHook = [&](TfrmPreview &preview) {
+        preview.resize(900, 700);
+        preview.show();
+        QWidget *view = preview.Previewer()->viewport();
+        QImage image(view->size(), QImage::Format_RGB32);
+        view->render(&image);
+        darkPixels = 0;
+        for (int y = 20 + 28; y < 20 + 80; ++y)
+            for (int x = 0; x < 400; ++x)
+                darkPixels += qGray(image.pixel(x, y)) < 80 ? 1 : 0;
+        return false;
+    };
+    QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
+    PreviewWindowHook = nullptr;
+    QVERIFY2(darkPixels > 200, qPrintable(QString::number(darkPixels)));
     const QString path = TempPath("dialog-elements.pdf");
     ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
     dialog.printerChoice().choosePdfFile = [&](QWidget *, const QString &) { return path; };

@@ -1,0 +1,100 @@
+#include "TestSupport.h"
+
+#include "board/FindStrips.h"
+#include "document/DocumentOperations.h"
+
+#include <QTest>
+
+using namespace tb;
+using namespace tb::test;
+
+// A board of five scenes, a divider and a banner:
+//   1 sc 1 "HARBOUR WALL"  2 sc 2 "LIGHTHOUSE"  3 divider  4 sc 3A set "Lamp room"
+//   5 banner "TRAVEL DAY"  6 sc 4 sequence "Storm"  7 sc 5, assigned element "Mara Quinn"
+class TestFindStrips : public QObject
+{
+    Q_OBJECT
+
+    ScheduleDocument doc;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        AddScene(doc, "1", "1");
+        doc.strips[1].set(StripField::Location, QStringLiteral("HARBOUR WALL"));
+        AddScene(doc, "2", "1");
+        doc.strips[2].set(StripField::Location, QStringLiteral("LIGHTHOUSE"));
+        doc.strips[2].set(StripField::Synopsis, QStringLiteral("Mara climbs the stair"));
+        AddDivider(doc);
+        AddScene(doc, "3A", "1");
+        doc.strips[4].set(StripField::SetName, QStringLiteral("Lamp room"));
+        AddBanner(doc, "TRAVEL DAY");
+        AddScene(doc, "4", "1");
+        doc.strips[6].set(StripField::Sequence, QStringLiteral("Storm"));
+        AddScene(doc, "5", "1");
+        AddElement(doc, "Mara Quinn");
+        AddAssignment(doc, 7, 1);
+    }
+
+    void matches_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("scene number") << "3a"
+                                      << "4";
+        QTest::newRow("location, any case") << "harbour"
+                                            << "1";
+        QTest::newRow("set") << "lamp"
+                             << "4";
+        QTest::newRow("synopsis and element") << "mara"
+                                              << "2 7";
+        QTest::newRow("sequence") << "STORM"
+                                  << "6";
+        QTest::newRow("banners are not searched") << "travel"
+                                                  << "";
+        QTest::newRow("nothing") << "desert"
+                                 << "";
+        QTest::newRow("blank finds nothing") << "  "
+                                             << "";
+    }
+    void matches()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, rows);
+        QStringList found;
+        for (int row = 1; row <= doc.strips.count(); ++row)
+            if (StripMatches(doc, row, text))
+                found.append(QString::number(row));
+        QCOMPARE(found.join(u' '), rows);
+        QCOMPARE(CountMatchingStrips(doc, text), int(found.size()));
+    }
+
+    void nextAndPreviousGoRound_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<bool>("forward");
+        QTest::addColumn<int>("found");
+        QTest::newRow("from nothing forward") << 0 << true << 2;
+        QTest::newRow("from nothing backward") << 0 << false << 7;
+        QTest::newRow("forward past the end") << 7 << true << 2;
+        QTest::newRow("forward") << 2 << true << 7;
+        QTest::newRow("backward past the start") << 2 << false << 7;
+        QTest::newRow("out of range forward") << 99 << true << 2;
+    }
+    void nextAndPreviousGoRound()
+    {
+        QFETCH(int, from);
+        QFETCH(bool, forward);
+        QFETCH(int, found);
+        QCOMPARE(FindStrip(doc, QStringLiteral("mara"), from, forward), found);
+    }
+
+    void singleMatchIsFoundAgain()
+    {
+        QCOMPARE(FindStrip(doc, QStringLiteral("storm"), 6, true), 6);
+        QCOMPARE(FindStrip(doc, QStringLiteral("desert"), 1, true), 0);
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestFindStrips)
+#include "tst_findstrips.moc"
