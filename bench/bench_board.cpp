@@ -28,9 +28,9 @@ void BM_RepaintBoard(benchmark::State &state)
     BoardBuffer buffer;
     (void)buffer.SetBufferSize(1920, 1080);
     QImage window(1920, 1080, QImage::Format_RGB32);
-    BoardDrawState drawState;
+    BoardTextCache texts;
     for (auto _ : state) {
-        const QString last = buffer.paint(doc, style, 1, 1, scale, &drawState);
+        const BoardDrawResult last = buffer.paint(doc, style, 1, 1, scale, &texts);
         QPainter p(&window);
         p.setCompositionMode(QPainter::CompositionMode_Source);
         p.drawImage(0, 0, buffer.image());
@@ -46,10 +46,12 @@ void BM_DrawBoard(benchmark::State &state)
     bench::FillToCapacity(doc);
     const BoardStyle style = ClassicBoardStyle();
     QImage image(1920, 1080, QImage::Format_RGB32);
-    BoardDrawState drawState;
+    BoardTextCache texts;
+    BoardDrawOptions options;
+    options.texts = &texts;
     for (auto _ : state) {
         QPainter p(&image);
-        const QString last = DrawBoard(doc, style, 1, 1, -1, true, true, false, true, 1.0, 0, 0, p, &drawState);
+        const BoardDrawResult last = DrawBoard(doc, style, options, p);
         benchmark::DoNotOptimize(last);
     }
 }

@@ -18,7 +18,6 @@
 #include "ui/shell/MenuActions.h"
 #include "ui/shell/PanelStatusBar.h"
 #include "ui/shell/RecentFilesList.h"
-#include "ui/shell/StyleFromSettings.h"
 #include "ui/shell/TfrmPref.h"
 #include "ui/shell/ToolIcons.h"
 
@@ -608,8 +607,9 @@ void TfrmMain::applySettings()
     m_board->setStyle(StyleFromSettings(m_settings));
     // New banners and converted rest days take the "Banner" colour pair.
     if (SchedulingCommands *scheduling = FindSchedulingCommands(*this))
-        scheduling->setBannerColours({legacy::ColorValueToString(m_settings.stripBackground[9]),
-                                      legacy::ColorValueToString(m_settings.stripText[9])});
+        scheduling->setBannerColours(
+            {legacy::ColorValueToString(m_settings.stripBackground[static_cast<int>(StripSlot::Banner)]),
+             legacy::ColorValueToString(m_settings.stripText[static_cast<int>(StripSlot::Banner)])});
 }
 
 void TfrmMain::FormShow()

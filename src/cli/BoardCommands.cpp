@@ -2,6 +2,7 @@
 
 #include "board/DrawBoard.h"
 #include "document/ScheduleFile.h"
+#include "document/Settings.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -19,13 +20,13 @@ namespace {
 // the page holds what a window of the same size would show.
 constexpr int PdfResolution = 96;
 
+// What the window's paint box shows: header, element column, colour, no printing
+// rules, at the size asked for.
 struct BoardRender
 {
-    double scale = 1.0;
     int width = 1920;
     int height = 1080;
-    int firstStrip = 1;
-    int firstElement = 1;
+    BoardDrawOptions options;
     BoardStyle style;
 };
 
@@ -43,15 +44,23 @@ bool readInt(const ArgParser &args, const QString &name, int low, int high, int 
     return true;
 }
 
-QString drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &painter)
+BoardDrawResult drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &painter)
 {
     painter.setClipRect(QRect(0, 0, r.width, r.height));
-    // What the window's paint box shows: header, element column, colour, no printing rules.
-    return DrawBoard(doc, r.style, r.firstStrip, r.firstElement, -1, true, true, false, true, r.scale, 0, 0, painter);
+    return DrawBoard(doc, r.style, r.options, painter);
+}
+
+// The strip colours of "--colours": the paper stripboard's, or the white strips of a
+// program without preferences. Font, description lines and day numbering stay the
+// user's.
+void overrideColours(BoardStyle &style, const BoardStyle &colours)
+{
+    style.background = colours.background;
+    style.text = colours.text;
 }
 
 // Writes through a temporary file, so a failed render leaves no half-written file.
-QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &out, bool pdf, QString *lastDrawn)
+QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &out, bool pdf, BoardDrawResult *drawn)
 {
     QSaveFile file(out);
     if (!file.open(QIODevice::WriteOnly))
@@ -68,7 +77,7 @@ QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &
         QPainter painter;
         if (!painter.begin(&writer))
             return QStringLiteral("Cannot start a PDF in %1").arg(out);
-        *lastDrawn = drawInto(doc, r, painter);
+        *drawn = drawInto(doc, r, painter);
         painter.end();
     } else {
         QImage image(r.width, r.height, QImage::Format_RGB32);
@@ -77,7 +86,7 @@ QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &
         image.fill(Qt::white);
         {
             QPainter painter(&image);
-            *lastDrawn = drawInto(doc, r, painter);
+            *drawn = drawInto(doc, r, painter);
         }
         if (!image.save(&file, "PNG"))
             return QStringLiteral("Cannot write %1").arg(out);
@@ -112,42 +121,53 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
     BoardRender r;
     if (args.has(QStringLiteral("--scale"))) {
         bool ok = false;
-        r.scale = args.value(QStringLiteral("--scale")).toDouble(&ok);
-        if (!ok || !(r.scale >= 0.1 && r.scale <= 10))
+        r.options.scale = args.value(QStringLiteral("--scale")).toDouble(&ok);
+        if (!ok || !(r.options.scale >= 0.1 && r.options.scale <= 10))
             return UsageError(ctx, command, QStringLiteral("--scale must be a number from 0.1 to 10"));
     }
     if (!readInt(args, QStringLiteral("--width"), 1, 20000, &r.width, &error) ||
         !readInt(args, QStringLiteral("--height"), 1, 20000, &r.height, &error) ||
-        !readInt(args, QStringLiteral("--first-strip"), 1, MaxStrips, &r.firstStrip, &error) ||
-        !readInt(args, QStringLiteral("--first-element"), 1, MaxElements, &r.firstElement, &error))
+        !readInt(args, QStringLiteral("--first-strip"), 1, MaxStrips, &r.options.firstStrip, &error) ||
+        !readInt(args, QStringLiteral("--first-element"), 1, MaxElements, &r.options.firstElement, &error))
         return UsageError(ctx, command, error);
-    const QString colours = args.value(QStringLiteral("--colours"), QStringLiteral("classic"));
-    if (colours == QLatin1String("classic"))
-        r.style = ClassicBoardStyle();
-    else if (colours != QLatin1String("plain"))
+    const QString colours = args.value(QStringLiteral("--colours"));
+    if (args.has(QStringLiteral("--colours")) && colours != QLatin1String("classic") &&
+        colours != QLatin1String("plain"))
         return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
+
+    // The board as the window draws it: with the user's preferences, read as the
+    // window reads them (a value that does not convert is reported and its default used).
+    Settings settings;
+    for (const QString &problem : settings.LoadSettings())
+        ctx.err << problem << Qt::endl;
+    r.style = StyleFromSettings(settings);
+    if (colours == QLatin1String("classic"))
+        overrideColours(r.style, ClassicBoardStyle());
+    else if (colours == QLatin1String("plain"))
+        overrideColours(r.style, BoardStyle());
 
     ScheduleDocument doc;
     doc.setPrompter(&ctx.prompter);
     if (!OpenDocument(doc, args.positional().first()))
         return ExitUserError;
 
-    QString lastDrawn;
-    const QString failed = renderBoard(doc, r, out, suffix == QLatin1String("pdf"), &lastDrawn);
+    BoardDrawResult drawn;
+    const QString failed = renderBoard(doc, r, out, suffix == QLatin1String("pdf"), &drawn);
     if (!failed.isEmpty()) {
         ctx.err << failed << Qt::endl;
         return ExitUserError;
     }
-    const int lastStrip = lastDrawn.left(3).trimmed().toInt();
-    const int lastRow = lastDrawn.mid(3).trimmed().toInt();
-    ctx.out << out << ": " << r.width << " x " << r.height << " at " << qRound(r.scale * 100) << "%, ";
-    if (doc.strips.count() > 0 && lastStrip >= r.firstStrip)
-        ctx.out << "strips " << r.firstStrip << "-" << lastStrip;
+    const int firstStrip = r.options.firstStrip;
+    const int firstElement = r.options.firstElement;
+    const int lastStrip = drawn.lastStrip.value_or(0);
+    ctx.out << out << ": " << r.width << " x " << r.height << " at " << qRound(r.options.scale * 100) << "%, ";
+    if (doc.strips.count() > 0 && lastStrip >= firstStrip)
+        ctx.out << "strips " << firstStrip << "-" << lastStrip;
     else
         ctx.out << "no strips";
     ctx.out << ", ";
-    if (doc.elements.count() > 0 && lastRow >= r.firstElement)
-        ctx.out << "element rows " << r.firstElement << "-" << lastRow;
+    if (doc.elements.count() > 0 && drawn.lastElement >= firstElement)
+        ctx.out << "element rows " << firstElement << "-" << drawn.lastElement;
     else
         ctx.out << "no element rows";
     ctx.out << Qt::endl;
@@ -162,7 +182,11 @@ void AddBoardCommands(CommandList &commands)
                      QStringLiteral("board IN -o OUT.png|OUT.pdf [--scale S] [--width W] [--height H] "
                                     "[--first-strip N] [--first-element N] [--colours classic|plain]"),
                      QStringLiteral("Draw the production board as the window shows it (1920 x 1080 at scale 1 "
-                                    "unless told, classic strip colours) to a PNG image or a one-page PDF."),
+                                    "unless told) with the strip colours, font, description lines and day "
+                                    "numbering of your preferences (Torvanbridge.ini), to a PNG image or a "
+                                    "one-page PDF. --colours classic draws paper stripboard colours, --colours "
+                                    "plain the white strips of a program without preferences, instead of the "
+                                    "preferences' colours."),
                      {}};
     board.run = [board](CliContext &ctx, const QStringList &args) { return runBoard(ctx, board, args); };
     commands.append(board);

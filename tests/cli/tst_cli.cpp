@@ -397,33 +397,51 @@ void TestCli::info()
 void TestCli::board_data()
 {
     QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("settings"); // the user's Torvanbridge.ini; empty: none
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("out");   // stdout after "OUT: "
     QTest::addColumn<QPoint>("pixel");  // of the PNG
     QTest::addColumn<QString>("check"); // its colour, or what the PDF holds
 
-    // At 140% the fifth strip, a day divider, is black.
-    Row("png", L{"--scale", "1.4", "--width", "900", "--height", "700"}, "board.png",
-        "900 x 700 at 140%, strips 1-12, element rows 1-12", QPoint(280 + 4 * 56 + 28, 400 + 25 * 5 + 12), "#000000");
-    // Without a colour scheme the same divider, now first, is white.
+    // At 140% the fifth strip is a day divider, drawn with the user's divider colour.
+    const L big{"--scale", "1.4", "--width", "900", "--height", "700"};
+    const QPoint divider(280 + 4 * 56 + 28, 400 + 25 * 5 + 12);
+    const QByteArray redDividers("[Strips]\r\nCB7=clRed\r\n");
+    Row("preferences", big, redDividers, "board.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
+        "#ff0000");
+    Row("classic over preferences", big + L{"--colours", "classic"}, redDividers, "classic.png",
+        "900 x 700 at 140%, strips 1-12, element rows 1-12", divider, "#000000");
+    // Without preferences, or with plain colours, the same divider, now first, is white.
     Row("plain colours, scrolled",
         L{"--colours", "plain", "--first-strip", "5", "--first-element", "10", "--width", "800", "--height", "600"},
-        "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27", QPoint(200 + 20, 288 + 18 * 3 + 9),
+        redDividers, "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27",
+        QPoint(200 + 20, 288 + 18 * 3 + 9), "#ffffff");
+    Row("no preferences", big, QByteArray(), "none.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
         "#ffffff");
     // One page, 1200 x 800 pixels at 96 per inch: 900 x 600 points.
-    Row("pdf", L{"--width", "1200", "--height", "800"}, "board.pdf",
+    Row("pdf", L{"--width", "1200", "--height", "800"}, QByteArray(), "board.pdf",
         "1200 x 800 at 100%, strips 1-25, element rows 1-29", QPoint(), "/MediaBox [0 0 900.000000 600.000000]");
 }
 
 void TestCli::board()
 {
     QFETCH(QStringList, options);
+    QFETCH(QByteArray, settings);
     QFETCH(QString, file);
     QFETCH(QString, out);
     QFETCH(QPoint, pixel);
     QFETCH(QString, check);
+    // The test runner's private configuration folder stands for the user's.
+    const QString ini = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini";
+    QFile::remove(ini);
+    if (!settings.isEmpty()) {
+        QDir().mkpath(qEnvironmentVariable("XDG_CONFIG_HOME"));
+        QFile f(ini);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(settings) == settings.size());
+    }
     const QString path = TempPath(file);
     const CliRun run = RunCli(L{"board", Example, "-o", path} + options);
+    QFile::remove(ini);
     QCOMPARE(run.code, 0);
     QCOMPARE(run.out, path + ": " + out + u'\n');
     if (file.endsWith(".pdf")) {

@@ -27,14 +27,19 @@ Result BoardBuffer::SetBufferSize(int width, int height, qreal devicePixelRatio)
     return Result::success();
 }
 
-QString BoardBuffer::paint(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement,
-                           double scale, BoardDrawState *state)
+BoardDrawResult BoardBuffer::paint(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement,
+                                   double scale, BoardTextCache *texts)
 {
     if (m_image.isNull())
         return {};
     QPainter painter(&m_image);
     painter.setClipRect(QRect(QPoint(0, 0), m_size));
-    return DrawBoard(doc, style, firstStrip, firstElement, -1, true, true, false, true, scale, 0, 0, painter, state);
+    BoardDrawOptions options;
+    options.firstStrip = firstStrip;
+    options.firstElement = firstElement;
+    options.scale = scale;
+    options.texts = texts;
+    return DrawBoard(doc, style, options, painter);
 }
 
 } // namespace tb

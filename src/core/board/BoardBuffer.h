@@ -21,8 +21,8 @@ public:
 
     // PBoxPaint's drawing: the board from the first strip and element row shown, with
     // header and element column, in colour, at the zoom scale, at (0, 0).
-    QString paint(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement, double scale,
-                  BoardDrawState *state);
+    BoardDrawResult paint(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement,
+                          double scale, BoardTextCache *texts);
 
     const QImage &image() const { return m_image; }
     QSize size() const { return m_size; }

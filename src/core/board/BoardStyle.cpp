@@ -1,38 +1,38 @@
 #include "board/BoardStyle.h"
 
+#include "document/LegacyText.h"
+#include "document/Settings.h"
+
 namespace tb {
 
-QString StripSlotCaption(StripSlot slot)
-{
-    switch (slot) {
-    case StripSlot::DayExt:
-        return QStringLiteral("Day - Ext");
-    case StripSlot::DayInt:
-        return QStringLiteral("Day - Int");
-    case StripSlot::DayIntExt:
-        return QStringLiteral("Day - Int/Ext");
-    case StripSlot::NightExt:
-        return QStringLiteral("Night - Ext");
-    case StripSlot::NightInt:
-        return QStringLiteral("Night - Int");
-    case StripSlot::NightIntExt:
-        return QStringLiteral("Night - Int/Ext");
-    case StripSlot::DayDivider:
-        return QStringLiteral("Day divider");
-    case StripSlot::AutoRestDay:
-        return QStringLiteral("Auto rest day");
-    case StripSlot::Banner:
-        return QStringLiteral("Banner");
-    case StripSlot::Unknown:
-        break;
-    }
-    return QStringLiteral("Unknown");
-}
-
 BoardStyle::BoardStyle()
+    : fontName(SettingKeys::Font.fallback)
+    , DescLine1(SettingKeys::DescLine1.fallback)
+    , DescLine2(SettingKeys::DescLine2.fallback)
+    , ShowShootingDays(SettingKeys::ShowShootingDays.fallback)
+    , ScenePopups(SettingKeys::ScenePopups.fallback)
 {
     background.fill(QColor(Qt::white));
     text.fill(QColor(Qt::black));
+    for (int slot = 1; slot <= StripSlotCount; ++slot) {
+        background[slot] = legacy::ColorValueToQColor(SettingKeys::StripBackground(slot).fallback);
+        text[slot] = legacy::ColorValueToQColor(SettingKeys::StripText(slot).fallback);
+    }
+}
+
+BoardStyle StyleFromSettings(const Settings &settings)
+{
+    BoardStyle style;
+    for (int slot = 1; slot <= StripSlotCount; ++slot) {
+        style.background[slot] = legacy::ColorValueToQColor(settings.stripBackground[slot]);
+        style.text[slot] = legacy::ColorValueToQColor(settings.stripText[slot]);
+    }
+    style.fontName = settings.boardFont;
+    style.DescLine1 = settings.descLine1;
+    style.DescLine2 = settings.descLine2;
+    style.ShowShootingDays = settings.showShootingDays;
+    style.ScenePopups = settings.scenePopups;
+    return style;
 }
 
 BoardStyle ClassicBoardStyle()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/BoardPreferences.h"
+
 #include <QColor>
 #include <QString>
 
@@ -7,37 +9,12 @@
 
 namespace tb {
 
-// The ten colour slots of the preferences, numbered as the settings file numbers
-// them ("CB1".."CB10", "CT1".."CT10").
-enum class StripSlot : int {
-    DayExt = 1,
-    DayInt,
-    DayIntExt,
-    NightExt,
-    NightInt,
-    NightIntExt,
-    DayDivider,
-    AutoRestDay,
-    Banner,
-    Unknown,
-};
-inline constexpr int StripSlotCount = 10;
-
-// The caption of a slot in the preferences dialog ("Day - Ext" .. "Unknown").
-QString StripSlotCaption(StripSlot slot);
-
-// Description line codes: the strip field number plus one, as the preferences store them.
-namespace DescLineCodes {
-inline constexpr int Location = 12;
-inline constexpr int Synopsis = 7;
-inline constexpr int Sequence = 11;
-inline constexpr int SceneNumbers = 2;
-inline constexpr int Notes = 19;
-} // namespace DescLineCodes
+class Settings;
 
 // The preference values the board is drawn with. A default-constructed style is the
-// board of a program without a settings file: white strips with black text, Arial,
-// the location over the synopsis, shooting days counted, scene pop-ups on.
+// board of a program without a settings file (the fallbacks of the settings keys):
+// white strips with black text, Arial, the location over the synopsis, shooting days
+// counted, scene pop-ups on.
 struct BoardStyle
 {
     BoardStyle();
@@ -45,13 +22,13 @@ struct BoardStyle
     // Background and text colour per slot; index 0 is unused.
     std::array<QColor, StripSlotCount + 1> background;
     std::array<QColor, StripSlotCount + 1> text;
-    QString fontName = QStringLiteral("Arial");
-    int DescLine1 = DescLineCodes::Location;
-    int DescLine2 = DescLineCodes::Synopsis;
+    QString fontName;
+    int DescLine1;
+    int DescLine2;
     // "Days" are shooting days on the production board.
-    bool ShowShootingDays = true;
+    bool ShowShootingDays;
     // Pop-up scene description when the mouse is over a strip heading.
-    bool ScenePopups = true;
+    bool ScenePopups;
 
     const QColor &backgroundOf(StripSlot slot) const { return background[static_cast<int>(slot)]; }
     const QColor &textOf(StripSlot slot) const { return text[static_cast<int>(slot)]; }
@@ -62,9 +39,14 @@ struct BoardStyle
     }
 };
 
+// The board as the user's preferences draw it: the ten colour pairs, the font, the
+// two description lines, the shooting-days and scene pop-up settings. The window and
+// the command line both draw with it.
+BoardStyle StyleFromSettings(const Settings &settings);
+
 // The colours of a paper stripboard: white day interiors, yellow day exteriors, blue
-// night interiors, green night exteriors, black day dividers. Used by the command-line
-// renderer and offered as a starting point; the preferences default to white strips.
+// night interiors, green night exteriors, black day dividers. The command line's
+// "--colours classic"; the preferences default to white strips.
 BoardStyle ClassicBoardStyle();
 
 } // namespace tb

@@ -1,5 +1,6 @@
 #include "board/DrawBoard.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -42,27 +43,26 @@ struct FontTexts
     int shortenLimit = -1;
 };
 
-class BoardTextCache
-{
-public:
-    // Fonts are told apart by their full description and the device resolution;
-    // rotated text is kept apart from upright text, as its layout differs.
-    FontTexts &forFont(const QFont &font, int dpi, bool rotated)
-    {
-        const QString key =
-            font.toString() + (rotated ? QStringLiteral("@r") : QStringLiteral("@")) + QString::number(dpi);
-        auto it = m_fonts.find(key);
-        if (it == m_fonts.end()) {
-            if (m_fonts.size() > 64) // zooming and printing make a few dozen at most
-                m_fonts.clear();
-            it = m_fonts.insert(key, std::make_shared<FontTexts>());
-        }
-        return **it;
-    }
+BoardTextCache::BoardTextCache() = default;
+BoardTextCache::~BoardTextCache() = default;
 
-private:
-    QHash<QString, std::shared_ptr<FontTexts>> m_fonts;
-};
+FontTexts &BoardTextCache::forFont(const QFont &font, int dpi, bool rotated)
+{
+    // Fonts are told apart by their full description and the device resolution.
+    const QString key = font.toString() + (rotated ? QStringLiteral("@r") : QStringLiteral("@")) + QString::number(dpi);
+    auto it = m_fonts.find(key);
+    if (it == m_fonts.end()) {
+        if (m_fonts.size() > 64) // zooming and printing make a few dozen at most
+            m_fonts.clear();
+        it = m_fonts.insert(key, std::make_shared<FontTexts>());
+    }
+    return **it;
+}
+
+QString BoardDrawResult::lastDrawnText() const
+{
+    return (lastStrip ? legacy::Pad3(*lastStrip) : QString()) + legacy::Pad3(lastElement);
+}
 
 namespace {
 
@@ -255,25 +255,12 @@ QRect canvasExtent(const QPainter &p)
     return p.worldTransform().inverted().mapRect(whole);
 }
 
-// The assignment list of a strip as numbers; items that are not numbers match nothing.
+// The assignment list of a strip as numbers. The board cuts the list at commas and
+// passes over items that are not numbers: they match nothing and raise no message.
 QVarLengthArray<int, 32> assignmentNumbers(const StripRecord &strip)
 {
-    QVarLengthArray<int, 32> numbers;
-    const QString &list = strip[StripField::Assignments];
-    if (list.isEmpty())
-        return numbers;
-    qsizetype start = 0;
-    while (start <= list.size()) {
-        qsizetype comma = list.indexOf(u',', start);
-        if (comma < 0)
-            comma = list.size();
-        bool ok = false;
-        const int n = legacy::StrToInt(list.mid(start, comma - start), &ok);
-        if (ok)
-            numbers.append(n);
-        start = comma + 1;
-    }
-    return numbers;
+    return ReadAssignmentList(strip[StripField::Assignments], UnreadableItem::Skipped, AssignmentItems::AtCommas)
+        .numbers;
 }
 
 } // namespace
@@ -419,11 +406,17 @@ QString StripHintText(const StripRecord &strip)
     return {};
 }
 
-QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip, int firstElement, int lastStrip,
-                  bool withHeader, bool withElementColumn, bool forPrinting, bool inColour, double scale, int left,
-                  int top, QPainter &canvas, BoardDrawState *state)
+BoardDrawResult DrawBoard(ScheduleDocument &doc, const BoardStyle &style, const BoardDrawOptions &options,
+                          QPainter &canvas)
 {
-    QString result;
+    BoardDrawResult result;
+    const bool withHeader = options.withHeader;
+    const bool withElementColumn = options.withElementColumn;
+    const bool forPrinting = options.forPrinting;
+    const bool inColour = options.inColour;
+    const double scale = options.scale;
+    const int left = options.left;
+    const int top = options.top;
     // A printed board leaves nothing selected on the screen afterwards.
     if (forPrinting) {
         doc.SelStart = 0;
@@ -434,10 +427,9 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
     const ElementTable &elements = doc.elements;
     const int stripCount = strips.count();
     const int elementCount = elements.count();
-    if (lastStrip == -1)
-        lastStrip = stripCount;
-    firstStrip = qMax(firstStrip, 1);
-    firstElement = qMax(firstElement, 1);
+    const int lastStrip = options.lastStrip == -1 ? stripCount : options.lastStrip;
+    const int firstStrip = qMax(options.firstStrip, 1);
+    const int firstElement = qMax(options.firstElement, 1);
 
     const QRect extent = canvasExtent(canvas);
     const int right = extent.x() + extent.width();
@@ -449,8 +441,7 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
     const int colW = g.colW;
     const int headerH = g.headerH;
     const int m = g.margin;
-    if (state)
-        state->headerHeight = headerH;
+    result.headerHeight = headerH;
 
     // Fonts are sized for the device drawn on, so screen, image, PDF and printer keep
     // the same proportions.
@@ -469,9 +460,7 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
     canvas.setRenderHint(QPainter::TextAntialiasing, true);
     canvas.setCompositionMode(QPainter::CompositionMode_SourceOver);
     canvas.setBrush(Qt::NoBrush);
-    if (state && !state->texts)
-        state->texts = std::make_shared<BoardTextCache>();
-    Canvas c(canvas, state ? state->texts.get() : nullptr);
+    Canvas c(canvas, options.texts);
 
     // The whole extent white. The strip columns below cover their part of it from the
     // board's top to the bottom, so only the rest is filled here: the same picture with
@@ -622,10 +611,10 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
         }
         endX = x;
         stripsDrawn = i - firstStrip;
-        result += legacy::Pad3(i - 1);
-        if (forPrinting && state) {
-            state->printedRight = x;
-            state->printedBottom = markRowsEnd;
+        result.lastStrip = i - 1;
+        if (forPrinting) {
+            result.printedRight = x;
+            result.printedBottom = markRowsEnd;
         }
     }
 
@@ -721,7 +710,7 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
         }
         lastElement = row - 1;
     }
-    result += legacy::Pad3(lastElement);
+    result.lastElement = lastElement;
 
     // The grid. Lines darken what lies beneath them (destination AND NOT silver), so
     // they show on every strip colour; devices without raster operations get a dark
@@ -751,8 +740,8 @@ QString DrawBoard(ScheduleDocument &doc, const BoardStyle &style, int firstStrip
     }
 
     // Below the last row: white, so nothing of an earlier drawing remains.
-    if (forPrinting && elementCount == 0 && state)
-        state->printedBottom = headerH;
+    if (forPrinting && elementCount == 0)
+        result.printedBottom = headerH;
     c.fill(left, lastRowBottom + 1, right, bottom, Qt::white);
 
     canvas.restore();

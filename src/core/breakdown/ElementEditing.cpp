@@ -1,5 +1,6 @@
 #include "breakdown/ElementEditing.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/UndoStore.h"
@@ -17,26 +18,6 @@ int intOrZero(const QString &text)
     bool ok = false;
     const int value = legacy::StrToInt(text, &ok);
     return ok ? value : 0;
-}
-
-// The element numbers of a strip's list, as IsAssigned reads them: the list is read
-// up to the first item that is no number, which is reported once.
-QList<int> readAssignments(const ScheduleDocument &doc, int strip)
-{
-    QList<int> numbers;
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return numbers;
-    for (const QString &item : legacy::SplitCommaText(list)) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            break;
-        }
-        numbers.append(number);
-    }
-    return numbers;
 }
 
 } // namespace
@@ -215,19 +196,14 @@ void SortElementRows(ScheduleDocument &doc)
 
     for (int s = 1; s <= doc.strips.count(); ++s) {
         QList<int> numbers;
-        for (int old : readAssignments(doc, s)) {
+        for (int old : ReadStripAssignments(doc, s)) {
             if (old >= 1 && old <= count && newIndex.at(old) > 0)
                 numbers.append(newIndex.at(old));
         }
         // The new list is built element by element in the new order, each once.
         std::sort(numbers.begin(), numbers.end());
         numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
-        QString list;
-        for (int number : numbers) {
-            if (!list.isEmpty())
-                list += u',';
-            list += QString::number(number);
-        }
+        const QString list = JoinAssignmentList(numbers);
         if (doc.strips[s][StripField::Assignments] != list)
             doc.strips[s].set(StripField::Assignments, list);
     }

@@ -1,5 +1,6 @@
 #include "breakdown/SceneEditing.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/UndoStore.h"
@@ -132,25 +133,10 @@ QString SceneCaption(const ScheduleDocument &doc, int mode, int current)
 
 AssignmentFlags SceneAssignmentFlags(const ScheduleDocument &doc, int mode, int current)
 {
-    AssignmentFlags flags(doc.elements.count() + 1, false);
     if (mode != SceneMode::Edit || current < 1 || current > doc.strips.count())
-        return flags;
-    // One pass over the strip's list rather than one IsAssigned per element. An item
-    // that is no number ends the list there, as IsAssigned stops at it.
-    const QString &list = doc.strips[current][StripField::Assignments];
-    if (list.isEmpty())
-        return flags;
-    for (const QString &item : legacy::SplitCommaText(list)) {
-        bool ok = false;
-        const int element = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            break;
-        }
-        if (element >= 1 && element < flags.size())
-            flags[element] = true;
-    }
-    return flags;
+        return AssignmentFlags(doc.elements.count() + 1, false);
+    // One pass over the strip's list rather than one IsAssigned per element.
+    return AssignedElementFlags(doc, current);
 }
 
 bool AddToPickList(QStringList &list, const QString &value)

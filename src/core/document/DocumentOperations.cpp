@@ -1,5 +1,6 @@
 #include "document/DocumentOperations.h"
 
+#include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
 #include "document/LegacyText.h"
 
@@ -7,74 +8,42 @@
 
 namespace tb {
 
-using legacy::JoinCommaText;
-using legacy::SplitCommaText;
-
 void AddAssignment(ScheduleDocument &doc, int strip, int element)
 {
     StripRecord &row = doc.strips[strip];
-    const QString &list = row[StripField::Assignments];
-    // The padded search is the program's long-standing duplicate test; see the header.
-    if (list.contains(legacy::Pad3(element)))
-        return;
-    const QString number = QString::number(element);
-    row.set(StripField::Assignments, list.isEmpty() ? number : list + u',' + number);
+    const QString list = AppendToAssignmentList(row[StripField::Assignments], element);
+    if (list != row[StripField::Assignments])
+        row.set(StripField::Assignments, list);
 }
 
 bool IsAssigned(const ScheduleDocument &doc, int strip, int element)
 {
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return false;
-    const QStringList items = SplitCommaText(list);
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            // "stip" is the program's own spelling of this message.
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            return false;
-        }
-        if (number == element)
-            return true;
-    }
+    // Items are compared in order, so an element before an unreadable item is found
+    // without a message.
+    const AssignmentRead read =
+        ReadAssignmentList(doc.strips[strip][StripField::Assignments], UnreadableItem::EndsList);
+    if (read.numbers.contains(element))
+        return true;
+    if (read.unreadable)
+        doc.prompter().error(QString::fromLatin1(AssignmentReadError));
     return false;
 }
 
 void RemoveAssignment(ScheduleDocument &doc, int strip, int element)
 {
     StripRecord &row = doc.strips[strip];
-    QStringList items = SplitCommaText(row[StripField::Assignments]);
-    for (int i = 0; i < items.size();) {
-        bool ok = false;
-        const int number = legacy::StrToInt(items.at(i), &ok);
-        if (!ok) {
-            doc.prompter().error(QStringLiteral("Error removing assignment!"));
-            return;
-        }
-        if (number == element)
-            items.removeAt(i);
-        else
-            ++i;
+    const std::optional<QString> list = RemoveFromAssignmentList(row[StripField::Assignments], element);
+    if (!list) {
+        doc.prompter().error(QString::fromLatin1(AssignmentRemoveError));
+        return;
     }
-    row.set(StripField::Assignments, JoinCommaText(items));
+    row.set(StripField::Assignments, *list);
 }
 
 QList<int> AssignedElements(const ScheduleDocument &doc, int strip)
 {
-    QList<int> numbers;
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return numbers;
-    const QStringList items = SplitCommaText(list);
-    numbers.reserve(items.size());
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (ok)
-            numbers.append(number);
-    }
-    return numbers;
+    const AssignmentRead read = ReadAssignmentList(doc.strips[strip][StripField::Assignments], UnreadableItem::Skipped);
+    return QList<int>(read.numbers.cbegin(), read.numbers.cend());
 }
 
 QString FormatPageLength(double pages)

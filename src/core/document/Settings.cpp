@@ -14,62 +14,64 @@ namespace tb {
 
 namespace {
 
-const QString FilesSection = QStringLiteral("Files");
-const QString StripsSection = QStringLiteral("Strips");
-const QString GeneralSection = QStringLiteral("General");
-const QString PrintingSection = QStringLiteral("Printing");
-
-const quint32 WhiteValue = 0x00FFFFFF; // clWhite
-const quint32 BlackValue = 0x00000000; // clBlack
-
 bool sameName(const QString &a, const QString &b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-struct WarningKey
-{
-    QString section;
-    QString key;
-};
-
-WarningKey warningKey(RememberedWarning which)
+const SettingKey<bool> &warningKey(RememberedWarning which)
 {
     switch (which) {
     case RememberedWarning::AutoRestClick:
-        return {QStringLiteral("PBDialog"), QStringLiteral("AutoRestClick")};
+        return SettingKeys::AutoRestClick;
     case RememberedWarning::SceneChange:
-        return {QStringLiteral("StripDlg"), QStringLiteral("SceneChange")};
+        return SettingKeys::SceneChange;
     case RememberedWarning::CallSheetRest:
-        return {QStringLiteral("CallSheetDlg"), QStringLiteral("CallSheetRest")};
+        break;
     }
-    return {};
+    return SettingKeys::CallSheetRest;
 }
 
-QString slotKey(const char *prefix, int slot)
+// Every preference with the key it is kept under, in the order the preferences
+// dialog writes them (all background colours, then all text colours).
+template <typename Values, typename Visit>
+void visitPreferences(Values &s, Visit visit)
 {
-    return QLatin1String(prefix) + QString::number(slot);
+    visit(SettingKeys::Autosavetime, s.autosaveMinutes);
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
+        visit(SettingKeys::StripBackground(slot), s.stripBackground[slot]);
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
+        visit(SettingKeys::StripText(slot), s.stripText[slot]);
+    visit(SettingKeys::Font, s.boardFont);
+    visit(SettingKeys::DescLine1, s.descLine1);
+    visit(SettingKeys::DescLine2, s.descLine2);
+    visit(SettingKeys::ScenePopups, s.scenePopups);
+    visit(SettingKeys::WeatherURL, s.weatherUrl);
+    visit(SettingKeys::ShowShootingDays, s.showShootingDays);
 }
 
-void writeWarning(IniFile &ini, RememberedWarning which, bool skip)
+// The perforated stock, written by its own setup rather than by the preferences.
+template <typename Values, typename Visit>
+void visitPerforatedStock(Values &s, Visit visit)
 {
-    const WarningKey k = warningKey(which);
-    ini.writeBool(k.section, k.key, skip);
+    visit(SettingKeys::PerfMargin, s.perfMargin);
+    visit(SettingKeys::PerfWidth, s.perfWidth);
+}
+
+// What a value that does not convert should have been, for the message.
+QString expectedForm(quint32)
+{
+    return QStringLiteral("a colour");
+}
+template <typename T>
+QString expectedForm(const T &)
+{
+    return QStringLiteral("a number");
 }
 
 void writePreferences(IniFile &ini, const Settings &s)
 {
-    ini.writeInteger(FilesSection, QStringLiteral("Autosavetime"), s.autosaveMinutes);
-    for (int slot = 1; slot <= ColourSlotCount; ++slot)
-        ini.writeString(StripsSection, slotKey("CB", slot), legacy::ColorValueToString(s.stripBackground[slot]));
-    for (int slot = 1; slot <= ColourSlotCount; ++slot)
-        ini.writeString(StripsSection, slotKey("CT", slot), legacy::ColorValueToString(s.stripText[slot]));
-    ini.writeString(StripsSection, QStringLiteral("Font"), s.boardFont);
-    ini.writeInteger(StripsSection, QStringLiteral("DescLine1"), s.descLine1);
-    ini.writeInteger(StripsSection, QStringLiteral("DescLine2"), s.descLine2);
-    ini.writeBool(GeneralSection, QStringLiteral("ScenePopups"), s.scenePopups);
-    ini.writeString(GeneralSection, QStringLiteral("WeatherURL"), s.weatherUrl);
-    ini.writeBool(GeneralSection, QStringLiteral("ShowShootingDays"), s.showShootingDays);
+    visitPreferences(s, [&ini](const auto &key, const auto &value) { WriteSetting(ini, key, value); });
 }
 
 Result writeFailure(const QString &path)
@@ -257,39 +259,87 @@ void IniFile::writeBool(const QString &section, const QString &key, bool value)
     writeString(section, key, value ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
-// ---- Preference helpers --------------------------------------------------------
+// ---- Typed keys ----------------------------------------------------------------
 
-QString ColourSlotCaption(int slot)
+namespace SettingKeys {
+
+SettingKey<quint32> StripBackground(int slot)
 {
-    static const char *const captions[] = {"Day - Ext",   "Day - Int",       "Day - Int/Ext", "Night - Ext",
-                                           "Night - Int", "Night - Int/Ext", "Day divider",   "Auto rest day",
-                                           "Banner",      "Unknown"};
-    if (slot < 1 || slot > ColourSlotCount)
-        return {};
-    return QString::fromLatin1(captions[slot - 1]);
+    return {QStringLiteral("Strips"), QStringLiteral("CB") + QString::number(slot), 0x00FFFFFF}; // clWhite
 }
 
-QStringList DescLineItems()
+SettingKey<quint32> StripText(int slot)
 {
-    return {QStringLiteral("Location"), QStringLiteral("Synopsis"), QStringLiteral("Sequence"),
-            QStringLiteral("Scene number(s)"), QStringLiteral("Notes")};
+    return {QStringLiteral("Strips"), QStringLiteral("CT") + QString::number(slot), 0x00000000}; // clBlack
 }
 
-int DescLineCode(int itemIndex)
+} // namespace SettingKeys
+
+int ReadSetting(const IniFile &ini, const SettingKey<int> &key, bool *)
 {
-    static const int codes[] = {12, 7, 11, 2, 19};
-    if (itemIndex < 0 || itemIndex > 4)
-        return 0;
-    return codes[itemIndex];
+    return ini.readInteger(key.section, key.key, key.fallback);
 }
 
-int DescLineItemIndex(int code)
+bool ReadSetting(const IniFile &ini, const SettingKey<bool> &key, bool *)
 {
-    for (int i = 0; i <= 4; ++i) {
-        if (DescLineCode(i) == code)
-            return i;
-    }
-    return -1;
+    return ini.readBool(key.section, key.key, key.fallback);
+}
+
+QString ReadSetting(const IniFile &ini, const SettingKey<QString> &key, bool *)
+{
+    return ini.readString(key.section, key.key, key.fallback);
+}
+
+quint32 ReadSetting(const IniFile &ini, const SettingKey<quint32> &key, bool *unreadable)
+{
+    if (!ini.hasKey(key.section, key.key))
+        return key.fallback;
+    quint32 value = 0;
+    if (legacy::StringToColorValue(ini.readString(key.section, key.key), &value))
+        return value;
+    if (unreadable)
+        *unreadable = true;
+    return key.fallback;
+}
+
+double ReadSetting(const IniFile &ini, const SettingKey<double> &key, bool *unreadable)
+{
+    if (!ini.hasKey(key.section, key.key))
+        return key.fallback;
+    // Either decimal separator is taken.
+    bool ok = false;
+    const double value = legacy::FloatFromText(ini.readString(key.section, key.key), &ok);
+    if (ok)
+        return value;
+    if (unreadable)
+        *unreadable = true;
+    return key.fallback;
+}
+
+void WriteSetting(IniFile &ini, const SettingKey<int> &key, int value)
+{
+    ini.writeInteger(key.section, key.key, value);
+}
+
+void WriteSetting(IniFile &ini, const SettingKey<bool> &key, bool value)
+{
+    ini.writeBool(key.section, key.key, value);
+}
+
+void WriteSetting(IniFile &ini, const SettingKey<QString> &key, const QString &value)
+{
+    ini.writeString(key.section, key.key, value);
+}
+
+void WriteSetting(IniFile &ini, const SettingKey<quint32> &key, quint32 value)
+{
+    ini.writeString(key.section, key.key, legacy::ColorValueToString(value));
+}
+
+void WriteSetting(IniFile &ini, const SettingKey<double> &key, double value)
+{
+    // With the system's decimal separator, as the earlier edition wrote it.
+    ini.writeString(key.section, key.key, legacy::FloatToText(value).replace(u'.', QLocale().decimalPoint()));
 }
 
 // ---- Settings --------------------------------------------------------------------
@@ -301,8 +351,10 @@ Settings::Settings()
 Settings::Settings(QString path)
     : m_path(std::move(path))
 {
-    stripBackground.fill(WhiteValue);
-    stripText.fill(BlackValue);
+    const auto takeFallback = [](const auto &key, auto &value) { value = key.fallback; };
+    stripBackground[0] = stripText[0] = 0;
+    visitPreferences(*this, takeFallback);
+    visitPerforatedStock(*this, takeFallback);
 }
 
 QString Settings::DefaultPath()
@@ -318,47 +370,18 @@ QStringList Settings::LoadSettings()
     IniFile ini(m_path);
     ini.load();
     QStringList problems;
-    const auto unreadable = [&](const QString &section, const QString &key, const QString &what) {
+    const auto read = [&](const auto &key, auto &value) {
+        bool unreadable = false;
+        value = ReadSetting(ini, key, &unreadable);
+        if (!unreadable)
+            return;
         problems.append(QStringLiteral("The settings file ") + QDir::toNativeSeparators(m_path) +
-                        QStringLiteral(" holds \"") + ini.readString(section, key) + QStringLiteral("\" for ") + key +
-                        QStringLiteral(" in [") + section + QStringLiteral("], which is not ") + what +
-                        QStringLiteral(". The default is used."));
+                        QStringLiteral(" holds \"") + ini.readString(key.section, key.key) + QStringLiteral("\" for ") +
+                        key.key + QStringLiteral(" in [") + key.section + QStringLiteral("], which is not ") +
+                        expectedForm(value) + QStringLiteral(". The default is used."));
     };
-    const auto colour = [&](const char *prefix, int slot, quint32 fallback) {
-        const QString key = slotKey(prefix, slot);
-        if (!ini.hasKey(StripsSection, key))
-            return fallback;
-        quint32 value = 0;
-        if (legacy::StringToColorValue(ini.readString(StripsSection, key), &value))
-            return value;
-        unreadable(StripsSection, key, QStringLiteral("a colour"));
-        return fallback;
-    };
-    const auto number = [&](const QString &key, double fallback) {
-        if (!ini.hasKey(PrintingSection, key))
-            return fallback;
-        bool ok = false;
-        const double value = legacy::FloatFromText(ini.readString(PrintingSection, key), &ok);
-        if (ok)
-            return value;
-        unreadable(PrintingSection, key, QStringLiteral("a number"));
-        return fallback;
-    };
-
-    const Settings defaults(m_path);
-    autosaveMinutes = ini.readInteger(FilesSection, QStringLiteral("Autosavetime"), defaults.autosaveMinutes);
-    for (int slot = 1; slot <= ColourSlotCount; ++slot) {
-        stripBackground[slot] = colour("CB", slot, defaults.stripBackground[slot]);
-        stripText[slot] = colour("CT", slot, defaults.stripText[slot]);
-    }
-    descLine1 = ini.readInteger(StripsSection, QStringLiteral("DescLine1"), defaults.descLine1);
-    descLine2 = ini.readInteger(StripsSection, QStringLiteral("DescLine2"), defaults.descLine2);
-    boardFont = ini.readString(StripsSection, QStringLiteral("Font"), defaults.boardFont);
-    scenePopups = ini.readBool(GeneralSection, QStringLiteral("ScenePopups"), defaults.scenePopups);
-    weatherUrl = ini.readString(GeneralSection, QStringLiteral("WeatherURL"), defaults.weatherUrl);
-    showShootingDays = ini.readBool(GeneralSection, QStringLiteral("ShowShootingDays"), defaults.showShootingDays);
-    perfMargin = number(QStringLiteral("PerfMargin"), defaults.perfMargin);
-    perfWidth = number(QStringLiteral("PerfWidth"), defaults.perfWidth);
+    visitPreferences(*this, read);
+    visitPerforatedStock(*this, read);
     return problems;
 }
 
@@ -372,15 +395,9 @@ Result Settings::WritePreferences() const
 
 Result Settings::WritePerforatedStock() const
 {
-    // Written with the system's decimal separator, as the earlier edition did; the
-    // reader takes either separator.
-    const QString separator = QLocale().decimalPoint();
     IniFile ini(m_path);
     ini.load();
-    ini.writeString(PrintingSection, QStringLiteral("PerfMargin"),
-                    legacy::FloatToText(perfMargin).replace(u'.', separator));
-    ini.writeString(PrintingSection, QStringLiteral("PerfWidth"),
-                    legacy::FloatToText(perfWidth).replace(u'.', separator));
+    visitPerforatedStock(*this, [&ini](const auto &key, const auto &value) { WriteSetting(ini, key, value); });
     return ini.save();
 }
 
@@ -388,15 +405,14 @@ bool Settings::skipWarning(RememberedWarning which) const
 {
     IniFile ini(m_path);
     ini.load();
-    const WarningKey k = warningKey(which);
-    return ini.readBool(k.section, k.key, false);
+    return ReadSetting(ini, warningKey(which));
 }
 
 Result Settings::setSkipWarning(RememberedWarning which, bool skip)
 {
     IniFile ini(m_path);
     ini.load();
-    writeWarning(ini, which, skip);
+    WriteSetting(ini, warningKey(which), skip);
     return ini.save();
 }
 
@@ -439,9 +455,9 @@ Result ApplyPreferences(ScheduleDocument &doc, Settings &settings, const Prefere
     settings.stripText = input.stripText;
     writePreferences(ini, settings);
     // 4. ... then the warning answers, the opposite of the "Warn me about" boxes.
-    writeWarning(ini, RememberedWarning::SceneChange, !input.warnSceneChange);
-    writeWarning(ini, RememberedWarning::AutoRestClick, !input.warnAutoRestClick);
-    writeWarning(ini, RememberedWarning::CallSheetRest, !input.warnCallSheetRest);
+    WriteSetting(ini, SettingKeys::SceneChange, !input.warnSceneChange);
+    WriteSetting(ini, SettingKeys::AutoRestClick, !input.warnAutoRestClick);
+    WriteSetting(ini, SettingKeys::CallSheetRest, !input.warnCallSheetRest);
     // 5. The ten colour slots were taken above, so the program and the file agree.
     const Result written = ini.save();
     if (!written)

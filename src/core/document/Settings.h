@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/BoardPreferences.h"
 #include "document/Prompter.h"
 #include "document/Result.h"
 
@@ -75,34 +76,70 @@ private:
     QList<Section> m_sections;
 };
 
-// ---- The preferences ---------------------------------------------------------
-
-// The ten colour slots of the strips, numbered 1..10 as the "CB" and "CT" keys are.
-enum ColourSlot {
-    SlotDayExt = 1,
-    SlotDayInt = 2,
-    SlotDayIntExt = 3,
-    SlotNightExt = 4,
-    SlotNightInt = 5,
-    SlotNightIntExt = 6,
-    SlotDayDivider = 7,
-    SlotAutoRestDay = 8,
-    SlotBanner = 9,
-    SlotUnknown = 10,
+// ---- Typed keys ------------------------------------------------------------------
+// One key of the settings file: its section, its name and the value a missing key
+// stands for. The value type says how the value is written:
+//   int      a whole number                bool    "1" or "0"
+//   QString  the text as it is             quint32 a colour: its name ("clWhite"), or
+//                                                  "$00BBGGRR" for one without a name
+//   double   the float-to-text form with the system's decimal separator
+template <typename T>
+struct SettingKey
+{
+    QString section;
+    QString key;
+    T fallback;
 };
-inline constexpr int ColourSlotCount = 10;
 
-// The caption of a slot in the preferences ("Day - Ext" .. "Unknown"); slot 1..10.
-QString ColourSlotCaption(int slot);
+// A key's value in the file, the key's fallback when it is missing. Whole numbers and
+// booleans read as the private-profile functions read them (text that is not a whole
+// number gives the fallback; a boolean is true when its number is not 0); a colour or
+// a decimal that does not convert gives the fallback and sets *unreadable.
+int ReadSetting(const IniFile &ini, const SettingKey<int> &key, bool *unreadable = nullptr);
+bool ReadSetting(const IniFile &ini, const SettingKey<bool> &key, bool *unreadable = nullptr);
+QString ReadSetting(const IniFile &ini, const SettingKey<QString> &key, bool *unreadable = nullptr);
+quint32 ReadSetting(const IniFile &ini, const SettingKey<quint32> &key, bool *unreadable = nullptr);
+double ReadSetting(const IniFile &ini, const SettingKey<double> &key, bool *unreadable = nullptr);
 
-// The items of the two description line boxes and the codes they store: the strip
-// field number plus one ("Location" 12, "Synopsis" 7, "Sequence" 11, "Scene number(s)" 2,
-// "Notes" 19).
-QStringList DescLineItems();
-// The code of an item; 0 for an index outside 0..4.
-int DescLineCode(int itemIndex);
-// The item of a code; -1 for a code that is none of the five.
-int DescLineItemIndex(int code);
+void WriteSetting(IniFile &ini, const SettingKey<int> &key, int value);
+void WriteSetting(IniFile &ini, const SettingKey<bool> &key, bool value);
+void WriteSetting(IniFile &ini, const SettingKey<QString> &key, const QString &value);
+void WriteSetting(IniFile &ini, const SettingKey<quint32> &key, quint32 value);
+void WriteSetting(IniFile &ini, const SettingKey<double> &key, double value);
+
+// The default weather page of the call sheet.
+inline constexpr const char *DefaultWeatherUrl = "https://www.bbc.co.uk/weather";
+
+// Every key of Torvanbridge.ini.
+namespace SettingKeys {
+// Autosave interval in minutes; 0 = no autosave.
+inline const SettingKey<int> Autosavetime{QStringLiteral("Files"), QStringLiteral("Autosavetime"), 0};
+// Strip background ("CB1".."CB10", white) and text colours ("CT1".."CT10", black) per
+// slot 1..10.
+SettingKey<quint32> StripBackground(int slot);
+SettingKey<quint32> StripText(int slot);
+// The strip fields of the two description lines (see DescLineCodes).
+inline const SettingKey<int> DescLine1{QStringLiteral("Strips"), QStringLiteral("DescLine1"), DescLineCodes::Location};
+inline const SettingKey<int> DescLine2{QStringLiteral("Strips"), QStringLiteral("DescLine2"), DescLineCodes::Synopsis};
+// The board's font face.
+inline const SettingKey<QString> Font{QStringLiteral("Strips"), QStringLiteral("Font"), QStringLiteral("Arial")};
+// The scene description pop-up over strip headings.
+inline const SettingKey<bool> ScenePopups{QStringLiteral("General"), QStringLiteral("ScenePopups"), true};
+// The call sheet's weather page.
+inline const SettingKey<QString> WeatherURL{QStringLiteral("General"), QStringLiteral("WeatherURL"),
+                                            QString::fromLatin1(DefaultWeatherUrl)};
+// Day numbers on the board count shooting days.
+inline const SettingKey<bool> ShowShootingDays{QStringLiteral("General"), QStringLiteral("ShowShootingDays"), true};
+// Perforated strip stock, millimetres.
+inline const SettingKey<double> PerfMargin{QStringLiteral("Printing"), QStringLiteral("PerfMargin"), 5.4};
+inline const SettingKey<double> PerfWidth{QStringLiteral("Printing"), QStringLiteral("PerfWidth"), 9.6};
+// The answers of the three warnings a user can switch off: true = do not warn.
+inline const SettingKey<bool> AutoRestClick{QStringLiteral("PBDialog"), QStringLiteral("AutoRestClick"), false};
+inline const SettingKey<bool> SceneChange{QStringLiteral("StripDlg"), QStringLiteral("SceneChange"), false};
+inline const SettingKey<bool> CallSheetRest{QStringLiteral("CallSheetDlg"), QStringLiteral("CallSheetRest"), false};
+} // namespace SettingKeys
+
+// ---- The preferences ---------------------------------------------------------
 
 // The three warnings a user can switch off with the message's check box, and the
 // preferences' "Warn me about" boxes.
@@ -111,9 +148,6 @@ enum class RememberedWarning {
     SceneChange,   // [StripDlg] SceneChange: Prev/Next in the scene editor with changes
     CallSheetRest, // [CallSheetDlg] CallSheetRest: a rest day picked on a call sheet
 };
-
-// The default weather page of the call sheet.
-inline constexpr const char *DefaultWeatherUrl = "https://www.bbc.co.uk/weather";
 
 // Every setting of Torvanbridge.ini with its default, and the reading and writing of
 // the file. One object lives for the whole run of the desktop program; tests give it
@@ -128,27 +162,21 @@ public:
     static QString DefaultPath();
     const QString &path() const { return m_path; }
 
-    // [Files] Autosavetime: minutes, 0 = no autosave.
-    int autosaveMinutes = 0;
-    // [Strips] CB1..CB10 and CT1..CT10: background and text colour per slot (index 1..10,
-    // index 0 unused), as the earlier edition's colour values so that names such as
-    // "clBtnFace" survive a round trip.
-    std::array<quint32, ColourSlotCount + 1> stripBackground;
-    std::array<quint32, ColourSlotCount + 1> stripText;
-    // [Strips] DescLine1, DescLine2: description line codes (see DescLineCode).
-    int descLine1 = 12;
-    int descLine2 = 7;
-    // [Strips] Font: the board's font face.
-    QString boardFont = QStringLiteral("Arial");
-    // [General] ScenePopups: the scene description hint over strip headings.
-    bool scenePopups = true;
-    // [General] WeatherURL: the call sheet's weather page.
-    QString weatherUrl = QString::fromLatin1(DefaultWeatherUrl);
-    // [General] ShowShootingDays: day numbers on the board count shooting days.
-    bool showShootingDays = true;
-    // [Printing] PerfMargin, PerfWidth: perforated strip stock, millimetres.
-    double perfMargin = 5.4;
-    double perfWidth = 9.6;
+    // The values, each kept under the key named beside it and starting at that key's
+    // fallback.
+    int autosaveMinutes; // Autosavetime
+    // StripBackground, StripText: index 1..10 by slot, index 0 unused. Held as the
+    // earlier edition's colour values so that names such as "clBtnFace" survive.
+    std::array<quint32, StripSlotCount + 1> stripBackground;
+    std::array<quint32, StripSlotCount + 1> stripText;
+    int descLine1;         // DescLine1
+    int descLine2;         // DescLine2
+    QString boardFont;     // Font
+    bool scenePopups;      // ScenePopups
+    QString weatherUrl;    // WeatherURL
+    bool showShootingDays; // ShowShootingDays
+    double perfMargin;     // PerfMargin
+    double perfWidth;      // PerfWidth
 
     // Reads every key but the three remembered warnings; a missing file or key leaves
     // the default. Returns a line for each value that is present but unreadable (a
@@ -185,8 +213,8 @@ struct PreferencesInput
     bool warnSceneChange = true;
     bool warnAutoRestClick = true;
     bool warnCallSheetRest = true;
-    std::array<quint32, ColourSlotCount + 1> stripBackground{};
-    std::array<quint32, ColourSlotCount + 1> stripText{};
+    std::array<quint32, StripSlotCount + 1> stripBackground{};
+    std::array<quint32, StripSlotCount + 1> stripText{};
 };
 
 // The dialog's values as the settings hold them now (warnings read from the file).

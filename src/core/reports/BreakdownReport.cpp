@@ -5,6 +5,7 @@
 
 #include "reports/ReportOutput.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -110,7 +111,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
                 report.AddFieldValue(*field, categoryName(doc, field->Tag).toUpper());
             } else if (field->Tag > 100) {
                 if (!assignedRead) {
-                    assigned = reportdetail::AssignedFlags(doc, row);
+                    assigned = AssignedElementFlags(doc, row);
                     assignedRead = true;
                 }
                 const int category = field->Tag - 100;
@@ -152,7 +153,7 @@ ResultOf<BuiltReport> CreateElementSummaryPages(ScheduleDocument &doc, const Ele
     for (int i = 1; i <= count; ++i) {
         const StripRecord &strip = doc.strips[i];
         if (!strip[StripField::Assignments].isEmpty())
-            assigned[i] = reportdetail::AssignedFlags(doc, i);
+            assigned[i] = AssignedElementFlags(doc, i);
     }
     auto isAssigned = [&](int strip, int element) {
         return element < assigned.at(strip).size() && assigned.at(strip).at(element);

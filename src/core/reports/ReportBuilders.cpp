@@ -90,27 +90,6 @@ void BuilderRun::finish()
     m_doc.status().setBusy(false);
 }
 
-QList<bool> AssignedFlags(ScheduleDocument &doc, int strip)
-{
-    QList<bool> flags(doc.elements.count() + 1, false);
-    const QString &list = doc.strips[strip][StripField::Assignments];
-    if (list.isEmpty())
-        return flags;
-    const QStringList items = legacy::SplitCommaText(list);
-    for (const QString &item : items) {
-        bool ok = false;
-        const int number = legacy::StrToInt(item, &ok);
-        if (!ok) {
-            // The program's own spelling of this message ("stip").
-            doc.prompter().error(QStringLiteral("Error reading stip assignments!"));
-            break;
-        }
-        if (number >= 1 && number < flags.size())
-            flags[number] = true;
-    }
-    return flags;
-}
-
 QString LinesText(const QStringList &lines)
 {
     QString text;

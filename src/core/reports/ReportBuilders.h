@@ -146,10 +146,6 @@ private:
     bool m_finished = false;
 };
 
-// Which elements a strip is assigned, read the way IsAssigned reads the list: an item
-// that is no number ends the list there and shows "Error reading stip assignments!" once.
-QList<bool> AssignedFlags(ScheduleDocument &doc, int strip);
-
 // Lines as a text of the string-list form: each line followed by CR LF.
 QString LinesText(const QStringList &lines);
 

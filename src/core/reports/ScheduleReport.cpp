@@ -6,6 +6,7 @@
 
 #include "reports/ReportOutput.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -208,7 +209,7 @@ private:
                                   locationSuffix(strip[StripField::DayNight]));
         push("SynopsisField", strip[StripField::Synopsis]);
         // 5. The elements by category, and the cast text.
-        const QList<bool> assigned = reportdetail::AssignedFlags(m_doc, row);
+        const QList<bool> assigned = AssignedElementFlags(m_doc, row);
         std::array<QStringList, CategoryLists + 1> lists;
         QString cast = QStringLiteral(" ");
         for (int c = 1; c <= CategoryLists; ++c) {

@@ -140,7 +140,7 @@ BoardView::BoardView(ScheduleDocument &doc, QWidget *parent)
     setMinimumSize(120, 120);
     // Hit testing reads the header height of the last drawing; until the first paint
     // it is that of the current scale.
-    m_drawState.headerHeight = BoardGeometry(m_scale).headerH;
+    m_lastDraw.headerHeight = BoardGeometry(m_scale).headerH;
     SetScrolls();
     ReScalePB();
 }
@@ -171,7 +171,7 @@ void BoardView::setScenePopups(bool on)
 void BoardView::setBoardScale(double scale)
 {
     m_scale = SnapBoardScale(scale);
-    m_drawState.headerHeight = BoardGeometry(m_scale).headerH;
+    m_lastDraw.headerHeight = BoardGeometry(m_scale).headerH;
     SetScrolls();
     ReScalePB();
     repaintBoard();
@@ -261,7 +261,7 @@ int BoardView::GetStripNum(int x) const
 
 int BoardView::GetElementNum(int y) const
 {
-    return tb::GetElementNum(boardGeometry(), m_drawState.headerHeight, y, m_vScroll->value());
+    return tb::GetElementNum(boardGeometry(), m_lastDraw.headerHeight, y, m_vScroll->value());
 }
 
 bool BoardView::handleWheel(QWheelEvent *event)
@@ -320,7 +320,7 @@ void BoardView::PBoxPaint(QPaintEvent *)
     const QSize size = m_pbox->size();
     if (m_buffer.size() != size || m_buffer.image().devicePixelRatio() != m_pbox->devicePixelRatioF())
         SetBufferSize(size.width(), size.height());
-    m_lastDrawn = m_buffer.paint(m_doc, m_style, m_hScroll->value(), m_vScroll->value(), m_scale, &m_drawState);
+    m_lastDraw = m_buffer.paint(m_doc, m_style, m_hScroll->value(), m_vScroll->value(), m_scale, &m_texts);
     QPainter painter(m_pbox);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(0, 0, m_buffer.image());
@@ -389,7 +389,7 @@ void BoardView::PBoxMouseDown(QMouseEvent *event, bool doubleClick)
         return;
     }
 
-    if (pos.x() <= g.colW && pos.y() > m_drawState.headerHeight && m_doc.elements.count() >= 1) {
+    if (pos.x() <= g.colW && pos.y() > m_lastDraw.headerHeight && m_doc.elements.count() >= 1) {
         if (leftAlone) {
             m_doc.SelStart = 0;
             m_doc.SelEnd = 0;
@@ -463,7 +463,7 @@ void BoardView::showHint(QMouseEvent *event)
 {
     const QPoint pos = event->position().toPoint();
     const BoardGeometry g = boardGeometry();
-    if (pos.x() > g.colW && pos.y() < m_drawState.headerHeight && event->buttons() == Qt::NoButton &&
+    if (pos.x() > g.colW && pos.y() < m_lastDraw.headerHeight && event->buttons() == Qt::NoButton &&
         event->modifiers() == Qt::NoModifier && m_style.ScenePopups) {
         // The hint comes from the second move over the same strip on.
         if (m_hovered >= 1 && m_hovered <= m_doc.strips.count() && m_hovered == m_lastHinted) {

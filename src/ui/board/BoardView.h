@@ -82,10 +82,10 @@ public:
     // the header height of the last drawing. Neither clamps.
     int GetStripNum(int x) const;
     int GetElementNum(int y) const;
-    int headerHeight() const { return m_drawState.headerHeight; }
+    int headerHeight() const { return m_lastDraw.headerHeight; }
     bool isDragging() const { return m_dragging; }
-    // The text the last paint returned: last strip and last element row drawn, "%3d" each.
-    const QString &lastDrawn() const { return m_lastDrawn; }
+    // What the last paint drew (the last strip and element row among it).
+    const BoardDrawResult &lastDraw() const { return m_lastDraw; }
 
     // The remembered answer of the auto rest day warning: when skipAutoRestWarning
     // returns true the warning is not shown; setSkipAutoRestWarning receives the
@@ -136,8 +136,8 @@ private:
     BoardStyle m_style;
     double m_scale = 1.0;
     BoardBuffer m_buffer;
-    BoardDrawState m_drawState;
-    QString m_lastDrawn;
+    BoardTextCache m_texts;
+    BoardDrawResult m_lastDraw;
 
     BoardPaintBox *m_pbox;
     QScrollBar *m_hScroll;

@@ -49,7 +49,13 @@ TfrmPref::TfrmPref(ScheduleDocument &doc, Settings &settings, const QString &aut
         return font.family();
     };
 
-    for (int slot = 1; slot <= ColourSlotCount; ++slot)
+    // The slot captions and the description line items are the program's own lists.
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
+        slotButton(*m_ui, slot)->setText(StripSlotCaption(StripSlot(slot)));
+    m_ui->DescLine1Combo->addItems(DescLineItems());
+    m_ui->DescLine2Combo->addItems(DescLineItems());
+
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
         connect(slotButton(*m_ui, slot), &QPushButton::clicked, this, [this, slot] { SlotButClick(slot); });
     connect(m_ui->BackColorBut, &QPushButton::clicked, this, &TfrmPref::BackColorButClick);
     connect(m_ui->TextColorBut, &QPushButton::clicked, this, &TfrmPref::TextColorButClick);
@@ -81,7 +87,7 @@ void TfrmPref::FormShow()
     m_ui->DescLine2Combo->setCurrentIndex(m_pending.descLine2Index);
     m_ui->FontLabel->setText(m_pending.boardFont);
     m_ui->FontLabel->setFont(QFont(m_pending.boardFont));
-    for (int slot = 1; slot <= ColourSlotCount; ++slot)
+    for (int slot = 1; slot <= StripSlotCount; ++slot)
         showSlotColours(slot);
     slotButton(*m_ui, m_slot)->setChecked(true);
 }
@@ -99,7 +105,7 @@ void TfrmPref::showSlotColours(int slot)
 
 void TfrmPref::SlotButClick(int slot)
 {
-    m_slot = qBound(1, slot, ColourSlotCount);
+    m_slot = qBound(1, slot, StripSlotCount);
     slotButton(*m_ui, m_slot)->setChecked(true);
 }
 

@@ -42,18 +42,18 @@ BoardStyle distinctStyle()
 struct Drawn
 {
     QImage image;
-    QString result;
+    BoardDrawResult drawn;
+    QString result; // the kept text form
 };
 
-Drawn draw(ScheduleDocument &doc, const BoardStyle &style, QSize size, bool forPrinting = false, bool inColour = true,
-           int firstStrip = 1, int firstElement = 1, BoardDrawState *state = nullptr, double scale = 1.0)
+Drawn draw(ScheduleDocument &doc, const BoardStyle &style, QSize size, const BoardDrawOptions &options = {})
 {
     Drawn d;
     d.image = QImage(size, QImage::Format_RGB32);
     d.image.fill(Qt::magenta);
     QPainter p(&d.image);
-    d.result =
-        DrawBoard(doc, style, firstStrip, firstElement, -1, true, true, forPrinting, inColour, scale, 0, 0, p, state);
+    d.drawn = DrawBoard(doc, style, options, p);
+    d.result = d.drawn.lastDrawnText();
     return d;
 }
 
@@ -379,7 +379,7 @@ void TestDrawBoard::drawsStripColours()
     // Below the last element row everything is white again.
     QCOMPARE(d.image.pixelColor(inStrip(1, 7)), QColor(Qt::white));
     // In black and white, only the dividers are black.
-    const Drawn plain = draw(doc, ClassicBoardStyle(), QSize(600, 500), false, false);
+    const Drawn plain = draw(doc, ClassicBoardStyle(), QSize(600, 500), {.inColour = false});
     for (int i = 1; i <= 4; ++i)
         QCOMPARE(plain.image.pixelColor(inStrip(i, 3)), QColor(i == 3 ? Qt::black : Qt::white));
 }
@@ -407,7 +407,7 @@ void TestDrawBoard::selectionIsRed()
     QVERIFY(inkIn(d.image, sceneCell, QColor(255, 0, 0)) > 0);
     QVERIFY(anyPixel(d.image, sceneCell, [](QColor c) { return c == Qt::white; }));
     // The selection is the screen's: drawn for printing, it is cleared first.
-    draw(doc, style, QSize(600, 500), true);
+    draw(doc, style, QSize(600, 500), {.forPrinting = true});
     QCOMPARE(doc.SelStart, 0);
     QCOMPARE(doc.SelEnd, 0);
     QCOMPARE(doc.SelElement, 0);
@@ -450,7 +450,7 @@ void TestDrawBoard::returnedText()
     for (int i = 1; i <= strips; ++i)
         AddScene(doc, QString::number(i), "1");
     addElements(doc, elements);
-    const Drawn d = draw(doc, BoardStyle(), QSize(800, 600), printing, true, firstStrip);
+    const Drawn d = draw(doc, BoardStyle(), QSize(800, 600), {.firstStrip = firstStrip, .forPrinting = printing});
     QTEST(d.result, "result");
 }
 
@@ -481,7 +481,7 @@ void TestDrawBoard::nothingPastTheClip()
     {
         QPainter p(&image);
         p.setClipRect(clip);
-        result = DrawBoard(doc, ClassicBoardStyle(), 1, 1, -1, true, true, false, true, 1.0, 0, 0, p);
+        result = DrawBoard(doc, ClassicBoardStyle(), {}, p).lastDrawnText();
     }
     QCOMPARE(result, "  8  7"); // strips at x 200 .. 480, rows from y 291 while below 400
     for (int y = 0; y < image.height(); ++y)
@@ -515,7 +515,7 @@ void TestDrawBoard::printingLeavesOutHiddenElements()
 
     // Printed, the hidden rows leave no gap: "C" moves up to the second row and the
     // board ends after three rows.
-    const Drawn printed = draw(doc, style, QSize(600, 500), true);
+    const Drawn printed = draw(doc, style, QSize(600, 500), {.forPrinting = true});
     QCOMPARE(printed.result, "  1  6");
     QVERIFY(inkIn(printed.image, markCell(2), dayExt) > 0);
     QCOMPARE(inkIn(printed.image, markCell(3), dayExt), 0);
@@ -586,7 +586,7 @@ void TestDrawBoard::sameOnEveryResolution()
         image.setDotsPerMeterX(qRound(dpiX / 0.0254));
         image.setDotsPerMeterY(qRound(dpiY / 0.0254));
         QPainter p(&image);
-        DrawBoard(doc, ClassicBoardStyle(), 1, 1, -1, true, true, false, true, 1.0, 0, 0, p);
+        DrawBoard(doc, ClassicBoardStyle(), {}, p);
         return image;
     };
     const QImage screen = render(96, 96);
@@ -603,11 +603,10 @@ void TestDrawBoard::textCacheDrawsTheSame()
     doc.SelElement = 2;
     const BoardStyle style = ClassicBoardStyle();
     for (double scale : {0.6, 1.0, 1.4}) {
-        BoardDrawState state;
-        const Drawn plain = draw(doc, style, QSize(1200, 800), false, true, 1, 1, nullptr, scale);
-        const Drawn first = draw(doc, style, QSize(1200, 800), false, true, 1, 1, &state, scale);
-        const Drawn again = draw(doc, style, QSize(1200, 800), false, true, 1, 1, &state, scale);
-        QVERIFY(state.texts);
+        BoardTextCache texts;
+        const Drawn plain = draw(doc, style, QSize(1200, 800), {.scale = scale});
+        const Drawn first = draw(doc, style, QSize(1200, 800), {.scale = scale, .texts = &texts});
+        const Drawn again = draw(doc, style, QSize(1200, 800), {.scale = scale, .texts = &texts});
         QCOMPARE(first.result, plain.result);
         QCOMPARE(again.image, first.image);
         // Laid-out text may sit a fraction of a pixel apart from text drawn directly;
@@ -628,10 +627,10 @@ void TestDrawBoard::displayBuffer()
     BoardBuffer buffer;
     QVERIFY(buffer.SetBufferSize(400, 350).ok());
     QCOMPARE(buffer.image().size(), QSize(400, 350));
-    BoardDrawState state;
     const BoardStyle style = ClassicBoardStyle();
-    QCOMPARE(buffer.paint(doc, style, 1, 1, 1.0, &state), "  1  2");
-    QCOMPARE(state.headerHeight, 288);
+    const BoardDrawResult drawn = buffer.paint(doc, style, 1, 1, 1.0, nullptr);
+    QCOMPARE(drawn.lastDrawnText(), "  1  2");
+    QCOMPARE(drawn.headerHeight, 288);
     QCOMPARE(buffer.image().pixelColor(inStrip(1, 2)), style.backgroundOf(StripSlot::NightExt));
     // A buffer too large to allocate keeps the old one and says so.
     const Result huge = buffer.SetBufferSize(1 << 20, 1 << 20);

@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
 
@@ -80,13 +81,52 @@ private Q_SLOTS:
         const int row = AddScene(doc, "1", "1");
         doc.strips[row].set(StripField::Assignments, "3,x,7");
 
+        QVERIFY(IsAssigned(doc, row, 3)); // found before the bad item: no message
+        QVERIFY(prompter.prompts.isEmpty());
         QVERIFY(!IsAssigned(doc, row, 7));
         QCOMPARE(prompter.texts(), QStringList{"Error reading stip assignments!"});
         QCOMPARE(prompter.prompts.last().kind, MessageKind::Error);
+        // The editors and reports read up to the bad item and say so once.
+        QCOMPARE(ReadStripAssignments(doc, row), QList<int>{3});
+        QCOMPARE(prompter.prompts.size(), 2);
+        QCOMPARE(AssignedElements(doc, row), (QList<int>{3, 7})); // the clipboard passes over it
 
         RemoveAssignment(doc, row, 3);
         QCOMPARE(prompter.texts().last(), "Error removing assignment!");
         QCOMPARE(doc.strips[row][StripField::Assignments], "3,x,7");
+    }
+
+    void readAssignmentList_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<bool>("atCommas"); // the board's reading
+        QTest::addColumn<bool>("skip");     // unreadable items skipped, not ending the list
+        QTest::addColumn<QList<int>>("numbers");
+        QTest::addColumn<bool>("unreadable");
+        using N = QList<int>;
+        QTest::newRow("blank") << "" << false << false << N{} << false;
+        QTest::newRow("ends at a bad item") << "3,x,7" << false << false << N{3} << true;
+        QTest::newRow("skips a bad item") << "3,x,7" << false << true << N{3, 7} << true;
+        QTest::newRow("empty item") << "3,,7" << false << false << N{3} << true;
+        QTest::newRow("trailing comma") << "7," << false << false << N{7} << true;
+        QTest::newRow("blank separates") << "3 7" << false << false << N{3, 7} << false;
+        QTest::newRow("quoted item") << "\"5\",6" << false << false << N{5, 6} << false;
+        QTest::newRow("board: blank inside") << "3 7,8" << true << true << N{8} << true;
+        QTest::newRow("board: leading blank") << " 7,8" << true << true << N{7, 8} << false;
+        QTest::newRow("board: quoted item") << "\"5\",6" << true << true << N{6} << true;
+        QTest::newRow("duplicates kept") << "7,7" << true << true << N{7, 7} << false;
+    }
+
+    void readAssignmentList()
+    {
+        QFETCH(QString, list);
+        QFETCH(bool, atCommas);
+        QFETCH(bool, skip);
+        const AssignmentRead read =
+            ReadAssignmentList(list, skip ? UnreadableItem::Skipped : UnreadableItem::EndsList,
+                               atCommas ? AssignmentItems::AtCommas : AssignmentItems::CommaText);
+        QTEST(QList<int>(read.numbers.cbegin(), read.numbers.cend()), "numbers");
+        QTEST(read.unreadable, "unreadable");
     }
 
     void formatPageLength_data()

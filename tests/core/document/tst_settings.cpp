@@ -55,7 +55,7 @@ private slots:
         Settings s(TempPath("none/Torvanbridge.ini"));
         QVERIFY(s.LoadSettings().isEmpty());
         QCOMPARE(s.autosaveMinutes, 0);
-        for (int slot = 1; slot <= ColourSlotCount; ++slot) {
+        for (int slot = 1; slot <= StripSlotCount; ++slot) {
             QCOMPARE(legacy::ColorValueToString(s.stripBackground[slot]), "clWhite");
             QCOMPARE(legacy::ColorValueToString(s.stripText[slot]), "clBlack");
         }
@@ -89,6 +89,21 @@ private slots:
         s.weatherUrl = "https://example.org/weather";
         s.showShootingDays = false;
         QVERIFY(s.WritePreferences().ok());
+        // A new file, byte for byte as the earlier edition's private-profile functions
+        // wrote it: a literal [General] section, booleans as 1 and 0, colour names, CR LF.
+        QString colours;
+        for (int slot = 1; slot <= StripSlotCount; ++slot)
+            colours += QStringLiteral("CB%1=%2\r\n")
+                           .arg(slot)
+                           .arg(QLatin1String(slot == 3   ? "clRed"
+                                              : slot == 7 ? "$00123456"
+                                                          : "clWhite"));
+        for (int slot = 1; slot <= StripSlotCount; ++slot)
+            colours += QStringLiteral("CT%1=%2\r\n").arg(slot).arg(QLatin1String(slot == 3 ? "clYellow" : "clBlack"));
+        QCOMPARE(readText(path),
+                 "[Files]\r\nAutosavetime=15\r\n\r\n[Strips]\r\n" + colours +
+                     "Font=Times New Roman\r\nDescLine1=19\r\nDescLine2=2\r\n\r\n[General]\r\n"
+                     "ScenePopups=0\r\nWeatherURL=https://example.org/weather\r\nShowShootingDays=0\r\n");
         s.perfMargin = 6.25;
         s.perfWidth = 12;
         QVERIFY(s.WritePerforatedStock().ok());
@@ -107,18 +122,8 @@ private slots:
         QCOMPARE(back.perfMargin, 6.25);
         QCOMPARE(back.perfWidth, 12.0);
 
-        // The file reads like the earlier edition's: a literal [General] section, booleans
-        // as 1 and 0, colour names, CR LF line ends.
-        const QString text = readText(path);
-        QVERIFY(text.contains("[Files]\r\nAutosavetime=15\r\n"));
-        QVERIFY(text.contains("[General]\r\nScenePopups=0\r\nWeatherURL=https://example.org/weather\r\n"
-                              "ShowShootingDays=0\r\n"));
-        QVERIFY(text.contains("CB3=clRed\r\n"));
-        QVERIFY(text.contains("CT3=clYellow\r\n"));
-        QVERIFY(text.contains("CB7=$00123456\r\n"));
-        QVERIFY(text.contains("CB1=clWhite\r\n"));
-        QVERIFY(text.contains("Font=Times New Roman\r\nDescLine1=19\r\nDescLine2=2\r\n"));
-        QVERIFY(!text.contains("%General"));
+        // The stock goes in a section of its own at the end.
+        QVERIFY(readText(path).contains("ShowShootingDays=0\r\n\r\n[Printing]\r\nPerfMargin="));
     }
 
     void earlierEditionFileRead()

@@ -184,7 +184,8 @@ void TestBoardView::clickSelectsAStrip()
     QCOMPARE(doc->SelStart, 23);
     QCOMPARE(doc->SelEnd, 23);
     board->paintBox()->repaint();
-    QCOMPARE(board->lastDrawn(), " 20 30");
+    QCOMPARE(board->lastDraw().lastStrip, 20);
+    QCOMPARE(board->lastDraw().lastElement, 30);
 }
 
 void TestBoardView::shiftClickWidens()
