@@ -41,7 +41,7 @@ const QString ImportData = QStringLiteral(TB_IMPORT_DATA);
 
 // Entries of the reports that come with the call sheet, the day out of days and the
 // board printing: no subsystem serves them yet.
-const QStringList Unserved = {"Callsheet1", "Dayoutofdays1", "Productionboard1"};
+const QStringList Unserved = {"Callsheet1"};
 
 struct Program
 {

@@ -1,7 +1,9 @@
 #include "ui/reports/ReportCommands.h"
 
+#include "ui/reports/TfrmDOD.h"
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPrintBS.h"
+#include "ui/reports/TfrmPrintIt.h"
 #include "ui/reports/TfrmShootSch.h"
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
@@ -27,6 +29,13 @@ void InstallReportCommands(CommandHost &host)
     install<TfrmPrintBS>(host, actions::Breakdownsheets1);
     install<TfrmElUse>(host, actions::Elementsummary1);
     install<TfrmShootSch>(host, actions::Shootingschedule1);
+    install<TfrmDOD>(host, actions::Dayoutofdays1);
+
+    auto *printIt = new TfrmPrintIt(host.document(), host.settings(), host.window()); // owned by the main window
+    printIt->showHelp = [&host](const QString &page) { host.showHelp(page); };
+    printIt->boardChanged = [&host] { host.repaintBoard(); };
+    QObject::connect(host.action(actions::Productionboard1), &QAction::triggered, printIt,
+                     [printIt] { printIt->exec(); });
 }
 
 } // namespace tb
