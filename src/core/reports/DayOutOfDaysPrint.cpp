@@ -37,6 +37,7 @@ public:
         m_painter.setFont(font);
         m_painter.setBrush(Qt::white);
         m_painter.setPen(Qt::black);
+        m_regular = font;
         m_bold = font;
         m_bold.setBold(true);
 
@@ -81,7 +82,7 @@ private:
     {
         const int width = m_device.width();
         const int height = 5 * m_yu;
-        m_painter.setFont(regular());
+        m_painter.setFont(m_regular);
         m_painter.drawText(QRect(0, 0, width, height), Qt::AlignLeft | Qt::AlignVCenter,
                            QStringLiteral("DAY OUT OF DAYS   \"%1\"").arg(m_options.title));
         m_painter.drawText(QRect(0, 0, width, height), Qt::AlignHCenter | Qt::AlignVCenter,
@@ -89,13 +90,6 @@ private:
                                legacy::FormatDate(m_options.printed, QString::fromLatin1(legacy::ShortDatePattern)));
         m_painter.drawText(QRect(0, 0, width, height), Qt::AlignRight | Qt::AlignVCenter,
                            QStringLiteral("Page %1 - %2").arg(slice).arg(m_page));
-    }
-
-    QFont regular() const
-    {
-        QFont f = m_bold;
-        f.setBold(false);
-        return f;
     }
 
     QColor background(int row, int column) const
@@ -147,17 +141,19 @@ private:
             int x = 0;
             for (int c = first; c <= last; ++c) {
                 const int w = columnWidth(c);
-                m_painter.setPen(Qt::NoPen);
-                m_painter.setBrush(background(row, c));
-                m_painter.drawRect(x, y, w, rowH);
-                m_painter.setPen(Qt::black);
-                const bool title = c == 0 && row < DayOutOfDaysGrid::TitleRows;
-                m_painter.setFont(title ? m_bold : regular());
+                // The sheet is white: only other backgrounds and non-empty texts are drawn.
+                const QColor back = background(row, c);
+                if (back != Qt::white)
+                    m_painter.fillRect(x, y, w, rowH, back);
                 const QString &text = m_grid.cell(row, c);
-                if (c == 0)
-                    m_painter.drawText(QRect(x + 10, y + 7, w - 10, rowH - 7), Qt::AlignLeft | Qt::AlignTop, text);
-                else
-                    m_painter.drawText(QRect(x, y + 7, w, rowH - 7), Qt::AlignHCenter | Qt::AlignTop, text);
+                if (!text.isEmpty()) {
+                    const bool title = c == 0 && row < DayOutOfDaysGrid::TitleRows;
+                    m_painter.setFont(title ? m_bold : m_regular);
+                    if (c == 0)
+                        m_painter.drawText(QRect(x + 10, y + 7, w - 10, rowH - 7), Qt::AlignLeft | Qt::AlignTop, text);
+                    else
+                        m_painter.drawText(QRect(x, y + 7, w, rowH - 7), Qt::AlignHCenter | Qt::AlignTop, text);
+                }
                 x += w;
             }
             m_painter.setPen(QPen(Qt::black, row == DayOutOfDaysGrid::TitleRows ? 3 : 1));
@@ -175,6 +171,7 @@ private:
     const DayOutOfDaysPrintOptions &m_options;
     QPagedPaintDevice &m_device;
     QPainter m_painter;
+    QFont m_regular;
     QFont m_bold;
     int m_xu;
     int m_yu;

@@ -42,8 +42,7 @@ QColor DodGridView::cellBackground(int row, int column) const
 {
     if (column == 0 || row < DayOutOfDaysGrid::TitleRows)
         return FixedGrey;
-    if (m_grid.restDay.value(column))
-        return RestGrey;
+    // Colour goes over the grey of a rest day.
     if (m_colour && m_grid.isDayColumn(column)) {
         const QString &text = m_grid.cell(row, column);
         if (text.contains(u'W'))
@@ -51,6 +50,8 @@ QColor DodGridView::cellBackground(int row, int column) const
         if (text == QLatin1String("H"))
             return HoldCyan;
     }
+    if (m_grid.restDay.value(column))
+        return RestGrey;
     return Qt::white;
 }
 
@@ -64,8 +65,11 @@ int DodGridView::columnX(int column) const
 
 QRect DodGridView::cellRect(int row, int column) const
 {
-    const int y =
-        row < DayOutOfDaysGrid::TitleRows ? row * RowHeight : (row - verticalScrollBar()->value()) * RowHeight;
+    // Element rows scroll under the title rows: the scroll bar's value is the first
+    // element row shown.
+    const int shown =
+        row < DayOutOfDaysGrid::TitleRows ? row : row - verticalScrollBar()->value() + DayOutOfDaysGrid::TitleRows;
+    const int y = shown * RowHeight;
     return QRect(columnX(column), y, column == 0 ? NameColumnWidth : DefaultColumnWidth, RowHeight);
 }
 

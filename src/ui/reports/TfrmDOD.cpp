@@ -76,15 +76,21 @@ void TfrmDOD::resizeEvent(QResizeEvent *event)
     const int w = width();
     const int h = height();
     ui->DODGrid->setGeometry(4, 4, qMax(50, w - 85), qMax(50, h - 30));
+    // The check boxes 20 above the bottom, at 6 and 120 unless a wider font needs more.
     const int y = h - 20;
-    ui->HoldCheck->move(6, y);
-    ui->ColorCheck->move(120, y);
-    ui->CategoryLab->move(230, y);
-    ui->CategoryCombo->move(292, y - 2);
-    ui->TotalsCheck->move(444, y);
-    const int x = ui->DODGrid->geometry().right() + 1 + 5;
-    ui->PrintBut->move(x, 4);
-    ui->CancelBut->move(x, 36);
+    auto place = [y](QWidget *widget, int x, int yOffset = 0) {
+        widget->resize(widget->sizeHint().width(), widget->height());
+        widget->move(x, y + yOffset);
+        return x + widget->width() + 6;
+    };
+    int x = place(ui->HoldCheck, 6);
+    x = place(ui->ColorCheck, qMax(120, x));
+    x = place(ui->CategoryLab, qMax(230, x + 4));
+    x = place(ui->CategoryCombo, x, -2);
+    place(ui->TotalsCheck, x + 6);
+    const int buttons = ui->DODGrid->geometry().right() + 1 + 5;
+    ui->PrintBut->move(buttons, 4);
+    ui->CancelBut->move(buttons, 36);
 }
 
 void TfrmDOD::PrintButClick()

@@ -13,6 +13,7 @@
 #include "ui_TfrmPrintIt.h"
 
 #include <QFile>
+#include <QPrinter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -105,6 +106,21 @@ void TestBoardPrintDialogs::perforatedSetup()
     Ui::TfrmPerfSetup &ui = dialog.form();
     QCOMPARE(ui.MargSpin->value(), 6.0);
     QCOMPARE(ui.StripSpin->value(), 90.0);
+    keepScreenshot(dialog, QStringLiteral("perforated-setup"));
+
+    // The calibration page prints with the numbers in the boxes.
+    const QString calibration = TempPath(QStringLiteral("calibration.pdf"));
+    dialog.choosePrinter = [calibration](QPrinter &printer, QWidget *) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(calibration);
+        return true;
+    };
+    QTest::mouseClick(ui.CalibrateBut, Qt::LeftButton);
+    QVERIFY(QFile(calibration).size() > 0);
+    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
+    if (!folder.isEmpty())
+        QFile::copy(calibration, folder + QStringLiteral("/calibration.pdf"));
+
     QTest::mouseClick(ui.DefaultBut, Qt::LeftButton);
     QCOMPARE(ui.MargSpin->value(), 5.2);
     QCOMPARE(ui.StripSpin->value(), 95.65);
@@ -156,6 +172,8 @@ void TestBoardPrintDialogs::printBoardToPdf()
         ui.FromCombo->setCurrentIndex(4);
         ui.ToCombo->setCurrentIndex(4);
     }
+    if (perforated && !oneStrip)
+        keepScreenshot(dialog, QStringLiteral("print-board-dialog"));
     QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
     QVERIFY(QFile::exists(out));
