@@ -84,6 +84,7 @@ private Q_SLOTS:
     void reports_data();
     void reports();
     void reportTrace();
+    void doodAndPrintBoard();
 };
 
 void TestCli::initTestCase()
@@ -181,13 +182,22 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+
+    Row("dood wrong type", L{"dood", "EX", "-o", "x.txt"}, "the output must end in .csv or .pdf");
+    Row("dood colour without a pdf", L{"dood", "EX", "--color"}, "--color is for a .pdf output");
+    Row("print-board without a pdf", L{"print-board", "EX"}, "needs -o OUT.pdf");
+    Row("print-board from alone", L{"print-board", "EX", "-o", "OUT", "--from", "2"}, "--from and --to go together");
+    Row("print-board scale", L{"print-board", "EX", "-o", "OUT", "--scale", "300"},
+        "--scale must be a whole number from 50 to 200");
+    Row("print-board both orientations", L{"print-board", "EX", "-o", "OUT", "--portrait", "--landscape"},
+        "--portrait or --landscape, not both");
 }
 
 void TestCli::usageErrors()
 {
     QFETCH(QStringList, args);
     QFETCH(QString, message);
-    const QString out = rowOutput(args.value(0) == "board" ? ".png" : ".tbf");
+    const QString out = rowOutput(args.value(0) == "board" ? ".png" : args.value(0) == "print-board" ? ".pdf" : ".tbf");
     const CliRun run = RunCli(expand(args, out));
     QCOMPARE(run.code, 2);
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
@@ -227,6 +237,10 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("dood of an unknown category", L{"dood", "EX", "--category", "16"},
+        "There is no category 16: categories are numbered 1 to 15.");
+    Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
+        "The strips 5 to 999 are not within the board's strips 1 to 79.");
 }
 
 void TestCli::refusedWritesNothing()
@@ -234,7 +248,8 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board" ? ".png" : first == "report" ? ".pdf" : ".tbf");
+    const bool pdf = first == "report" || first == "dood" || first == "print-board";
+    const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -485,6 +500,27 @@ void TestCli::reportTrace()
     // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
     QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
     QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+}
+
+void TestCli::doodAndPrintBoard()
+{
+    CliRun run = RunCli(L{"dood", Example});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    const QStringList lines = run.out.split(u'\n');
+    QVERIFY(lines.at(0).startsWith(" Shooting day:,1,2,3"));
+    QVERIFY(lines.at(3).startsWith("1 - MARA QUINN,"));
+    QCOMPARE(lines.last(), QString()); // every line ends with LF
+
+    const QString csv = rowOutput(".csv");
+    run = RunCli(L{"dood", Example, "--totals", "-o", csv});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QVERIFY(ReadFileBytes(csv).split('\n').first().endsWith(",Work,Hold,Total"));
+
+    const QString pdf = rowOutput(".pdf");
+    run = RunCli(L{"print-board", Example, "-o", pdf, "--from", "5", "--to", "5", "--perforated"});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QVERIFY(run.out.endsWith("\npage 1: strips 5-5\n"));
+    QVERIFY(ReadFileBytes(pdf).startsWith("%PDF-"));
 }
 
 TB_TEST_MAIN(TestCli)

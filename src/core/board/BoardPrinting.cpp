@@ -118,6 +118,8 @@ BoardPrintResult PrintBoard(ScheduleDocument &doc, const BoardStyle &style, cons
                 painter.drawText(band, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("Page %1").arg(page));
         }
         const int lastDrawn = drawn.lastStrip.value_or(next - 1);
+        // A page that holds no strip would be followed by the same page without end;
+        // the printing stops instead.
         if (lastDrawn < next) {
             result.problem = QStringLiteral("The page is too small to hold a strip at this scale.");
             break;

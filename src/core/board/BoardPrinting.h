@@ -44,8 +44,10 @@ struct BoardPrintOptions
     // first.
     bool headerOnEveryPage = false;
     bool blackAndWhite = false;
-    // The width of one strip on the screen, in screen pixels, at which a strip is
-    // scaled to one perforated strip.
+    // The width of one strip on the screen, in screen pixels, that is scaled to one
+    // perforated strip. It is the width at 100 % whatever the board's zoom: taking the
+    // zoomed width, as the program once did, printed strips off the perforations
+    // whenever the board was zoomed.
     int screenStripWidth = 40;
     // The date and time the plain paper header shows.
     QDateTime printed = QDateTime::currentDateTime();

@@ -72,7 +72,8 @@ DayOutOfDaysGrid BuildDayOutOfDays(const ScheduleDocument &doc, const DayOutOfDa
                 const AssignmentRead read =
                     ReadAssignmentList(strip[StripField::Assignments], UnreadableItem::EndsList);
                 if (read.unreadable && !reportedUnreadable) {
-                    // One message for the whole chart, not one per row and strip.
+                    // One message for the whole chart: asking row by row, as the chart once
+                    // did, showed it for every cast member of every such strip.
                     reportedUnreadable = true;
                     doc.prompter().error(QString::fromLatin1(AssignmentReadError));
                 }
