@@ -7,7 +7,7 @@ EXAMPLE ?= examples/harbour-lights.tbf
 
 CMAKE_FLAGS = -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
 
-.PHONY: all deps configure build run test bench format clean
+.PHONY: all deps configure build run test bench package install format clean
 
 all: build
 
@@ -31,8 +31,17 @@ bench: deps
 	@cmake --build build-bench -j $(JOBS) --target tbbench
 	build-bench/bench/tbbench --benchmark_min_time=0.2
 
+# A Debian package in build-package/ (see scripts/build-package.sh).
+package:
+	@scripts/build-package.sh
+
+# Installs the build under PREFIX (default /usr/local); DESTDIR stages it elsewhere.
+PREFIX ?= /usr/local
+install: build
+	DESTDIR=$(DESTDIR) cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf $(BUILD_DIR) build-bench
+	rm -rf $(BUILD_DIR) build-bench build-package

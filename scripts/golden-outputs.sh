@@ -116,6 +116,15 @@ for d in $docs; do
     cmd add-scene add-scene "$in" -o "$d-add-scene.tbf" --scene 99A --pages "1 3/8" --int-ext I/E \
         --day-night N --location "HARBOUR, NORTH" --set "QUAY \"END\"" --synopsis "A, b" --elements 1,2
     cmd add-element add-element "$in" -o "$d-add-element.tbf" --description "NEW, ONE" --category 1
+    cmd details details "$in" -o "$d-details.tbf" --title "Night, \"Rain\"" --company "Brenholt" \
+        --address "1 Quay Street, Truro" --address "TR1 2AB" --ad "Kim Ode" --logo "" \
+        --crew "Gaffer=Jo Smith=07700 900123" --crew "Grip=Sam Lee"
+    run "$d-info-details" info "$in" --details
+    run "$d-details-info" info "$d-details.tbf" --details
+    run "$d-export-csv" export "$in" -o "$d-export.csv"
+    run "$d-export-html" export "$in" -o "$d-export.html"
+    run "$d-export-plain" export "$in" -o "$d-export-plain.htm" --colours plain
+    cp "$d-export.csv" "$d-export.html" "$d-export-plain.htm" "$out/outputs/" 2>/dev/null
     run "$d-board-png" board "$in" -o "$d-board.png"
     run "$d-board-classic" board "$in" -o "$d-board-classic.png" --colours classic --scale 0.8
     run "$d-board-pdf" board "$in" -o "$d-board.pdf"

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, testing and running Torvanbridge needs on Debian 12.
-# Idempotent: only missing packages are installed.
+# Idempotent: only missing packages are installed. Further packages named as arguments
+# are installed as well (scripts/build-package.sh asks for its tools this way).
 set -euo pipefail
 
 packages=(
@@ -14,6 +15,7 @@ packages=(
     poppler-utils       # pdftoppm and pdftotext: looking at and comparing rendered reports
     python3             # scripts/make-example.py, used by the output comparison
 )
+packages+=("$@")
 
 missing=()
 for p in "${packages[@]}"; do

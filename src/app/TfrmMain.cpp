@@ -12,6 +12,7 @@
 #include "ui/breakdown/InstallBreakdown.h"
 #include "ui/breakdown/TfrmStrip.h"
 #include "ui/import/InstallImportCommands.h"
+#include "ui/reports/ExportCommands.h"
 #include "ui/reports/ReportCommands.h"
 #include "ui/scheduling/SchedulingMenu.h"
 #include "ui/shell/HelpWindow.h"
@@ -46,9 +47,8 @@ using namespace actions;
 // The entries the window serves itself. Every other entry is served by a subsystem
 // and stays disabled until that subsystem asks for it through action().
 const char *const ShellEntries[] = {
-    New1,   Openfile1, Save1,   SaveAs1,  AsSpreadsheet1, AsHTML1,    Preferences1, Exit1,
-    Undo1,  Redo1,     Cut1,    Copy1,    Paste1,         Delete1,    Fullscreen1,  Contents1,
-    Index1, About1,    PopCut1, PopCopy1, PopPaste1,      PopDelete1,
+    New1,   Openfile1, Save1,       SaveAs1,   Preferences1, Exit1,  Undo1,   Redo1,    Cut1,      Copy1,
+    Paste1, Delete1,   Fullscreen1, Contents1, Index1,       About1, PopCut1, PopCopy1, PopPaste1, PopDelete1,
 };
 
 QString keyText(const QString &shortcut)
@@ -132,6 +132,7 @@ void TfrmMain::installSubsystemCommands()
     InstallSchedulingCommands(*this);
     InstallBreakdownCommands(*this);
     InstallReportCommands(*this);
+    InstallExportCommands(*this);
 
     // The scene editor's remembered answer to its unsaved-changes warning.
     if (auto *strip = findChild<TfrmStrip *>()) {
@@ -383,7 +384,6 @@ void TfrmMain::connectShellCommands()
     on(Contents1, &TfrmMain::Contents1Click);
     on(Index1, &TfrmMain::Index1Click);
     on(About1, &TfrmMain::About1Click);
-    // "As Spreadsheet..." and "As HTML..." stand in the menu and do nothing.
     connect(m_actions.value(QLatin1String(Fullscreen1)), &QAction::toggled, this, &TfrmMain::Fullscreen1Click);
     connect(m_zoomGroup, &QActionGroup::triggered, this, &TfrmMain::N1001Click);
     connect(m_zoomCombo, &QComboBox::currentIndexChanged, this, &TfrmMain::ZoomComboChange);

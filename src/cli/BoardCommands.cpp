@@ -1,5 +1,6 @@
 #include "CliCommand.h"
 
+#include "board/BoardExport.h"
 #include "board/BoardPrinting.h"
 #include "board/DrawBoard.h"
 #include "document/ScheduleFile.h"
@@ -30,6 +31,18 @@ struct BoardRender
     BoardDrawOptions options;
     BoardStyle style;
 };
+
+// The strip colours of the --colours option: classic or plain; false for anything else.
+bool styleNamed(const QString &name, BoardStyle *style)
+{
+    if (name == QLatin1String("classic"))
+        *style = ClassicBoardStyle();
+    else if (name == QLatin1String("plain"))
+        *style = BoardStyle();
+    else
+        return false;
+    return true;
+}
 
 bool readInt(const ArgParser &args, const QString &name, int low, int high, int *value, QString *error)
 {
@@ -305,10 +318,64 @@ int runPrintBoard(CliContext &ctx, const CliCommand &command, const QStringList 
     return ExitOk;
 }
 
+int runExport(CliContext &ctx, const CliCommand &command, const QStringList &argv)
+{
+    ArgParser args;
+    args.valueOption(QStringLiteral("-o")).valueOption(QStringLiteral("--colours"));
+    QString error;
+    if (!args.parse(argv, &error))
+        return UsageError(ctx, command, error);
+    if (args.positional().size() != 1)
+        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
+    const QString out = args.value(QStringLiteral("-o"));
+    const std::optional<BoardExportFormat> format = BoardExportFormatOf(out);
+    if (!format)
+        return UsageError(ctx, command, QStringLiteral("needs -o OUT.csv or -o OUT.html"));
+    BoardStyle style;
+    if (!styleNamed(args.value(QStringLiteral("--colours"), QStringLiteral("classic")), &style))
+        return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, args.positional().first()))
+        return ExitUserError;
+    const Result written = ExportBoard(doc, style, *format, out);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
 } // namespace
 
 void AddBoardCommands(CommandList &commands)
 {
+    CliCommand board{QStringLiteral("board"),
+                     QStringLiteral("board IN -o OUT.png|OUT.pdf [--scale S] [--width W] [--height H] "
+                                    "[--first-strip N] [--first-element N] [--colours classic|plain]"),
+                     QStringLiteral("Draw the production board as the window shows it (1920 x 1080 at scale 1 "
+                                    "unless told) with the strip colours, font, description lines and day "
+                                    "numbering of your preferences (Torvanbridge.ini), to a PNG image or a "
+                                    "one-page PDF. --colours classic draws paper stripboard colours, --colours "
+                                    "plain the white strips of a program without preferences, instead of the "
+                                    "preferences' colours."),
+                     {}};
+    board.run = [board](CliContext &ctx, const QStringList &args) { return runBoard(ctx, board, args); };
+    commands.append(board);
+
+    CliCommand exportBoard{
+        QStringLiteral("export"),
+        QStringLiteral("export IN -o OUT.csv|OUT.html [--colours classic|plain]"),
+        QStringLiteral("Export the board as File > Export board does: a spreadsheet (CSV, one row per strip with its "
+                       "day, date, scene details, notes and one column per element category) or one web page "
+                       "(HTML, the production details and the days as strips in their board colours)."),
+        {}};
+    exportBoard.run = [exportBoard](CliContext &ctx, const QStringList &args) {
+        return runExport(ctx, exportBoard, args);
+    };
+    commands.append(exportBoard);
+
     CliCommand printBoard{
         QStringLiteral("print-board"),
         QStringLiteral("print-board IN -o OUT.pdf [--from N --to N] [--perforated] [--margin MM] "
@@ -323,19 +390,6 @@ void AddBoardCommands(CommandList &commands)
         return runPrintBoard(ctx, printBoard, args);
     };
     commands.append(printBoard);
-
-    CliCommand board{QStringLiteral("board"),
-                     QStringLiteral("board IN -o OUT.png|OUT.pdf [--scale S] [--width W] [--height H] "
-                                    "[--first-strip N] [--first-element N] [--colours classic|plain]"),
-                     QStringLiteral("Draw the production board as the window shows it (1920 x 1080 at scale 1 "
-                                    "unless told) with the strip colours, font, description lines and day "
-                                    "numbering of your preferences (Torvanbridge.ini), to a PNG image or a "
-                                    "one-page PDF. --colours classic draws paper stripboard colours, --colours "
-                                    "plain the white strips of a program without preferences, instead of the "
-                                    "preferences' colours."),
-                     {}};
-    board.run = [board](CliContext &ctx, const QStringList &args) { return runBoard(ctx, board, args); };
-    commands.append(board);
 }
 
 } // namespace tb::cli

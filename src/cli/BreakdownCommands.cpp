@@ -4,10 +4,12 @@
 #include "CliCommand.h"
 
 #include "breakdown/ElementEditing.h"
+#include "breakdown/ProductionDetails.h"
 #include "breakdown/SceneEditing.h"
 #include "breakdown/StripOrder.h"
 #include "document/LegacyText.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace tb::cli {
@@ -16,9 +18,10 @@ namespace {
 
 using Runner = int (*)(CliContext &, const CliCommand &, const QStringList &);
 
-void addCommand(CommandList &commands, const QString &name, const QString &usage, const QString &summary, Runner runner)
+void addCommand(CommandList &commands, const QString &name, const QString &usage, const QString &summary, Runner runner,
+                const QString &details = {})
 {
-    CliCommand command{name, usage, summary, {}};
+    CliCommand command{name, usage, summary, {}, details};
     command.run = [command, runner](CliContext &ctx, const QStringList &args) { return runner(ctx, command, args); };
     commands.append(command);
 }
@@ -279,6 +282,91 @@ int runAddElement(CliContext &ctx, const CliCommand &self, const QStringList &ar
     });
 }
 
+// ---- details ------------------------------------------------------------------
+
+struct DetailOption
+{
+    const char *option;
+    QString ProductionDetails::*field;
+};
+
+const DetailOption DetailOptions[] = {
+    {"--title", &ProductionDetails::title},
+    {"--company", &ProductionDetails::company},
+    {"--producer", &ProductionDetails::producer},
+    {"--director", &ProductionDetails::director},
+    {"--ad", &ProductionDetails::firstAD},
+    {"--upm", &ProductionDetails::productionManager},
+    {"--script", &ProductionDetails::script},
+    {"--reference", &ProductionDetails::reference},
+    {"--prepared-by", &ProductionDetails::preparedBy},
+};
+
+// The call times the dialog shows are not part of the schedule file, so a command that
+// writes a file cannot set them; these options are refused rather than dropped.
+const char *const CallTimeOptions[] = {"--unit-call", "--costume-call", "--makeup-call", "--wrap-time"};
+
+int runDetails(CliContext &ctx, const CliCommand &self, const QStringList &args)
+{
+    ArgParser parser;
+    for (const DetailOption &d : DetailOptions)
+        parser.valueOption(QLatin1String(d.option));
+    for (const char *option : CallTimeOptions)
+        parser.valueOption(QLatin1String(option));
+    parser.repeatedOption(QStringLiteral("--address"))
+        .repeatedOption(QStringLiteral("--crew"))
+        .valueOption(QStringLiteral("--logo"));
+    int code = ExitOk;
+    if (!parseInOut(ctx, self, args, parser, &code))
+        return code;
+    for (const char *option : CallTimeOptions) {
+        if (parser.has(QLatin1String(option))) {
+            ctx.err << "Call times are not kept in schedule files: every schedule opens with unit call 8:00 am, "
+                       "costume call 7:45 am, makeup call 7:00 am and wrap time 6:00 pm, and the call sheet sets "
+                       "them for each day. Nothing was written."
+                    << Qt::endl;
+            return ExitUserError;
+        }
+    }
+    QList<CrewLine> crew;
+    for (const QString &entry : parser.values(QStringLiteral("--crew"))) {
+        const qsizetype eq = entry.indexOf(u'=');
+        if (eq < 0)
+            return UsageError(ctx, self, QStringLiteral("--crew takes POSITION=NAME or POSITION=NAME=CONTACT"));
+        const QString rest = entry.mid(eq + 1);
+        const qsizetype eq2 = rest.indexOf(u'=');
+        crew.append({entry.left(eq), eq2 < 0 ? rest : rest.left(eq2), eq2 < 0 ? QString() : rest.mid(eq2 + 1)});
+    }
+
+    return ApplyToSchedule(ctx, in(parser), out(parser), [&](ScheduleDocument &doc) {
+        ProductionDetails d = ReadProductionDetails(doc);
+        for (const DetailOption &option : DetailOptions) {
+            if (parser.has(QLatin1String(option.option)))
+                d.*option.field = parser.value(QLatin1String(option.option));
+        }
+        if (parser.has(QStringLiteral("--address"))) {
+            d.address = parser.values(QStringLiteral("--address"));
+            if (d.address.join(QString()).isEmpty())
+                d.address.clear(); // --address "" clears it
+        }
+        if (parser.has(QStringLiteral("--crew")))
+            d.crew = crew;
+        // As in the dialog, the logo is kept as a full path, and a file that is no
+        // picture is reported but still taken.
+        const QString logo = parser.value(QStringLiteral("--logo"));
+        if (parser.has(QStringLiteral("--logo")))
+            d.logoFile = logo.isEmpty() ? QString() : QFileInfo(logo).absoluteFilePath();
+        const QString problem = ProductionDetailsProblem(d);
+        if (!problem.isEmpty())
+            return Result::failure(problem);
+        if (!logo.isEmpty())
+            (void)LoadLogo(doc, d.logoFile, LogoSource::Chosen);
+        d.crew.resize(CrewRowCount);
+        WriteProductionDetails(doc, d);
+        return Result::success();
+    });
+}
+
 } // namespace
 
 void AddBreakdownCommands(CommandList &commands)
@@ -291,7 +379,7 @@ void AddBreakdownCommands(CommandList &commands)
     addCommand(commands, QStringLiteral("conform"), QStringLiteral("conform IN -o OUT -- ENTRY..."),
                QStringLiteral("Rebuild the board in the order typed: sheet numbers, + a divider, - a rest day, "
                               "*text a banner. Strips not entered are removed."),
-               runConform);
+               runConform, QStringLiteral("Example: conform in.tbf -o out.tbf -- 3 1 + 2 - '*TRAVEL DAY' 4"));
     addCommand(commands, QStringLiteral("renumber"), QStringLiteral("renumber IN -o OUT"),
                QStringLiteral("Number the breakdown sheets 1, 2, 3 ... in board order."), runRenumber);
     addCommand(commands, QStringLiteral("sort-elements"), QStringLiteral("sort-elements IN -o OUT"),
@@ -309,6 +397,18 @@ void AddBreakdownCommands(CommandList &commands)
                QStringLiteral("Append an element in category N (1 Cast .. 15 Other); the ID defaults to the next cast "
                               "number or the category's code."),
                runAddElement);
+    addCommand(commands, QStringLiteral("details"),
+               QStringLiteral("details IN -o OUT [--title T] [--company C] [--address LINE]... [--producer P] "
+                              "[--director D] [--ad A] [--upm U] [--script S] [--reference R] [--prepared-by P] "
+                              "[--logo PICTURE] [--crew POSITION=NAME[=CONTACT]]..."),
+               QStringLiteral("Set the production details printed on reports and call sheets; values not given stay "
+                              "as they are."),
+               runDetails,
+               QStringLiteral("Each --address is one line of the address (--address \"\" clears it); the --crew "
+                              "lines replace the crew list (at most 50). --logo takes a picture file, kept as a full "
+                              "path (\"\" for none). Call times are not kept in schedule files, so --unit-call, "
+                              "--costume-call, --makeup-call and --wrap-time are refused. info --details shows the "
+                              "details."));
 }
 
 } // namespace tb::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/ProgramHelp.h"
 #include "document/Prompter.h"
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
@@ -37,6 +38,13 @@ public:
         m_valueOptions.append(name);
         return *this;
     }
+    // An option that may be given more than once; values() lists them in order.
+    ArgParser &repeatedOption(const QString &name)
+    {
+        m_valueOptions.append(name);
+        m_repeated.append(name);
+        return *this;
+    }
     ArgParser &flag(const QString &name)
     {
         m_flags.append(name);
@@ -48,12 +56,15 @@ public:
 
     bool has(const QString &name) const { return m_values.contains(name) || m_setFlags.contains(name); }
     QString value(const QString &name, const QString &fallback = {}) const { return m_values.value(name, fallback); }
+    QStringList values(const QString &name) const { return m_lists.value(name); }
     const QStringList &positional() const { return m_positional; }
     const QStringList &afterDashes() const { return m_afterDashes; }
 
 private:
     QStringList m_valueOptions;
     QStringList m_flags;
+    QStringList m_repeated;
+    QHash<QString, QStringList> m_lists;
     QHash<QString, QString> m_values;
     QStringList m_setFlags;
     QStringList m_positional;
@@ -73,6 +84,7 @@ struct CliCommand
     QString usage;   // "resave IN -o OUT"
     QString summary; // one line for --help
     std::function<int(CliContext &, const QStringList &args)> run;
+    QString details = {}; // more about the options, for --help and the manual; may be empty
 };
 
 using CommandList = QList<CliCommand>;
@@ -84,6 +96,12 @@ void AddSchedulingCommands(CommandList &commands);
 void AddBreakdownCommands(CommandList &commands);
 void AddBoardCommands(CommandList &commands);
 void AddReportCommands(CommandList &commands);
+
+// The tool's help (for --help, the manual page and the README) and its bash
+// completion, made from the command list: the options a usage line names are the
+// ones completed, with the files or words their placeholders stand for.
+HelpPage CliHelpPage(const CommandList &commands);
+QString BashCompletion(const CommandList &commands);
 
 // Shared by commands that read a schedule, change it and write it elsewhere.
 // Opens IN (exit 1 on failure, nothing written), runs the change with questions

@@ -79,6 +79,8 @@ bool ArgParser::parse(const QStringList &args, QString *error)
                     *error = QStringLiteral("option %1 needs a value").arg(name);
                     return false;
                 }
+                if (m_repeated.contains(name))
+                    m_lists[name].append(m_values.value(name));
                 continue;
             }
             if (m_flags.contains(name) && !hasInline) {

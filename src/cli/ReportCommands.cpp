@@ -275,6 +275,20 @@ int runDood(CliContext &ctx, const CliCommand &self, const QStringList &args)
 
 void AddReportCommands(CommandList &commands)
 {
+    CliCommand report{
+        QStringLiteral("report"),
+        QStringLiteral("report schedule|oneline|breakdown|elements IN -o OUT.pdf [--paper a4|letter] [--trace] "
+                       "[--from N --to N] [--all-days] [--sheets ID,...] [--categories N,...]"),
+        QStringLiteral("Write a report as PDF: the shooting schedule, the one-line schedule, breakdown sheets or "
+                       "the element summary."),
+        {},
+        QStringLiteral("schedule, oneline: --from N --to N production days (default all), --all-days rest days "
+                       "too.\nbreakdown: --sheets breakdown sheet numbers (default every scene).\nelements: "
+                       "--categories category numbers (default 1, the cast).\n--trace prints every value pushed "
+                       "into the template, one line each.")};
+    report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
+    commands.append(report);
+
     CliCommand dood{QStringLiteral("dood"),
                     QStringLiteral("dood IN [--no-holds] [--category N] [--totals] [-o OUT.csv|OUT.pdf] [--color]"),
                     QStringLiteral("The day out of days of the cast (or of category N) as comma-separated text "
@@ -284,17 +298,6 @@ void AddReportCommands(CommandList &commands)
                     {}};
     dood.run = [dood](CliContext &ctx, const QStringList &args) { return runDood(ctx, dood, args); };
     commands.append(dood);
-
-    CliCommand report{
-        QStringLiteral("report"),
-        QStringLiteral("report KIND IN -o OUT.pdf [--trace] [--paper a4|letter] [--from N --to N] [--all-days] "
-                       "[--sheets ID,...] [--categories N,...]"),
-        QStringLiteral("Write a report as PDF: KIND is schedule, oneline (--from/--to days, --all-days for rest "
-                       "days too), breakdown (--sheets) or elements (--categories, default 1). --trace prints "
-                       "every value pushed into the template."),
-        {}};
-    report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
-    commands.append(report);
 }
 
 } // namespace tb::cli

@@ -29,17 +29,7 @@ CommandList allCommands()
 
 void printHelp(QTextStream &out, const CommandList &commands)
 {
-    out << "Usage: torvanbridge-cli [--locale NAME] COMMAND [ARGS...]\n\n"
-           "Reads and writes Torvanbridge schedules (.tbf) without a window.\n"
-           "Questions a command would ask are answered Yes.\n\n"
-           "Global options:\n"
-           "  --locale NAME   dates and names in this locale (default: the environment's)\n"
-           "  --help          this text\n"
-           "  --version       the program version\n\n"
-           "Commands:\n";
-    for (const CliCommand &command : commands)
-        out << "  " << command.usage << "\n      " << command.summary << '\n';
-    out << "\nExit codes: 0 success, 1 an error reported above, 2 a usage error.\n";
+    out << FormatHelpText(CliHelpPage(commands));
     out.flush();
 }
 
@@ -47,6 +37,17 @@ void printHelp(QTextStream &out, const CommandList &commands)
 
 int main(int argc, char **argv)
 {
+    // The build makes the manual page and the bash completion with these two; they need
+    // no display and no application object.
+    if (argc == 2 && (qstrcmp(argv[1], "--help-man") == 0 || qstrcmp(argv[1], "--help-completion") == 0)) {
+        QTextStream out(stdout);
+        const CommandList commands = allCommands();
+        if (qstrcmp(argv[1], "--help-man") == 0)
+            out << FormatManPage(CliHelpPage(commands), QStringLiteral(TB_VERSION));
+        else
+            out << BashCompletion(commands);
+        return ExitOk;
+    }
     // Fonts and painting work without a display on the offscreen platform.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -579,7 +579,7 @@ private slots:
         QVERIFY(!add->isEnabled());
         QVERIFY(!popAdd->isEnabled());
         QVERIFY(h.entry(actions::New1)->isEnabled());
-        QVERIFY(h.entry(actions::AsHTML1)->isEnabled()); // stands there and does nothing
+        QVERIFY(!h.entry(actions::AsHTML1)->isEnabled()); // served by the export commands
         QVERIFY(!h.main->isServed(add));
 
         // A subsystem asks for its entry: from then on it is enabled by state.

@@ -12,6 +12,7 @@
 #include "ui/breakdown/TfrmStrip.h"
 #include "ui/import/TfrmFDImport.h"
 #include "ui/import/TfrmImportScript.h"
+#include "ui/reports/ExportCommands.h"
 #include "ui/scheduling/SchedulingMenu.h"
 #include "ui/shell/HelpWindow.h"
 #include "ui/shell/MenuActions.h"
@@ -380,6 +381,53 @@ private Q_SLOTS:
         } else {
             QCOMPARE(p.doc.strips.count(), 1);
         }
+    }
+
+    // The two Export board entries write the file chosen, adding the extension the
+    // name lacks; a file that cannot be written is reported and the board stays.
+    void exportEntries_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("written"); // empty: nothing written
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("spreadsheet") << "AsSpreadsheet1"
+                                     << "board"
+                                     << "board.csv" << QByteArray("Kind,Day,");
+        QTest::newRow("web page") << "AsHTML1"
+                                  << "board.htm"
+                                  << "board.htm" << QByteArray("<!DOCTYPE html>");
+        QTest::newRow("no folder") << "AsHTML1"
+                                   << "missing/board.html"
+                                   << "" << QByteArray();
+    }
+    void exportEntries()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, chosen);
+        QFETCH(QString, written);
+        QFETCH(QByteArray, start);
+        QTemporaryDir folder;
+        Program p;
+        QVERIFY(p.start());
+        QVERIFY(OpenDocument(p.doc, Example).ok());
+        auto *exporter = p.main->findChild<BoardExporter *>();
+        QString suggested;
+        exporter->chooseFile = [&](BoardExportFormat, const QString &name) {
+            suggested = name;
+            return QDir(folder.path()).filePath(chosen);
+        };
+        p.trigger(entry);
+        QCOMPARE(QFileInfo(suggested).fileName(),
+                 entry == "AsHTML1" ? QString("harbour-lights.html") : QString("harbour-lights.csv"));
+        if (written.isEmpty()) {
+            QCOMPARE(p.prompter.texts().size(), 1);
+            QVERIFY(p.prompter.texts().first().startsWith("Could not write"));
+            return;
+        }
+        QVERIFY(ReadFileBytes(QDir(folder.path()).filePath(written)).startsWith(start));
+        QCOMPARE(p.main->statusPanels()->panelText(StatusSink::MessagePanel), "Exported to " + written);
+        QVERIFY(!p.doc.Modified);
     }
 
     // The wizard asks about unsaved changes only at Import!, so that cancelling there

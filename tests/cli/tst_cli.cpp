@@ -85,6 +85,8 @@ private Q_SLOTS:
     void reports();
     void reportTrace();
     void doodAndPrintBoard();
+    void details();
+    void exports();
 };
 
 void TestCli::initTestCase()
@@ -173,6 +175,11 @@ void TestCli::usageErrors_data()
     Row("board colours", L{"board", "EX", "-o", "OUT", "--colours", "pink"}, "--colours must be classic or plain");
     Row("board, two inputs", L{"board", "EX", "EX", "-o", "OUT"}, "needs one schedule file");
 
+    Row("export wrong type", L{"export", "EX", "-o", "x.xlsx"}, "needs -o OUT.csv or -o OUT.html");
+    Row("export colours", L{"export", "EX", "-o", "x.csv", "--colours", "pink"}, "--colours must be classic or plain");
+    Row("crew without a name", L{"details", "EX", "-o", "OUT", "--crew", "Gaffer"},
+        "--crew takes POSITION=NAME or POSITION=NAME=CONTACT");
+
     Row("unknown report", L{"report", "callsheet", "EX", "-o", "OUT"}, "unknown report callsheet");
     Row("report without output", L{"report", "schedule", "EX"}, "expected KIND, an input file and -o OUT.pdf");
     Row("paper", L{"report", "schedule", "EX", "-o", "OUT", "--paper", "a3"}, "--paper is a4 or letter");
@@ -241,6 +248,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
         "The strips 5 to 999 are not within the board's strips 1 to 79.");
+    Row("export of a missing schedule", L{"export", "@missing.tbf"}, "This file cannot be opened by Torvanbridge");
+    Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
+    Row("two-line title", L{"details", "EX", "--title", "A\nB"}, "Picture title must be one line.");
+    Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
+        "The crew list has room for 50 lines, not 51.");
 }
 
 void TestCli::refusedWritesNothing()
@@ -249,7 +261,10 @@ void TestCli::refusedWritesNothing()
     QFETCH(QString, message);
     const QString first = args.value(0);
     const bool pdf = first == "report" || first == "dood" || first == "print-board";
-    const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : ".tbf");
+    const QString out = rowOutput(first == "board"    ? ".png"
+                                  : pdf               ? ".pdf"
+                                  : first == "export" ? ".csv"
+                                                      : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -521,6 +536,51 @@ void TestCli::doodAndPrintBoard()
     QVERIFY2(run.code == 0, qPrintable(run.err));
     QVERIFY(run.out.endsWith("\npage 1: strips 5-5\n"));
     QVERIFY(ReadFileBytes(pdf).startsWith("%PDF-"));
+}
+
+// Details given are set, the others kept; info --details shows them all.
+void TestCli::details()
+{
+    const QString out = TempPath("details.tbf");
+    const CliRun set = RunCli({"details", Example, "-o", out, "--title", "Rain", "--address", "1 Quay St, Truro",
+                               "--address", "TR1 2AB", "--upm", "Ann Lee", "--logo", "logo.png", "--crew",
+                               "Gaffer=Jo Smith=07700 900123", "--crew", "Grip=Sam=Lee"});
+    QVERIFY2(set.code == 0, qPrintable(set.err));
+    // As in the dialog, a logo that is no picture is reported and still taken.
+    QVERIFY(set.err.contains("Error opening logo image file. Make sure this is a valid graphic file."));
+    const CliRun info = RunCli({"info", out, "--details"});
+    QCOMPARE(info.code, 0);
+    QVERIFY(info.out.startsWith("Title:       Rain\nCompany:     Brenholt Pictures Ltd\n"));
+    const QString details = info.out.mid(info.out.indexOf("Producer:"));
+    QCOMPARE(details, QString("Producer:    Anna Kerrow\n"
+                              "Director:    Declan Mayhew\n"
+                              "1st AD:      Ruth Sandoval\n"
+                              "PM:          Ann Lee\n"
+                              "Script:      Harbour Lights - shooting script, blue revision\n"
+                              "Reference:   HL-0427\n"
+                              "Prepared by: Peter Okafor\n"
+                              "Logo:        " +
+                              QDir::current().absoluteFilePath("logo.png") +
+                              "\n"
+                              "Address:\n  1 Quay St, Truro\n  TR1 2AB\n"
+                              "Crew:\n  Gaffer = Jo Smith = 07700 900123\n  Grip = Sam = Lee\n"));
+    // Without --details, info prints what it always did.
+    QVERIFY(!RunCli({"info", out}).out.contains("Producer:"));
+}
+
+void TestCli::exports()
+{
+    for (const QString &name : {QStringLiteral("board.csv"), QStringLiteral("board.HTML")}) {
+        const QString out = TempPath(name);
+        const CliRun run = RunCli({"export", Example, "-o", out});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        const QByteArray bytes = ReadFileBytes(out);
+        QVERIFY(name.endsWith("csv") ? bytes.startsWith("Kind,Day,Shooting day,Date,Scene,")
+                                     : bytes.startsWith("<!DOCTYPE html>"));
+        // The header and one row per strip.
+        if (name.endsWith("csv"))
+            QCOMPARE(bytes.count("\r\n"), 1 + 79);
+    }
 }
 
 TB_TEST_MAIN(TestCli)

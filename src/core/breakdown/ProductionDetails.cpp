@@ -64,6 +64,44 @@ void WriteProductionDetails(ScheduleDocument &doc, const ProductionDetails &d)
     doc.view().repaintBoard();
 }
 
+QString ProductionDetailsProblem(const ProductionDetails &d)
+{
+    if (d.crew.size() > CrewRowCount)
+        return QStringLiteral("The crew list has room for %1 lines, not %2.").arg(CrewRowCount).arg(d.crew.size());
+    const auto oneLine = [](const QString &text) { return !text.contains(u'\n') && !text.contains(u'\r'); };
+    const std::pair<const char *, const QString *> values[] = {
+        {"Picture title", &d.title},
+        {"Company", &d.company},
+        {"Producer", &d.producer},
+        {"Director", &d.director},
+        {"1st AD", &d.firstAD},
+        {"PM", &d.productionManager},
+        {"Script", &d.script},
+        {"Reference", &d.reference},
+        {"Prepared by", &d.preparedBy},
+        {"Unit call", &d.unitCall},
+        {"Costume call", &d.costumeCall},
+        {"Makeup call", &d.makeupCall},
+        {"Wrap time", &d.wrapTime},
+        {"Logo", &d.logoFile},
+    };
+    for (const auto &[name, value] : values) {
+        if (!oneLine(*value))
+            return QStringLiteral("%1 must be one line.").arg(QLatin1String(name));
+    }
+    for (const QString &line : d.address) {
+        if (!oneLine(line))
+            return QStringLiteral("Each address line must be one line.");
+    }
+    for (const CrewLine &line : d.crew) {
+        for (const QString &cell : line) {
+            if (!oneLine(cell))
+                return QStringLiteral("Each crew position, name and contact must be one line.");
+        }
+    }
+    return {};
+}
+
 QImage LoadLogo(ScheduleDocument &doc, const QString &path, LogoSource source)
 {
     QImageReader reader(path);

@@ -43,6 +43,11 @@ ProductionDetails ReadProductionDetails(const ScheduleDocument &doc);
 // window title, marks the document modified and repaints.
 void WriteProductionDetails(ScheduleDocument &doc, const ProductionDetails &details);
 
+// Why the details cannot be stored as they stand; empty when they can. Every value is
+// one line of the schedule file (an address line one item of a line), so none may
+// hold a line break, and the crew has room for CrewRowCount lines, as in the dialog.
+QString ProductionDetailsProblem(const ProductionDetails &details);
+
 // Why a logo is being loaded, which decides the message when it cannot be.
 enum class LogoSource {
     Stored, // the path kept in the document: the link may be broken

@@ -1,0 +1,312 @@
+// The installed program: `cmake --install` into a temporary DESTDIR under /usr, then
+// both programs run from there on the installed example, with the files the desktop
+// needs checked by its own tools where they are installed (skipped otherwise).
+
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QMimeDatabase>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace tb::test;
+
+namespace {
+
+struct Run
+{
+    int code = -1;
+    QString out;
+    QString err;
+};
+
+Run run(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000)
+{
+    QProcess p;
+    if (!folder.isEmpty())
+        p.setWorkingDirectory(folder);
+    p.start(program, args);
+    Run r;
+    if (!p.waitForFinished(timeoutMs)) {
+        p.kill();
+        p.waitForFinished();
+        r.err = QStringLiteral("timed out: ") + program;
+        return r;
+    }
+    r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    r.out = QString::fromUtf8(p.readAllStandardOutput());
+    r.err = QString::fromUtf8(p.readAllStandardError());
+    return r;
+}
+
+// Bash's answer to a completion request for the line, run in the folder.
+QString complete(const QString &script, const QString &line, const QString &folder)
+{
+    const QString words = line.endsWith(u' ') ? line + QStringLiteral("''") : line;
+    const QString command =
+        QStringLiteral("source '%1'; COMP_WORDS=(%2); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+                       "_torvanbridge_cli; printf '%s\\n' \"${COMPREPLY[@]}\" | sort | tr '\\n' ' '")
+            .arg(script, words);
+    return run(QStringLiteral("bash"), {QStringLiteral("-c"), command}, folder).out.trimmed();
+}
+
+} // namespace
+
+class TestInstall : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_root;
+    QString m_usr;
+    QString path(const QString &relative) const { return m_usr + u'/' + relative; }
+    QString cli() const { return path(QStringLiteral("bin/torvanbridge-cli")); }
+    QString example() const { return path(QStringLiteral("share/torvanbridge/examples/harbour-lights.tbf")); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_root.isValid());
+        QProcess install;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("DESTDIR"), m_root.path());
+        install.setProcessEnvironment(env);
+        install.start(QStringLiteral(TB_CMAKE_COMMAND), {QStringLiteral("--install"), QStringLiteral(TB_BINARY_DIR),
+                                                         QStringLiteral("--prefix"), QStringLiteral("/usr")});
+        QVERIFY(install.waitForFinished(120000));
+        QVERIFY2(install.exitCode() == 0, install.readAllStandardError().constData());
+        m_usr = m_root.path() + QStringLiteral("/usr");
+    }
+
+    void layout_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *file :
+             {"bin/torvanbridge", "bin/torvanbridge-cli", "share/torvanbridge/templates/ShootSch1.dfm",
+              "share/torvanbridge/templates/CallSheet1.dfm", "share/torvanbridge/help/contents.html",
+              "share/torvanbridge/help/differences.html", "share/torvanbridge/examples/harbour-lights.tbf",
+              "share/applications/com.brenholt.Torvanbridge.desktop",
+              "share/metainfo/com.brenholt.Torvanbridge.metainfo.xml",
+              "share/mime/packages/com.brenholt.Torvanbridge.xml",
+              "share/icons/hicolor/48x48/apps/com.brenholt.Torvanbridge.png",
+              "share/icons/hicolor/scalable/apps/com.brenholt.Torvanbridge.svg", "share/man/man1/torvanbridge.1.gz",
+              "share/man/man1/torvanbridge-cli.1.gz", "share/bash-completion/completions/torvanbridge-cli",
+              "share/doc/torvanbridge/changelog.gz"})
+            QTest::newRow(file) << QString::fromLatin1(file);
+    }
+    void layout()
+    {
+        QFETCH(QString, file);
+        QVERIFY2(QFileInfo(path(file)).isFile(), qPrintable(path(file)));
+    }
+
+    // The installed tool finds the installed templates: nothing lies beside it.
+    void commandLineToolRunsInstalled()
+    {
+        QVERIFY(!QFile::exists(path(QStringLiteral("bin/ShootSch1.dfm"))));
+        const Run info = run(cli(), {QStringLiteral("info"), example()});
+        QCOMPARE(info.code, 0);
+        QVERIFY(info.out.startsWith(QStringLiteral("Title:       Harbour Lights")));
+        const QString pdf = m_root.filePath(QStringLiteral("schedule.pdf"));
+        const Run report =
+            run(cli(), {QStringLiteral("report"), QStringLiteral("schedule"), example(), QStringLiteral("-o"), pdf});
+        QVERIFY2(report.code == 0, qPrintable(report.err));
+        QVERIFY(ReadFileBytes(pdf).startsWith("%PDF"));
+    }
+
+    // The desktop program starts on the example and keeps running without a complaint.
+    void desktopProgramRunsInstalled()
+    {
+        const QString program = path(QStringLiteral("bin/torvanbridge"));
+        const Run version = run(program, {QStringLiteral("--version")});
+        QCOMPARE(version.out.trimmed(), QStringLiteral("torvanbridge " TB_VERSION));
+        QVERIFY(run(program, {QStringLiteral("--help")}).out.contains(QStringLiteral("Usage: torvanbridge [FILE]")));
+
+        QProcess gui;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        gui.setProcessEnvironment(env);
+        gui.start(program, {example()});
+        QVERIFY(gui.waitForStarted());
+        QVERIFY2(!gui.waitForFinished(4000), gui.readAllStandardError().constData());
+        const QByteArray complaints = gui.readAllStandardError();
+        gui.kill();
+        gui.waitForFinished();
+        QVERIFY2(complaints.isEmpty(), complaints.constData());
+    }
+
+    void manualPages_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("torvanbridge") << "torvanbridge"
+                                      << "torvanbridge [FILE]";
+        QTest::newRow("torvanbridge-cli") << "torvanbridge-cli"
+                                          << "export IN -o OUT.csv|OUT.html";
+    }
+    void manualPages()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, expected);
+        const QString file = path(QStringLiteral("share/man/man1/") + page + QStringLiteral(".1.gz"));
+        const Run text = run(QStringLiteral("gzip"), {QStringLiteral("-dc"), file});
+        QVERIFY(text.out.startsWith(QStringLiteral(".TH ") + page.toUpper() + QStringLiteral(" 1 ")));
+        if (QStandardPaths::findExecutable(QStringLiteral("man")).isEmpty())
+            QSKIP("man is not installed");
+        QProcess man;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("MANWIDTH"), QStringLiteral("200"));
+        env.remove(QStringLiteral("MAN_KEEP_FORMATTING"));
+        env.insert(QStringLiteral("LC_ALL"), QStringLiteral("C")); // plain hyphens
+        man.setProcessEnvironment(env);
+        man.start(QStringLiteral("man"), {QStringLiteral("-P"), QStringLiteral("cat"), QStringLiteral("-l"), file});
+        QVERIFY(man.waitForFinished(30000));
+        QCOMPARE(man.exitCode(), 0);
+        QVERIFY(QString::fromUtf8(man.readAllStandardOutput()).contains(expected));
+    }
+
+    void completion_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("commands") << "torvanbridge-cli ex"
+                                  << "export";
+        QTest::newRow("after --locale") << "torvanbridge-cli --locale C rem"
+                                        << "remove-banners remove-dividers";
+        QTest::newRow("schedules") << "torvanbridge-cli info "
+                                   << "a.tbf sub";
+        QTest::newRow("report kinds") << "torvanbridge-cli report s"
+                                      << "schedule";
+        QTest::newRow("report input") << "torvanbridge-cli report schedule "
+                                      << "a.tbf sub";
+        QTest::newRow("output kinds") << "torvanbridge-cli export a.tbf -o "
+                                      << "b.csv sub";
+        QTest::newRow("choices") << "torvanbridge-cli export a.tbf --colours "
+                                 << "classic plain";
+        QTest::newRow("options") << "torvanbridge-cli details a.tbf --pr"
+                                 << "--prepared-by --producer";
+        QTest::newRow("screenplay") << "torvanbridge-cli import-text "
+                                    << "script.txt sub";
+        QTest::newRow("any file") << "torvanbridge-cli import-fountain "
+                                  << "a.tbf b.csv c.pdf script.txt sub";
+        QTest::newRow("after an option's value") << "torvanbridge-cli board --scale 2 "
+                                                 << "a.tbf sub";
+    }
+    void completion()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, expected);
+        if (QStandardPaths::findExecutable(QStringLiteral("bash")).isEmpty())
+            QSKIP("bash is not installed");
+        QTemporaryDir folder;
+        QDir(folder.path()).mkdir(QStringLiteral("sub"));
+        for (const char *name : {"a.tbf", "b.csv", "script.txt", "c.pdf"})
+            QFile(folder.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly);
+        QCOMPARE(
+            complete(path(QStringLiteral("share/bash-completion/completions/torvanbridge-cli")), line, folder.path()),
+            expected);
+    }
+
+    void fileTypes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("type");
+        QTest::newRow("by name") << "a.tbf" << QByteArray("anything\n") << "application/x-torvanbridge-schedule";
+        QTest::newRow("by content") << "renamed.txt"
+                                    << QByteArray("Torvanbridge data file. DO NOT EDIT THIS FILE DIRECTLY!\r\n1.0\r\n")
+                                    << "application/x-torvanbridge-schedule";
+        QTest::newRow("call sheet") << "day1.tbs" << QByteArray("Torvanbridge call sheet file V1\r\n")
+                                    << "application/x-torvanbridge-call-sheet";
+    }
+    void fileTypes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, type);
+        // The type database reads the folders of XDG_DATA_DIRS once, on first use.
+        qputenv("XDG_DATA_DIRS", m_usr.toLocal8Bit() + "/share");
+        QTemporaryDir folder;
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        QCOMPARE(QMimeDatabase().mimeTypeForFile(file.fileName()).name(), type);
+    }
+
+    void validators_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<QStringList>("args");
+        QTest::newRow("desktop entry") << "desktop-file-validate"
+                                       << QStringList{path("share/applications/com.brenholt.Torvanbridge.desktop")};
+        QTest::newRow("metainfo") << "appstreamcli"
+                                  << QStringList{"validate", "--no-net",
+                                                 path("share/metainfo/com.brenholt.Torvanbridge.metainfo.xml")};
+    }
+    void validators()
+    {
+        QFETCH(QString, tool);
+        QFETCH(QStringList, args);
+        if (QStandardPaths::findExecutable(tool).isEmpty())
+            QSKIP("the validator is not installed");
+        const Run r = run(tool, args);
+        QVERIFY2(r.code == 0, qPrintable(r.out + r.err));
+    }
+
+    // The spreadsheet export opens in LibreOffice: converted back from its own reading,
+    // the cells hold what was written.
+    void spreadsheetOpensInLibreOffice()
+    {
+        QString office = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+        if (office.isEmpty())
+            QSKIP("LibreOffice is not installed");
+        QTemporaryDir folder;
+        const QString csv = folder.filePath(QStringLiteral("board.csv"));
+        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), csv}).code, 0);
+        const Run convert = run(
+            office,
+            {QStringLiteral("-env:UserInstallation=file://") + folder.filePath(QStringLiteral("lo")),
+             QStringLiteral("--headless"), QStringLiteral("--infilter=CSV:44,34,76,1"), QStringLiteral("--convert-to"),
+             QStringLiteral("html"), QStringLiteral("--outdir"), folder.filePath(QStringLiteral("out")), csv},
+            {}, 180000);
+        QVERIFY2(convert.code == 0, qPrintable(convert.err));
+        const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath(QStringLiteral("out/board.html"))));
+        QCOMPARE(table.count(QStringLiteral("<tr")), 1 + 79); // the header and every strip, line breaks kept in cells
+        for (const char *cell : {"Shooting day", "MARY ELLEN - DECK", "Old Billy sings the drowned men's song"})
+            QVERIFY2(table.contains(QString::fromLatin1(cell).toHtmlEscaped()), cell);
+    }
+
+    // The web page export shows in a browser: a phone-sized screenshot holds the strips'
+    // colours.
+    void webPageShowsInChromium()
+    {
+        QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
+        if (browser.isEmpty())
+            QSKIP("Chromium is not installed");
+        QTemporaryDir folder;
+        const QString html = folder.filePath(QStringLiteral("board.html"));
+        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), html}).code, 0);
+        const QString shot = folder.filePath(QStringLiteral("board.png"));
+        const Run r = run(browser,
+                          {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
+                           QStringLiteral("--disable-gpu"), QStringLiteral("--window-size=412,1600"),
+                           QStringLiteral("--screenshot=") + shot, QStringLiteral("file://") + html},
+                          {}, 120000);
+        QVERIFY2(QFile::exists(shot), qPrintable(r.err));
+        const QImage image(shot);
+        QCOMPARE(image.width(), 412);
+        // The classic day-exterior yellow of the example's first scenes.
+        bool yellow = false;
+        for (int y = 0; y < image.height() && !yellow; y += 4)
+            yellow = image.pixelColor(image.width() / 2, y) == QColor(255, 240, 120);
+        QVERIFY(yellow);
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestInstall)
+#include "tst_install.moc"

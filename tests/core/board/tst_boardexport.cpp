@@ -1,0 +1,202 @@
+// The board exported as a spreadsheet (CSV) and as a web page (HTML).
+
+#include "TestSupport.h"
+
+#include "board/BoardExport.h"
+#include "document/DocumentOperations.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+using namespace tb;
+using namespace tb::test;
+
+namespace {
+
+// Splits CSV text into rows of fields the way RFC 4180 reads it.
+QList<QStringList> parseCsv(const QString &text)
+{
+    QList<QStringList> rows;
+    QStringList row;
+    QString field;
+    bool quoted = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (quoted) {
+            if (c == u'"' && i + 1 < text.size() && text.at(i + 1) == u'"') {
+                field += u'"';
+                ++i;
+            } else if (c == u'"') {
+                quoted = false;
+            } else {
+                field += c;
+            }
+        } else if (c == u'"') {
+            quoted = true;
+        } else if (c == u',') {
+            row.append(field);
+            field.clear();
+        } else if (c == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n') {
+            row.append(field);
+            rows.append(row);
+            row.clear();
+            field.clear();
+            ++i;
+        } else {
+            field += c;
+        }
+    }
+    return rows;
+}
+
+// Scene 12A (1 3/8 pages, exterior night, with notes and two elements), a divider, a
+// two-day banner and scene 13; start Monday 5 April 2027.
+void makeBoard(ScheduleDocument &doc)
+{
+    doc.values.PictureTitle = "Rain & <Shine>";
+    doc.values.StartDate = "46482";
+    const int first = AddScene(doc, "12A", "1.375", "N", "E");
+    StripRecord &s = doc.strips[first];
+    s.set(StripField::Location, "QUAY, NORTH");
+    s.set(StripField::SetName, "HARBOUR \"END\"");
+    s.set(StripField::Synopsis, "Mara runs <fast>");
+    s.set(StripField::Notes, "\"Check tide, twice\",Boat");
+    s.set(StripField::StripId, "40");
+    AddDivider(doc);
+    AddBanner(doc, "Travel", 2);
+    AddScene(doc, "13", "0.5");
+    AddElement(doc, "LAMP", 5, "Prp");
+    AddElement(doc, "ANNA", 1, "7");
+    doc.strips[first].set(StripField::Assignments, "2,1");
+    SetModified(doc);
+}
+
+} // namespace
+
+class TestBoardExport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void formatOfName_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("format"); // -1 none
+        QTest::newRow("csv") << "/tmp/a.csv" << int(BoardExportFormat::Spreadsheet);
+        QTest::newRow("CSV") << "b.CSV" << int(BoardExportFormat::Spreadsheet);
+        QTest::newRow("html") << "c.html" << int(BoardExportFormat::Html);
+        QTest::newRow("htm") << "d.Htm" << int(BoardExportFormat::Html);
+        QTest::newRow("pdf") << "e.pdf" << -1;
+        QTest::newRow("no extension") << "csv" << -1;
+    }
+    void formatOfName()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, format);
+        const std::optional<BoardExportFormat> found = BoardExportFormatOf(path);
+        QCOMPARE(found ? int(*found) : -1, format);
+    }
+
+    void spreadsheetRows()
+    {
+        ScheduleDocument doc;
+        makeBoard(doc);
+        const QByteArray bytes = BoardCsv(doc);
+        QVERIFY(bytes.endsWith("\r\n"));
+        const QList<QStringList> rows = parseCsv(QString::fromUtf8(bytes));
+        QCOMPARE(rows.size(), 1 + doc.strips.count());
+        const QStringList header = rows.at(0);
+        QCOMPARE(header.mid(0, 16).join(u'|'), "Kind|Day|Shooting day|Date|Scene|INT/EXT|D/N|Set|Location|Synopsis|"
+                                               "Pages|Eighths|Script page|Sheet|Lock date|Notes");
+        QCOMPARE(header.size(), 16 + 15);
+        QCOMPARE(header.at(16), "Cast");
+        for (const QStringList &row : rows)
+            QCOMPARE(row.size(), header.size());
+        auto column = [&](int row, const QString &name) { return rows.at(row).at(header.indexOf(name)); };
+
+        // The scene: day 1, its date, words for INT/EXT and D/N, quoted texts intact.
+        QCOMPARE(column(1, "Kind"), "Scene");
+        QCOMPARE(column(1, "Day"), "1");
+        QCOMPARE(column(1, "Shooting day"), "1");
+        QCOMPARE(column(1, "Date"), "2027-04-05");
+        QCOMPARE(column(1, "Scene"), "12A");
+        QCOMPARE(column(1, "INT/EXT"), "EXT");
+        QCOMPARE(column(1, "D/N"), "NIGHT");
+        QCOMPARE(column(1, "Set"), "HARBOUR \"END\"");
+        QCOMPARE(column(1, "Location"), "QUAY, NORTH");
+        QCOMPARE(column(1, "Pages"), "1.375");
+        QCOMPARE(column(1, "Eighths"), "11");
+        QCOMPARE(column(1, "Sheet"), "40");
+        QCOMPARE(column(1, "Notes"), "Check tide, twice\nBoat");
+        QCOMPARE(column(1, "Cast"), "7 - ANNA");
+        QCOMPARE(column(1, "Props"), "LAMP");
+        // The divider carries its day's total; the banner stands for days 2 and 3.
+        QCOMPARE(column(2, "Kind"), "Day divider");
+        QCOMPARE(column(2, "Eighths"), "11");
+        QCOMPARE(column(2, "Scene"), "");
+        QCOMPARE(column(3, "Kind"), "Banner");
+        QCOMPARE(column(3, "Synopsis"), "Travel");
+        QCOMPARE(column(3, "Day"), "3");
+        QCOMPARE(column(3, "Date"), "2027-04-07");
+        // The last scene falls in the day after the banner.
+        QCOMPARE(column(4, "Day"), "4");
+        QCOMPARE(column(4, "Shooting day"), "3");
+        QCOMPARE(column(4, "Pages"), "0.5");
+        QCOMPARE(column(4, "Cast"), "");
+    }
+
+    void webPage()
+    {
+        ScheduleDocument doc;
+        makeBoard(doc);
+        QImage logo(40, 20, QImage::Format_RGB32);
+        logo.fill(Qt::red);
+        QVERIFY(logo.save(TempPath("logo.png")));
+        doc.values.LogoFile = TempPath("logo.png");
+        BoardStyle style;
+        style.setSlot(StripSlot::NightExt, QColor(1, 2, 3), QColor(250, 251, 252));
+        const QString html = QString::fromUtf8(BoardHtml(doc, style));
+
+        QVERIFY(html.startsWith("<!DOCTYPE html>"));
+        QVERIFY(html.contains("<title>Rain &amp; &lt;Shine&gt;</title>"));
+        QVERIFY(html.contains("Mara runs &lt;fast&gt;"));
+        // The strip in its board colours, the day closed by its divider.
+        QVERIFY(html.contains("background:#010203;color:#fafbfc"));
+        QVERIFY(html.contains("Shooting day 1 \u2013 Mon, April 5, 2027"));
+        QVERIFY(html.contains("End of shooting day 1"));
+        QVERIFY(html.contains("Travel (2 days)"));
+        // Self-contained: the logo inside, nothing fetched from elsewhere.
+        QVERIFY(html.contains("src=\"data:image/png;base64,"));
+        QVERIFY(!html.contains("http"));
+        QVERIFY(!html.contains("<link"));
+        QVERIFY(!html.contains("<script"));
+    }
+
+    // A failed write names the file and leaves what was there before.
+    void writesWholeOrNothing()
+    {
+        ScheduleDocument doc;
+        makeBoard(doc);
+        const QString path = TempPath("board.csv");
+        QVERIFY(ExportBoard(doc, BoardStyle(), BoardExportFormat::Spreadsheet, path).ok());
+        QCOMPARE(ReadFileBytes(path), BoardCsv(doc));
+
+        const QString missing = TempPath("no-such-folder/board.html");
+        const Result failed = ExportBoard(doc, BoardStyle(), BoardExportFormat::Html, missing);
+        QVERIFY(!failed.ok());
+        QVERIFY(failed.message().contains(missing));
+        QVERIFY(!QFile::exists(missing));
+
+        QFile::setPermissions(path, QFile::ReadOwner);
+        const bool readOnlyHonoured = !QFile(path).open(QIODevice::WriteOnly);
+        if (readOnlyHonoured) {
+            QVERIFY(!ExportBoard(doc, BoardStyle(), BoardExportFormat::Html, path).ok());
+            QCOMPARE(ReadFileBytes(path), BoardCsv(doc));
+        }
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    }
+};
+
+TB_TEST_GUILESS_MAIN(TestBoardExport)
+#include "tst_boardexport.moc"
