@@ -185,6 +185,10 @@ private Q_SLOTS:
                                           << "breakdown-sheets.html";
         QTest::newRow("element summary") << "Elementsummary1" << 1 << "Print element summary"
                                          << "element-summary.html";
+        QTest::newRow("day out of days") << "Dayoutofdays1" << 1 << "Day out of days"
+                                         << "day-out-of-days.html";
+        QTest::newRow("production board") << "Productionboard1" << 1 << "Print production board"
+                                          << "print-board.html";
         QTest::newRow("import script") << "Importscript1" << 1 << "Script import (TXT file)"
                                        << "import-script.html";
     }
