@@ -32,15 +32,28 @@ struct BoardRender
     BoardStyle style;
 };
 
-// The strip colours of the --colours option: classic or plain; false for anything else.
-bool styleNamed(const QString &name, BoardStyle *style)
+// The board style of the board and export commands: the user's preferences, read as
+// the window reads them (a value that does not convert is reported and its default
+// used), with the strip colours of "--colours" instead of the preferences' when given:
+// the paper stripboard's (classic) or the white strips of a program without
+// preferences (plain). Font, description lines and day numbering stay the user's.
+// False for a colours name that is neither.
+bool userStyle(CliContext &ctx, const ArgParser &args, BoardStyle *style)
 {
-    if (name == QLatin1String("classic"))
-        *style = ClassicBoardStyle();
-    else if (name == QLatin1String("plain"))
-        *style = BoardStyle();
-    else
+    const QString colours = args.value(QStringLiteral("--colours"));
+    BoardStyle override;
+    if (colours == QLatin1String("classic"))
+        override = ClassicBoardStyle();
+    else if (args.has(QStringLiteral("--colours")) && colours != QLatin1String("plain"))
         return false;
+    Settings settings;
+    for (const QString &problem : settings.LoadSettings())
+        ctx.err << problem << Qt::endl;
+    *style = StyleFromSettings(settings);
+    if (args.has(QStringLiteral("--colours"))) {
+        style->background = override.background;
+        style->text = override.text;
+    }
     return true;
 }
 
@@ -62,15 +75,6 @@ BoardDrawResult drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &
 {
     painter.setClipRect(QRect(0, 0, r.width, r.height));
     return DrawBoard(doc, r.style, r.options, painter);
-}
-
-// The strip colours of "--colours": the paper stripboard's, or the white strips of a
-// program without preferences. Font, description lines and day numbering stay the
-// user's.
-void overrideColours(BoardStyle &style, const BoardStyle &colours)
-{
-    style.background = colours.background;
-    style.text = colours.text;
 }
 
 // Writes through a temporary file, so a failed render leaves no half-written file.
@@ -144,21 +148,8 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
         !readInt(args, QStringLiteral("--first-strip"), 1, MaxStrips, &r.options.firstStrip, &error) ||
         !readInt(args, QStringLiteral("--first-element"), 1, MaxElements, &r.options.firstElement, &error))
         return UsageError(ctx, command, error);
-    const QString colours = args.value(QStringLiteral("--colours"));
-    if (args.has(QStringLiteral("--colours")) && colours != QLatin1String("classic") &&
-        colours != QLatin1String("plain"))
+    if (!userStyle(ctx, args, &r.style))
         return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
-
-    // The board as the window draws it: with the user's preferences, read as the
-    // window reads them (a value that does not convert is reported and its default used).
-    Settings settings;
-    for (const QString &problem : settings.LoadSettings())
-        ctx.err << problem << Qt::endl;
-    r.style = StyleFromSettings(settings);
-    if (colours == QLatin1String("classic"))
-        overrideColours(r.style, ClassicBoardStyle());
-    else if (colours == QLatin1String("plain"))
-        overrideColours(r.style, BoardStyle());
 
     ScheduleDocument doc;
     doc.setPrompter(&ctx.prompter);
@@ -185,6 +176,35 @@ int runBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv
     else
         ctx.out << "no element rows";
     ctx.out << Qt::endl;
+    return ExitOk;
+}
+
+int runExport(CliContext &ctx, const CliCommand &command, const QStringList &argv)
+{
+    ArgParser args;
+    args.valueOption(QStringLiteral("-o")).valueOption(QStringLiteral("--colours"));
+    QString error;
+    if (!args.parse(argv, &error))
+        return UsageError(ctx, command, error);
+    if (args.positional().size() != 1)
+        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
+    const QString out = args.value(QStringLiteral("-o"));
+    const std::optional<BoardExportFormat> format = BoardExportFormatOf(out);
+    if (!format)
+        return UsageError(ctx, command, QStringLiteral("needs -o OUT.csv or -o OUT.html"));
+    BoardStyle style;
+    if (!userStyle(ctx, args, &style))
+        return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, args.positional().first()))
+        return ExitUserError;
+    const Result written = ExportBoard(doc, style, *format, out);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
     return ExitOk;
 }
 
@@ -318,35 +338,6 @@ int runPrintBoard(CliContext &ctx, const CliCommand &command, const QStringList 
     return ExitOk;
 }
 
-int runExport(CliContext &ctx, const CliCommand &command, const QStringList &argv)
-{
-    ArgParser args;
-    args.valueOption(QStringLiteral("-o")).valueOption(QStringLiteral("--colours"));
-    QString error;
-    if (!args.parse(argv, &error))
-        return UsageError(ctx, command, error);
-    if (args.positional().size() != 1)
-        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
-    const QString out = args.value(QStringLiteral("-o"));
-    const std::optional<BoardExportFormat> format = BoardExportFormatOf(out);
-    if (!format)
-        return UsageError(ctx, command, QStringLiteral("needs -o OUT.csv or -o OUT.html"));
-    BoardStyle style;
-    if (!styleNamed(args.value(QStringLiteral("--colours"), QStringLiteral("classic")), &style))
-        return UsageError(ctx, command, QStringLiteral("--colours must be classic or plain"));
-
-    ScheduleDocument doc;
-    doc.setPrompter(&ctx.prompter);
-    if (!OpenDocument(doc, args.positional().first()))
-        return ExitUserError;
-    const Result written = ExportBoard(doc, style, *format, out);
-    if (!written) {
-        ctx.err << written.message() << Qt::endl;
-        return ExitUserError;
-    }
-    return ExitOk;
-}
-
 } // namespace
 
 void AddBoardCommands(CommandList &commands)
@@ -369,7 +360,8 @@ void AddBoardCommands(CommandList &commands)
         QStringLiteral("export IN -o OUT.csv|OUT.html [--colours classic|plain]"),
         QStringLiteral("Export the board as File > Export board does: a spreadsheet (CSV, one row per strip with its "
                        "day, date, scene details, notes and one column per element category) or one web page "
-                       "(HTML, the production details and the days as strips in their board colours)."),
+                       "(HTML, the production details and the days as strips in their board colours: the "
+                       "preferences' colours, or --colours classic or plain as for board)."),
         {}};
     exportBoard.run = [exportBoard](CliContext &ctx, const QStringList &args) {
         return runExport(ctx, exportBoard, args);

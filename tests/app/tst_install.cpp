@@ -290,7 +290,10 @@ private Q_SLOTS:
             QSKIP("Chromium is not installed");
         QTemporaryDir folder;
         const QString html = folder.filePath(QStringLiteral("board.html"));
-        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), html}).code, 0);
+        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), html,
+                             QStringLiteral("--colours"), QStringLiteral("classic")})
+                     .code,
+                 0);
         const QString shot = folder.filePath(QStringLiteral("board.png"));
         const Run r = run(browser,
                           {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),

@@ -199,20 +199,21 @@ private:
     QString m_path;
 };
 
-// What the preferences dialog gathers.
+// What the preferences dialog gathers; PreferencesFromSettings fills it, so the
+// defaults stay those of the keys.
 struct PreferencesInput
 {
     int autosaveMinutes = 0;
-    bool scenePopups = true;
+    bool scenePopups = false;
     QString weatherUrl;
-    bool showShootingDays = true;
+    bool showShootingDays = false;
     QString boardFont;
-    int descLine1Index = 0;
-    int descLine2Index = 1;
+    int descLine1Index = -1;
+    int descLine2Index = -1;
     // The "Warn me about" boxes: ticked = warn.
-    bool warnSceneChange = true;
-    bool warnAutoRestClick = true;
-    bool warnCallSheetRest = true;
+    bool warnSceneChange = false;
+    bool warnAutoRestClick = false;
+    bool warnCallSheetRest = false;
     std::array<quint32, StripSlotCount + 1> stripBackground{};
     std::array<quint32, StripSlotCount + 1> stripText{};
 };

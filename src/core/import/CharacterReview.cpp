@@ -1,5 +1,6 @@
 #include "import/CharacterReview.h"
 
+#include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 
 #include <QRegularExpression>
@@ -90,14 +91,14 @@ QStringList RemoveCharacters(ScheduleDocument &doc, const QList<int> &elements)
         const QString &list = doc.strips[s][StripField::Assignments];
         if (list.isEmpty())
             continue;
-        QStringList kept;
+        QList<int> kept;
         for (const int e : AssignedElements(doc, s)) {
             if (e >= 1 && e <= count && moved.at(e) > 0)
-                kept.append(QString::number(moved.at(e)));
+                kept.append(moved.at(e));
             else if (e < 1 || e > count)
-                kept.append(QString::number(e));
+                kept.append(e);
         }
-        doc.strips[s].set(StripField::Assignments, kept.join(u','));
+        doc.strips[s].set(StripField::Assignments, JoinAssignmentList(kept));
     }
     for (int e = count; e >= 1; --e) {
         if (removed.contains(e))
