@@ -96,3 +96,26 @@ void BM_SchedulePreview(benchmark::State &state)
 BENCHMARK(BM_SchedulePreview)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+namespace {
+
+// The breakdown sheets of every scene of the capacity schedule to a PDF file: one sheet
+// (a page) per scene, values, layout, painting and writing.
+void BM_BreakdownPdf(benchmark::State &state)
+{
+    ScheduleDocument doc;
+    bench::FillToCapacity(doc);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("breakdown.pdf"));
+    int pages = 0;
+    for (auto _ : state) {
+        auto built = CreateBreakdownPages(doc, BreakdownReportOptions(), context(BreakdownTemplate));
+        if (!built || !WriteReportPdf(built->report(), path))
+            state.SkipWithError("writing the PDF failed");
+        pages = built ? built->rows : 0;
+    }
+    state.counters["sheets"] = pages;
+}
+BENCHMARK(BM_BreakdownPdf)->Unit(benchmark::kMillisecond);
+
+} // namespace

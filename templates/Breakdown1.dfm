@@ -107,6 +107,7 @@ object BreakdownForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = DirField
     end
     object DirField: TAlField
       Left = 456
@@ -136,6 +137,7 @@ object BreakdownForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = ProdField
     end
     object ProdField: TAlField
       Left = 456
@@ -165,6 +167,7 @@ object BreakdownForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = RefField
     end
     object RefField: TAlField
       Left = 456
@@ -193,12 +196,12 @@ object BreakdownForm: TForm
     Left = 0
     Top = 146
     Width = 700
-    Height = 800
+    Height = 820
     Align = alTop
     BandType = alr_Detail
     object SheetBox: TAlShape
       Left = 0
-      Top = 8
+      Top = 28
       Width = 90
       Height = 54
       Brush.Style = bsClear
@@ -207,7 +210,7 @@ object BreakdownForm: TForm
     end
     object SheetCaption: TAlLabel
       Left = 6
-      Top = 12
+      Top = 32
       Width = 78
       Height = 12
       Alignment = taCenter
@@ -222,7 +225,7 @@ object BreakdownForm: TForm
     end
     object BSField: TAlField
       Left = 4
-      Top = 28
+      Top = 48
       Width = 82
       Height = 30
       Alignment = taCenter
@@ -237,8 +240,8 @@ object BreakdownForm: TForm
     end
     object SceneBox: TAlShape
       Left = 96
-      Top = 8
-      Width = 100
+      Top = 28
+      Width = 86
       Height = 54
       Brush.Style = bsClear
       Pen.Color = $00000000
@@ -246,8 +249,8 @@ object BreakdownForm: TForm
     end
     object SceneCaption: TAlLabel
       Left = 102
-      Top = 12
-      Width = 88
+      Top = 32
+      Width = 74
       Height = 12
       Alignment = taCenter
       AutoSize = False
@@ -261,32 +264,33 @@ object BreakdownForm: TForm
     end
     object SceneField: TAlField
       Left = 100
-      Top = 28
-      Width = 92
+      Top = 48
+      Width = 78
       Height = 30
       Alignment = taCenter
       AutoSize = False
       Caption = 'SceneField'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = clBlack
-      Font.Height = -19
+      Font.Height = -15
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
     object PageBox: TAlShape
-      Left = 202
-      Top = 8
-      Width = 88
+      Left = 188
+      Top = 28
+      Width = 76
       Height = 54
       Brush.Style = bsClear
       Pen.Color = $00000000
       Pen.Width = 1
     end
     object PageCaption: TAlLabel
-      Left = 208
-      Top = 12
-      Width = 76
+      Left = 194
+      Top = 32
+      Width = 64
       Height = 12
       Alignment = taCenter
       AutoSize = False
@@ -299,9 +303,9 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object PageField: TAlField
-      Left = 206
-      Top = 28
-      Width = 80
+      Left = 192
+      Top = 48
+      Width = 68
       Height = 30
       Alignment = taCenter
       AutoSize = False
@@ -314,18 +318,18 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object PagesBox: TAlShape
-      Left = 296
-      Top = 8
-      Width = 88
+      Left = 270
+      Top = 28
+      Width = 76
       Height = 54
       Brush.Style = bsClear
       Pen.Color = $00000000
       Pen.Width = 1
     end
     object PagesCaption: TAlLabel
-      Left = 302
-      Top = 12
-      Width = 76
+      Left = 276
+      Top = 32
+      Width = 64
       Height = 12
       Alignment = taCenter
       AutoSize = False
@@ -338,9 +342,9 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object PagesField: TAlField
-      Left = 300
-      Top = 28
-      Width = 80
+      Left = 274
+      Top = 48
+      Width = 68
       Height = 30
       Alignment = taCenter
       AutoSize = False
@@ -353,8 +357,8 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object DNBox: TAlShape
-      Left = 390
-      Top = 8
+      Left = 416
+      Top = 28
       Width = 58
       Height = 54
       Brush.Style = bsClear
@@ -362,8 +366,8 @@ object BreakdownForm: TForm
       Pen.Width = 1
     end
     object DNCaption: TAlLabel
-      Left = 396
-      Top = 12
+      Left = 422
+      Top = 32
       Width = 46
       Height = 12
       Alignment = taCenter
@@ -377,8 +381,8 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object DNField: TAlField
-      Left = 394
-      Top = 28
+      Left = 420
+      Top = 48
       Width = 50
       Height = 30
       Alignment = taCenter
@@ -392,18 +396,18 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object SetBox: TAlShape
-      Left = 454
-      Top = 8
-      Width = 246
+      Left = 480
+      Top = 28
+      Width = 220
       Height = 54
       Brush.Style = bsClear
       Pen.Color = $00000000
       Pen.Width = 1
     end
     object SetCaption: TAlLabel
-      Left = 460
-      Top = 12
-      Width = 234
+      Left = 486
+      Top = 32
+      Width = 208
       Height = 12
       AutoSize = False
       Caption = 'SET'
@@ -415,9 +419,9 @@ object BreakdownForm: TForm
       ParentFont = False
     end
     object SetField: TAlField
-      Left = 458
-      Top = 28
-      Width = 238
+      Left = 484
+      Top = 48
+      Width = 212
       Height = 30
       AutoSize = False
       Caption = 'SetField'
@@ -431,7 +435,7 @@ object BreakdownForm: TForm
     end
     object SynopsisBox: TAlShape
       Left = 0
-      Top = 68
+      Top = 88
       Width = 700
       Height = 74
       Brush.Style = bsClear
@@ -440,7 +444,7 @@ object BreakdownForm: TForm
     end
     object SynopsisCaption: TAlLabel
       Left = 6
-      Top = 72
+      Top = 92
       Width = 300
       Height = 12
       AutoSize = False
@@ -454,7 +458,7 @@ object BreakdownForm: TForm
     end
     object SynopsisField: TAlField
       Left = 6
-      Top = 87
+      Top = 107
       Width = 688
       Height = 52
       AutoSize = False
@@ -469,7 +473,7 @@ object BreakdownForm: TForm
     end
     object CatBox1: TAlShape
       Left = 0
-      Top = 148
+      Top = 168
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -478,7 +482,7 @@ object BreakdownForm: TForm
     end
     object CatShade1: TAlShape
       Left = 1
-      Top = 149
+      Top = 169
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -486,7 +490,7 @@ object BreakdownForm: TForm
     end
     object CatName1: TAlField
       Left = 6
-      Top = 152
+      Top = 172
       Width = 218
       Height = 12
       AutoSize = False
@@ -501,7 +505,7 @@ object BreakdownForm: TForm
     end
     object CatList1: TAlField
       Left = 6
-      Top = 170
+      Top = 190
       Width = 218
       Height = 80
       AutoSize = False
@@ -514,10 +518,11 @@ object BreakdownForm: TForm
       ParentFont = False
       WordWrap = True
       Tag = 101
+      visible = False
     end
     object CatBox2: TAlShape
       Left = 235
-      Top = 148
+      Top = 168
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -526,7 +531,7 @@ object BreakdownForm: TForm
     end
     object CatShade2: TAlShape
       Left = 236
-      Top = 149
+      Top = 169
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -534,7 +539,7 @@ object BreakdownForm: TForm
     end
     object CatName2: TAlField
       Left = 241
-      Top = 152
+      Top = 172
       Width = 218
       Height = 12
       AutoSize = False
@@ -549,7 +554,7 @@ object BreakdownForm: TForm
     end
     object CatList2: TAlField
       Left = 241
-      Top = 170
+      Top = 190
       Width = 218
       Height = 80
       AutoSize = False
@@ -565,7 +570,7 @@ object BreakdownForm: TForm
     end
     object CatBox3: TAlShape
       Left = 470
-      Top = 148
+      Top = 168
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -574,7 +579,7 @@ object BreakdownForm: TForm
     end
     object CatShade3: TAlShape
       Left = 471
-      Top = 149
+      Top = 169
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -582,7 +587,7 @@ object BreakdownForm: TForm
     end
     object CatName3: TAlField
       Left = 476
-      Top = 152
+      Top = 172
       Width = 218
       Height = 12
       AutoSize = False
@@ -597,7 +602,7 @@ object BreakdownForm: TForm
     end
     object CatList3: TAlField
       Left = 476
-      Top = 170
+      Top = 190
       Width = 218
       Height = 80
       AutoSize = False
@@ -613,7 +618,7 @@ object BreakdownForm: TForm
     end
     object CatBox4: TAlShape
       Left = 0
-      Top = 260
+      Top = 280
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -622,7 +627,7 @@ object BreakdownForm: TForm
     end
     object CatShade4: TAlShape
       Left = 1
-      Top = 261
+      Top = 281
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -630,7 +635,7 @@ object BreakdownForm: TForm
     end
     object CatName4: TAlField
       Left = 6
-      Top = 264
+      Top = 284
       Width = 218
       Height = 12
       AutoSize = False
@@ -645,7 +650,7 @@ object BreakdownForm: TForm
     end
     object CatList4: TAlField
       Left = 6
-      Top = 282
+      Top = 302
       Width = 218
       Height = 80
       AutoSize = False
@@ -661,7 +666,7 @@ object BreakdownForm: TForm
     end
     object CatBox5: TAlShape
       Left = 235
-      Top = 260
+      Top = 280
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -670,7 +675,7 @@ object BreakdownForm: TForm
     end
     object CatShade5: TAlShape
       Left = 236
-      Top = 261
+      Top = 281
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -678,7 +683,7 @@ object BreakdownForm: TForm
     end
     object CatName5: TAlField
       Left = 241
-      Top = 264
+      Top = 284
       Width = 218
       Height = 12
       AutoSize = False
@@ -693,7 +698,7 @@ object BreakdownForm: TForm
     end
     object CatList5: TAlField
       Left = 241
-      Top = 282
+      Top = 302
       Width = 218
       Height = 80
       AutoSize = False
@@ -709,7 +714,7 @@ object BreakdownForm: TForm
     end
     object CatBox6: TAlShape
       Left = 470
-      Top = 260
+      Top = 280
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -718,7 +723,7 @@ object BreakdownForm: TForm
     end
     object CatShade6: TAlShape
       Left = 471
-      Top = 261
+      Top = 281
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -726,7 +731,7 @@ object BreakdownForm: TForm
     end
     object CatName6: TAlField
       Left = 476
-      Top = 264
+      Top = 284
       Width = 218
       Height = 12
       AutoSize = False
@@ -741,7 +746,7 @@ object BreakdownForm: TForm
     end
     object CatList6: TAlField
       Left = 476
-      Top = 282
+      Top = 302
       Width = 218
       Height = 80
       AutoSize = False
@@ -757,7 +762,7 @@ object BreakdownForm: TForm
     end
     object CatBox7: TAlShape
       Left = 0
-      Top = 372
+      Top = 392
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -766,7 +771,7 @@ object BreakdownForm: TForm
     end
     object CatShade7: TAlShape
       Left = 1
-      Top = 373
+      Top = 393
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -774,7 +779,7 @@ object BreakdownForm: TForm
     end
     object CatName7: TAlField
       Left = 6
-      Top = 376
+      Top = 396
       Width = 218
       Height = 12
       AutoSize = False
@@ -789,7 +794,7 @@ object BreakdownForm: TForm
     end
     object CatList7: TAlField
       Left = 6
-      Top = 394
+      Top = 414
       Width = 218
       Height = 80
       AutoSize = False
@@ -805,7 +810,7 @@ object BreakdownForm: TForm
     end
     object CatBox8: TAlShape
       Left = 235
-      Top = 372
+      Top = 392
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -814,7 +819,7 @@ object BreakdownForm: TForm
     end
     object CatShade8: TAlShape
       Left = 236
-      Top = 373
+      Top = 393
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -822,7 +827,7 @@ object BreakdownForm: TForm
     end
     object CatName8: TAlField
       Left = 241
-      Top = 376
+      Top = 396
       Width = 218
       Height = 12
       AutoSize = False
@@ -837,7 +842,7 @@ object BreakdownForm: TForm
     end
     object CatList8: TAlField
       Left = 241
-      Top = 394
+      Top = 414
       Width = 218
       Height = 80
       AutoSize = False
@@ -853,7 +858,7 @@ object BreakdownForm: TForm
     end
     object CatBox9: TAlShape
       Left = 470
-      Top = 372
+      Top = 392
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -862,7 +867,7 @@ object BreakdownForm: TForm
     end
     object CatShade9: TAlShape
       Left = 471
-      Top = 373
+      Top = 393
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -870,7 +875,7 @@ object BreakdownForm: TForm
     end
     object CatName9: TAlField
       Left = 476
-      Top = 376
+      Top = 396
       Width = 218
       Height = 12
       AutoSize = False
@@ -885,7 +890,7 @@ object BreakdownForm: TForm
     end
     object CatList9: TAlField
       Left = 476
-      Top = 394
+      Top = 414
       Width = 218
       Height = 80
       AutoSize = False
@@ -901,7 +906,7 @@ object BreakdownForm: TForm
     end
     object CatBox10: TAlShape
       Left = 0
-      Top = 484
+      Top = 504
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -910,7 +915,7 @@ object BreakdownForm: TForm
     end
     object CatShade10: TAlShape
       Left = 1
-      Top = 485
+      Top = 505
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -918,7 +923,7 @@ object BreakdownForm: TForm
     end
     object CatName10: TAlField
       Left = 6
-      Top = 488
+      Top = 508
       Width = 218
       Height = 12
       AutoSize = False
@@ -933,7 +938,7 @@ object BreakdownForm: TForm
     end
     object CatList10: TAlField
       Left = 6
-      Top = 506
+      Top = 526
       Width = 218
       Height = 80
       AutoSize = False
@@ -949,7 +954,7 @@ object BreakdownForm: TForm
     end
     object CatBox11: TAlShape
       Left = 235
-      Top = 484
+      Top = 504
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -958,7 +963,7 @@ object BreakdownForm: TForm
     end
     object CatShade11: TAlShape
       Left = 236
-      Top = 485
+      Top = 505
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -966,7 +971,7 @@ object BreakdownForm: TForm
     end
     object CatName11: TAlField
       Left = 241
-      Top = 488
+      Top = 508
       Width = 218
       Height = 12
       AutoSize = False
@@ -981,7 +986,7 @@ object BreakdownForm: TForm
     end
     object CatList11: TAlField
       Left = 241
-      Top = 506
+      Top = 526
       Width = 218
       Height = 80
       AutoSize = False
@@ -997,7 +1002,7 @@ object BreakdownForm: TForm
     end
     object CatBox12: TAlShape
       Left = 470
-      Top = 484
+      Top = 504
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -1006,7 +1011,7 @@ object BreakdownForm: TForm
     end
     object CatShade12: TAlShape
       Left = 471
-      Top = 485
+      Top = 505
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -1014,7 +1019,7 @@ object BreakdownForm: TForm
     end
     object CatName12: TAlField
       Left = 476
-      Top = 488
+      Top = 508
       Width = 218
       Height = 12
       AutoSize = False
@@ -1029,7 +1034,7 @@ object BreakdownForm: TForm
     end
     object CatList12: TAlField
       Left = 476
-      Top = 506
+      Top = 526
       Width = 218
       Height = 80
       AutoSize = False
@@ -1045,7 +1050,7 @@ object BreakdownForm: TForm
     end
     object CatBox13: TAlShape
       Left = 0
-      Top = 596
+      Top = 616
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -1054,7 +1059,7 @@ object BreakdownForm: TForm
     end
     object CatShade13: TAlShape
       Left = 1
-      Top = 597
+      Top = 617
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -1062,7 +1067,7 @@ object BreakdownForm: TForm
     end
     object CatName13: TAlField
       Left = 6
-      Top = 600
+      Top = 620
       Width = 218
       Height = 12
       AutoSize = False
@@ -1077,7 +1082,7 @@ object BreakdownForm: TForm
     end
     object CatList13: TAlField
       Left = 6
-      Top = 618
+      Top = 638
       Width = 218
       Height = 80
       AutoSize = False
@@ -1093,7 +1098,7 @@ object BreakdownForm: TForm
     end
     object CatBox14: TAlShape
       Left = 235
-      Top = 596
+      Top = 616
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -1102,7 +1107,7 @@ object BreakdownForm: TForm
     end
     object CatShade14: TAlShape
       Left = 236
-      Top = 597
+      Top = 617
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -1110,7 +1115,7 @@ object BreakdownForm: TForm
     end
     object CatName14: TAlField
       Left = 241
-      Top = 600
+      Top = 620
       Width = 218
       Height = 12
       AutoSize = False
@@ -1125,7 +1130,7 @@ object BreakdownForm: TForm
     end
     object CatList14: TAlField
       Left = 241
-      Top = 618
+      Top = 638
       Width = 218
       Height = 80
       AutoSize = False
@@ -1141,7 +1146,7 @@ object BreakdownForm: TForm
     end
     object CatBox15: TAlShape
       Left = 470
-      Top = 596
+      Top = 616
       Width = 230
       Height = 106
       Brush.Style = bsClear
@@ -1150,7 +1155,7 @@ object BreakdownForm: TForm
     end
     object CatShade15: TAlShape
       Left = 471
-      Top = 597
+      Top = 617
       Width = 228
       Height = 17
       Brush.Color = $00E4E4E4
@@ -1158,7 +1163,7 @@ object BreakdownForm: TForm
     end
     object CatName15: TAlField
       Left = 476
-      Top = 600
+      Top = 620
       Width = 218
       Height = 12
       AutoSize = False
@@ -1173,7 +1178,7 @@ object BreakdownForm: TForm
     end
     object CatList15: TAlField
       Left = 476
-      Top = 618
+      Top = 638
       Width = 218
       Height = 80
       AutoSize = False
@@ -1189,7 +1194,7 @@ object BreakdownForm: TForm
     end
     object NotesBox: TAlShape
       Left = 0
-      Top = 708
+      Top = 728
       Width = 700
       Height = 86
       Brush.Style = bsClear
@@ -1198,7 +1203,7 @@ object BreakdownForm: TForm
     end
     object NotesShade: TAlShape
       Left = 1
-      Top = 709
+      Top = 729
       Width = 698
       Height = 17
       Brush.Color = $00E4E4E4
@@ -1206,7 +1211,7 @@ object BreakdownForm: TForm
     end
     object NotesCat: TAlField
       Left = 6
-      Top = 712
+      Top = 732
       Width = 300
       Height = 12
       AutoSize = False
@@ -1220,11 +1225,90 @@ object BreakdownForm: TForm
     end
     object NotesField: TAlField
       Left = 6
-      Top = 730
+      Top = 750
       Width = 688
       Height = 60
       AutoSize = False
       Caption = 'NotesField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object HeadingBar: TAlShape
+      Left = 0
+      Top = 6
+      Width = 700
+      Height = 14
+      Brush.Color = clWhite
+      Pen.Color = $00000000
+      Pen.Width = 1
+      BrushField = StripColourField
+    end
+    object StripColourField: TAlField
+      Left = 0
+      Top = 0
+      Width = 10
+      Height = 10
+      AutoSize = False
+      Caption = 'StripColourField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      visible = False
+    end
+    object IntExtBox: TAlShape
+      Left = 352
+      Top = 28
+      Width = 58
+      Height = 54
+      Brush.Style = bsClear
+      Pen.Color = $00000000
+      Pen.Width = 1
+    end
+    object IntExtCaption: TAlLabel
+      Left = 358
+      Top = 32
+      Width = 46
+      Height = 12
+      Alignment = taCenter
+      AutoSize = False
+      Caption = 'I/E'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object IntExtField: TAlField
+      Left = 356
+      Top = 48
+      Width = 50
+      Height = 30
+      Alignment = taCenter
+      AutoSize = False
+      Caption = 'IntExtField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -15
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object CastListField: TAlField
+      Left = 6
+      Top = 190
+      Width = 218
+      Height = 80
+      AutoSize = False
+      Caption = 'CastListField'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = clBlack
       Font.Height = -11
@@ -1292,25 +1376,10 @@ object BreakdownForm: TForm
       Font.Style = []
       ParentFont = False
     end
-    object PageLabel: TAlLabel
-      Left = 610
-      Top = 10
-      Width = 40
-      Height = 14
-      Alignment = taRightJustify
-      AutoSize = False
-      Caption = 'Page'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = $00555555
-      Font.Height = -10
-      Font.Name = 'Arial'
-      Font.Style = []
-      ParentFont = False
-    end
     object PageNumber: TAlSysField
-      Left = 654
+      Left = 560
       Top = 10
-      Width = 46
+      Width = 140
       Height = 14
       AutoSize = False
       Font.Charset = DEFAULT_CHARSET
@@ -1319,7 +1388,39 @@ object BreakdownForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
-      DataType = alr_PageNum
+      DataType = alr_PageOfPages
+      Alignment = taRightJustify
     end
+  end
+  object ContinuationBand: tAlBand
+    Left = 0
+    Top = 1060
+    Width = 700
+    Height = 0
+    Align = alTop
+    BandType = alr_GroupFooter
+    ClipMode = cm_Expand
+    object ContinuedField: TAlField
+      Left = 6
+      Top = 0
+      Width = 688
+      Height = 0
+      AutoSize = False
+      Caption = 'ContinuedField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+  end
+  object SheetLink: TAlDetailLink
+    GroupFooter = ContinuationBand
+    GroupBand = SheetBand
+    DataSource = BSField
+    Left = 80
+    Top = 8
   end
 end

@@ -42,6 +42,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
     object CompanyField: TAlField
       Left = 0
@@ -79,6 +80,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = DirField
     end
     object DirField: TAlField
       Left = 456
@@ -108,6 +110,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = ProdField
     end
     object ProdField: TAlField
       Left = 456
@@ -137,6 +140,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      LabelFor = RefField
     end
     object RefField: TAlField
       Left = 456
@@ -315,6 +319,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
     object DescField: TAlField
       Left = 216
@@ -329,6 +334,7 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      WordWrap = True
     end
     object FirstField: TAlField
       Left = 360
@@ -536,25 +542,10 @@ object ElementSummaryForm: TForm
       Font.Style = []
       ParentFont = False
     end
-    object PageLabel: TAlLabel
-      Left = 610
-      Top = 10
-      Width = 40
-      Height = 14
-      Alignment = taRightJustify
-      AutoSize = False
-      Caption = 'Page'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = $00555555
-      Font.Height = -10
-      Font.Name = 'Arial'
-      Font.Style = []
-      ParentFont = False
-    end
     object PageNumber: TAlSysField
-      Left = 654
+      Left = 560
       Top = 10
-      Width = 46
+      Width = 140
       Height = 14
       AutoSize = False
       Font.Charset = DEFAULT_CHARSET
@@ -563,7 +554,8 @@ object ElementSummaryForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
-      DataType = alr_PageNum
+      DataType = alr_PageOfPages
+      Alignment = taRightJustify
     end
   end
   object TypeHeaderBand: tAlBand

@@ -56,6 +56,7 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      visible = False
     end
     object CompanyField: TAlField
       Left = 0
@@ -87,6 +88,20 @@ object OnelineForm: TForm
       Brush.Color = $00000000
       Pen.Style = psClear
     end
+    object TitleField: TAlField
+      Left = 0
+      Top = 47
+      Width = 560
+      Height = 28
+      AutoSize = False
+      Caption = 'TitleField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -21
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
   end
   object ColumnsBand: tAlBand
     Left = 0
@@ -106,7 +121,7 @@ object OnelineForm: TForm
     object SceneHeading: TAlLabel
       Left = 6
       Top = 7
-      Width = 62
+      Width = 52
       Height = 13
       AutoSize = False
       Caption = 'SCENE'
@@ -117,13 +132,13 @@ object OnelineForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object LocationHeading: TAlLabel
-      Left = 72
+    object IntExtHeading: TAlLabel
+      Left = 60
       Top = 7
-      Width = 190
+      Width = 44
       Height = 13
       AutoSize = False
-      Caption = 'LOCATION'
+      Caption = 'I/E'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -131,13 +146,13 @@ object OnelineForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object SynopsisHeading: TAlLabel
-      Left = 268
+    object SetLocHeading: TAlLabel
+      Left = 106
       Top = 7
-      Width = 248
+      Width = 252
       Height = 13
       AutoSize = False
-      Caption = 'SYNOPSIS'
+      Caption = 'SET / LOCATION'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -145,13 +160,13 @@ object OnelineForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object CastHeading: TAlLabel
-      Left = 522
+    object DNHeading: TAlLabel
+      Left = 362
       Top = 7
-      Width = 100
+      Width = 46
       Height = 13
       AutoSize = False
-      Caption = 'CAST'
+      Caption = 'D/N'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -160,13 +175,42 @@ object OnelineForm: TForm
       ParentFont = False
     end
     object PagesHeading: TAlLabel
-      Left = 628
+      Left = 410
       Top = 7
-      Width = 66
+      Width = 48
       Height = 13
       Alignment = taRightJustify
       AutoSize = False
       Caption = 'PAGES'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object ScriptPageHeading: TAlLabel
+      Left = 464
+      Top = 7
+      Width = 50
+      Height = 13
+      Alignment = taRightJustify
+      AutoSize = False
+      Caption = 'SCRIPT PG'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object CastHeading: TAlLabel
+      Left = 524
+      Top = 7
+      Width = 170
+      Height = 13
+      AutoSize = False
+      Caption = 'CAST'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -183,6 +227,7 @@ object OnelineForm: TForm
     Align = alTop
     BandType = alr_Detail
     AltColor = $00F3F3F3
+    ClipMode = cm_Expand
     object SceneField: TAlField
       Left = 6
       Top = 3
@@ -196,6 +241,7 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      visible = False
     end
     object LocationField: TAlField
       Left = 72
@@ -210,20 +256,7 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
-    end
-    object SynopsisField: TAlField
-      Left = 268
-      Top = 3
-      Width = 248
-      Height = 14
-      AutoSize = False
-      Caption = 'SynopsisField'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = clBlack
-      Font.Height = -10
-      Font.Name = 'Arial'
-      Font.Style = []
-      ParentFont = False
+      visible = False
     end
     object CastField: TAlField
       Left = 522
@@ -238,6 +271,7 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      visible = False
     end
     object PagesField: TAlField
       Left = 628
@@ -253,15 +287,135 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = []
       ParentFont = False
+      visible = False
+    end
+    object SceneNoField: TAlField
+      Left = 6
+      Top = 3
+      Width = 52
+      Height = 14
+      AutoSize = False
+      Caption = 'SceneNoField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+      WordWrap = True
+    end
+    object IntExtField: TAlField
+      Left = 60
+      Top = 3
+      Width = 44
+      Height = 14
+      AutoSize = False
+      Caption = 'IntExtField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object SetLocField: TAlField
+      Left = 106
+      Top = 3
+      Width = 252
+      Height = 14
+      AutoSize = False
+      Caption = 'SetLocField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object DNField: TAlField
+      Left = 362
+      Top = 3
+      Width = 46
+      Height = 14
+      AutoSize = False
+      Caption = 'DNField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object LengthField: TAlField
+      Left = 410
+      Top = 3
+      Width = 48
+      Height = 14
+      Alignment = taRightJustify
+      AutoSize = False
+      Caption = 'LengthField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object ScriptPageField: TAlField
+      Left = 464
+      Top = 3
+      Width = 50
+      Height = 14
+      Alignment = taRightJustify
+      AutoSize = False
+      Caption = 'ScriptPageField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object CastIdsField: TAlField
+      Left = 524
+      Top = 3
+      Width = 170
+      Height = 14
+      AutoSize = False
+      Caption = 'CastIdsField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object SynopsisField: TAlField
+      Left = 106
+      Top = 17
+      Width = 588
+      Height = 0
+      AutoSize = False
+      Caption = 'SynopsisField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00444444
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsItalic]
+      ParentFont = False
+      WordWrap = True
     end
   end
   object GrandTotalBand: tAlBand
     Left = 0
     Top = 148
     Width = 700
-    Height = 44
+    Height = 62
     Align = alTop
     BandType = alr_ReportFooter
+    ClipMode = cm_Expand
     object GrandRule: TAlShape
       Left = 0
       Top = 8
@@ -283,6 +437,21 @@ object OnelineForm: TForm
       Font.Height = -13
       Font.Name = 'Arial'
       Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object TotalsField: TAlField
+      Left = 0
+      Top = 38
+      Width = 700
+      Height = 16
+      Alignment = taCenter
+      AutoSize = False
+      Caption = 'TotalsField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
       ParentFont = False
     end
   end
@@ -344,25 +513,10 @@ object OnelineForm: TForm
       Font.Style = []
       ParentFont = False
     end
-    object PageLabel: TAlLabel
-      Left = 610
-      Top = 10
-      Width = 40
-      Height = 14
-      Alignment = taRightJustify
-      AutoSize = False
-      Caption = 'Page'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = $00555555
-      Font.Height = -10
-      Font.Name = 'Arial'
-      Font.Style = []
-      ParentFont = False
-    end
     object PageNumber: TAlSysField
-      Left = 654
+      Left = 560
       Top = 10
-      Width = 46
+      Width = 140
       Height = 14
       AutoSize = False
       Font.Charset = DEFAULT_CHARSET
@@ -371,7 +525,8 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
-      DataType = alr_PageNum
+      DataType = alr_PageOfPages
+      Alignment = taRightJustify
     end
   end
   object DayHeaderBand: tAlBand
@@ -381,11 +536,12 @@ object OnelineForm: TForm
     Height = 30
     Align = alTop
     BandType = alr_GroupHeader
+    ClipMode = cm_Expand
     object DayShade: TAlShape
       Left = 0
       Top = 8
       Width = 700
-      Height = 20
+      Height = 21
       Brush.Color = $00D4D4D4
       Pen.Style = psClear
     end
@@ -402,6 +558,7 @@ object OnelineForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
   end
   object DayEndBand: tAlBand

@@ -56,6 +56,7 @@ object ShootSchForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      visible = False
     end
     object CompanyField: TAlField
       Left = 0
@@ -86,6 +87,20 @@ object ShootSchForm: TForm
       Height = 2
       Brush.Color = $00000000
       Pen.Style = psClear
+    end
+    object TitleField: TAlField
+      Left = 0
+      Top = 47
+      Width = 560
+      Height = 28
+      AutoSize = False
+      Caption = 'TitleField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -21
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
     end
   end
   object ColumnsBand: tAlBand
@@ -167,6 +182,7 @@ object ShootSchForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
     object PageField: TAlField
       Left = 6
@@ -209,6 +225,7 @@ object ShootSchForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
     object SynopsisField: TAlField
       Left = 112
@@ -278,14 +295,45 @@ object ShootSchForm: TForm
       Brush.Color = $00C8C8C8
       Pen.Style = psClear
     end
+    object SetNameField: TAlField
+      Left = 112
+      Top = 50
+      Width = 226
+      Height = 0
+      AutoSize = False
+      Caption = 'SetNameField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00444444
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = [fsItalic]
+      ParentFont = False
+      WordWrap = True
+    end
+    object NotesField: TAlField
+      Left = 112
+      Top = 51
+      Width = 226
+      Height = 0
+      AutoSize = False
+      Caption = 'NotesField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00444444
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
   end
   object GrandTotalBand: tAlBand
     Left = 0
     Top = 184
     Width = 700
-    Height = 44
+    Height = 62
     Align = alTop
     BandType = alr_ReportFooter
+    ClipMode = cm_Expand
     object GrandRule: TAlShape
       Left = 0
       Top = 8
@@ -307,6 +355,21 @@ object ShootSchForm: TForm
       Font.Height = -13
       Font.Name = 'Arial'
       Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object TotalsField: TAlField
+      Left = 0
+      Top = 38
+      Width = 700
+      Height = 16
+      Alignment = taCenter
+      AutoSize = False
+      Caption = 'TotalsField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
       ParentFont = False
     end
   end
@@ -368,25 +431,10 @@ object ShootSchForm: TForm
       Font.Style = []
       ParentFont = False
     end
-    object PageLabel: TAlLabel
-      Left = 610
-      Top = 10
-      Width = 40
-      Height = 14
-      Alignment = taRightJustify
-      AutoSize = False
-      Caption = 'Page'
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = $00555555
-      Font.Height = -10
-      Font.Name = 'Arial'
-      Font.Style = []
-      ParentFont = False
-    end
     object PageNumber: TAlSysField
-      Left = 654
+      Left = 560
       Top = 10
-      Width = 46
+      Width = 140
       Height = 14
       AutoSize = False
       Font.Charset = DEFAULT_CHARSET
@@ -395,7 +443,8 @@ object ShootSchForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
-      DataType = alr_PageNum
+      DataType = alr_PageOfPages
+      Alignment = taRightJustify
     end
   end
   object DayHeaderBand: tAlBand
@@ -405,11 +454,12 @@ object ShootSchForm: TForm
     Height = 34
     Align = alTop
     BandType = alr_GroupHeader
+    ClipMode = cm_Expand
     object DayShade: TAlShape
       Left = 0
       Top = 10
       Width = 700
-      Height = 22
+      Height = 23
       Brush.Color = $00D4D4D4
       Pen.Style = psClear
     end
@@ -426,6 +476,7 @@ object ShootSchForm: TForm
       Font.Name = 'Arial'
       Font.Style = [fsBold]
       ParentFont = False
+      WordWrap = True
     end
   end
   object DayEndBand: tAlBand

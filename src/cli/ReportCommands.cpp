@@ -2,11 +2,14 @@
 
 #include "CliCommand.h"
 
+#include "board/BoardStyle.h"
 #include "document/ScheduleFile.h"
+#include "document/Settings.h"
 #include "reports/DayOutOfDays.h"
 #include "reports/DayOutOfDaysPrint.h"
 #include "reports/ReportBuilders.h"
 #include "reports/ReportOutput.h"
+#include "reports/TemplateFields.h"
 
 #include <QFileInfo>
 #include <QPageLayout>
@@ -121,6 +124,12 @@ int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
         built = CreateSchedulePages(doc, options, context);
     } else if (kind == QLatin1String("breakdown")) {
         BreakdownReportOptions options;
+        // Each sheet's heading takes its strip's colour from the user's board colours, as
+        // the board command draws them.
+        Settings settings;
+        for (const QString &problem : settings.LoadSettings())
+            ctx.err << problem << Qt::endl;
+        options.style = StyleFromSettings(settings);
         if (parser.has(QStringLiteral("--sheets"))) {
             QList<int> ids;
             if (!numberList(parser.value(QStringLiteral("--sheets")), &ids))
@@ -166,6 +175,13 @@ int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
     }
     if (!built)
         return ExitUserError; // the prompter has shown the message
+    if (context.trace) {
+        // After the values: the template's fields that received none.
+        const std::optional<TemplateReport> which = TemplateReportNamed(kind);
+        if (which)
+            for (const QString &name : CheckTemplateFields(*built->form, *which).unfilled)
+                context.trace(QStringLiteral("AlField ") + name + QStringLiteral(" = no value pushed by this report"));
+    }
     if (built->nothingToPrint) {
         ctx.err << "Nothing to print: no strip falls within the days or sheets chosen." << Qt::endl;
         return ExitUserError;
@@ -175,6 +191,42 @@ int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
         ctx.err << written.message() << Qt::endl;
         return ExitUserError;
     }
+    return ExitOk;
+}
+
+int runCheckTemplate(CliContext &ctx, const CliCommand &self, const QStringList &args)
+{
+    ArgParser parser;
+    parser.valueOption(QStringLiteral("--report"));
+    QString error;
+    if (!parser.parse(args, &error))
+        return UsageError(ctx, self, error);
+    if (parser.positional().size() != 1)
+        return UsageError(ctx, self, QStringLiteral("expected one template file"));
+    const QString path = parser.positional().at(0);
+    std::optional<TemplateReport> report = parser.has(QStringLiteral("--report"))
+                                               ? TemplateReportNamed(parser.value(QStringLiteral("--report")))
+                                               : TemplateReportOf(path);
+    if (!report)
+        return UsageError(ctx, self,
+                          parser.has(QStringLiteral("--report"))
+                              ? QStringLiteral("--report is schedule, oneline, breakdown or elements")
+                              : QStringLiteral("%1 is no report's template name: give --report "
+                                               "schedule|oneline|breakdown|elements")
+                                    .arg(QFileInfo(path).fileName()));
+    ResultOf<std::unique_ptr<ReportForm>> loaded = LoadTemplate(path);
+    if (!loaded) {
+        ctx.err << loaded.message() << Qt::endl;
+        return ExitUserError;
+    }
+    const TemplateFieldCheck check = CheckTemplateFields(*loaded.value(), *report);
+    ctx.out << QFileInfo(path).fileName() << ": loads" << Qt::endl;
+    for (const QString &name : check.lacking)
+        ctx.out << "lacks " << name << " (the report's values for it are not printed)" << Qt::endl;
+    for (const QString &name : check.unfilled)
+        ctx.out << "field " << name << " receives no value from the report" << Qt::endl;
+    if (check.lacking.isEmpty() && check.unfilled.isEmpty())
+        ctx.out << "every field the report fills is there, and every field is filled" << Qt::endl;
     return ExitOk;
 }
 
@@ -288,6 +340,17 @@ void AddReportCommands(CommandList &commands)
                        "into the template, one line each.")};
     report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
     commands.append(report);
+    CliCommand check{
+        QStringLiteral("check-template"),
+        QStringLiteral("check-template FILE [--report schedule|oneline|breakdown|elements]"),
+        QStringLiteral("Check a report template: where it fails to load, and its fields against the report's."),
+        {},
+        QStringLiteral("A template that does not load is reported with its file, line and cause. One that loads "
+                       "is listed with the fields the report fills that it lacks and the fields of its own that "
+                       "no report fills. The report is known from the file name (ShootSch1.dfm, Oneline1.dfm, "
+                       "Breakdown1.dfm, ElementSummary1.dfm) unless --report names it.")};
+    check.run = [check](CliContext &ctx, const QStringList &args) { return runCheckTemplate(ctx, check, args); };
+    commands.append(check);
 
     CliCommand dood{QStringLiteral("dood"),
                     QStringLiteral("dood IN [--no-holds] [--category N] [--totals] [-o OUT.csv|OUT.pdf] [--color]"),

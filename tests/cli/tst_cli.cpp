@@ -85,6 +85,8 @@ private Q_SLOTS:
     void reports();
     void reportTrace();
     void doodAndPrintBoard();
+    void checkTemplate_data();
+    void checkTemplate();
     void details();
     void exports();
 };
@@ -514,7 +516,43 @@ void TestCli::reportTrace()
     QCOMPARE(lines.at(0), QStringLiteral("AddNamedValue(PictureField) = \"Harbour Lights\""));
     // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
     QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
-    QCOMPARE(lines.last(), QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    // The closing line of every report, then this program's own values after it.
+    const qsizetype end = lines.indexOf(QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
+    QVERIFY(end > 0);
+    QCOMPARE(lines.mid(end + 1, 2), QStringList({"AddNamedValue(TotalsField) = 1 shooting day, 4 scenes, 4 6/8 pages",
+                                                 "AddNamedValue(TitleField) = Harbour Lights"}));
+}
+
+void TestCli::checkTemplate_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
+    const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
+    QTest::newRow("fields checked") << head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
+                                              "    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "lacks DayField";
+    QTest::newRow("unfilled field") << head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
+                                    << 0 << "field Extra receives no value from the report";
+    QTest::newRow("mistake with line and cause")
+        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
+        << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
+}
+
+void TestCli::checkTemplate()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QDir().mkpath(TempPath(QTest::currentDataTag()));
+    const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(text);
+    f.close();
+    const CliRun run = RunCli({"check-template", path});
+    QCOMPARE(run.code, code);
+    QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
 }
 
 void TestCli::doodAndPrintBoard()

@@ -3,10 +3,15 @@
 #include "document/LegacyText.h"
 
 #include <QLocale>
+#include <QPaintDevice>
 #include <QPainter>
+#include <QRawFont>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <optional>
 
 namespace tb {
 
@@ -79,6 +84,52 @@ QList<TAlField *> fieldsOn(const tAlBand *band)
         if (c->kind() == AlComponent::Kind::Field)
             list.append(static_cast<TAlField *>(c));
     return list;
+}
+
+void setLines(PlacedControl &pc, const TAlLabel &label, int wrapWidth)
+{
+    const QList<TextLine> lines = BreakText(pc.text, label.outputFont, label.WordWrap ? wrapWidth : 0, &label);
+    pc.lines.clear();
+    pc.widths.clear();
+    pc.glyphs.clear();
+    pc.lines.reserve(lines.size());
+    pc.widths.reserve(lines.size());
+    pc.glyphs.reserve(lines.size());
+    for (const TextLine &line : lines) {
+        pc.lines.append(line.text);
+        pc.widths.append(line.width);
+        pc.glyphs.append(line.glyphs);
+    }
+}
+
+// A text that does not fit its place is never cut silently: the lines that fit are shown,
+// and the last one shown, or a line too wide for the place, ends in an ellipsis.
+void markCut(PlacedControl &pc, const TAlLabel &label)
+{
+    const QFontMetricsF &metrics = label.metrics();
+    const int lh = lineHeight(metrics);
+    const QRect &clip = pc.clip;
+    if (clip.isEmpty() || pc.lines.isEmpty())
+        return;
+    const int room = std::max(1, (clip.bottom() + 1 - pc.rect.top()) / std::max(1, lh));
+    const bool linesCut = room < pc.lines.size();
+    if (linesCut) {
+        pc.lines.resize(room);
+        pc.widths.resize(room);
+        pc.glyphs.resize(room);
+    }
+    const double width = clip.width();
+    for (qsizetype i = 0; i < pc.lines.size(); ++i) {
+        const bool last = linesCut && i == pc.lines.size() - 1;
+        if (!last && pc.widths.at(i) <= width)
+            continue;
+        pc.lines[i] = ElideLine(pc.lines.at(i), metrics, width, last);
+        pc.widths[i] = metrics.horizontalAdvance(pc.lines.at(i));
+        pc.glyphs[i].clear(); // shaped when drawn
+        pc.cut = true;
+    }
+    if (pc.cut)
+        pc.rect = clip;
 }
 
 class LayoutRun
@@ -193,10 +244,78 @@ public:
             endPage();
         }
         m_result.cancelled = m_stop;
+        pagesOfTotal();
         return m_result;
     }
 
 private:
+    static QString pageOfPages(qsizetype page, qsizetype total)
+    {
+        return QStringLiteral("Page %1 of %2").arg(page).arg(total > 0 ? QString::number(total) : QStringLiteral("?"));
+    }
+
+    // Every page is laid out before any is drawn, so "Page x of y" gets its total here.
+    void pagesOfTotal()
+    {
+        const qsizetype total = m_result.pages.size();
+        for (qsizetype p = 0; p < total; ++p) {
+            for (PlacedBand &band : m_result.pages[p].bands) {
+                for (PlacedControl &pc : band.controls) {
+                    if (pc.control->kind() != AlComponent::Kind::SysField ||
+                        static_cast<const TAlSysField *>(pc.control)->DataType != tAlSysDataType::alr_PageOfPages)
+                        continue;
+                    const auto &label = static_cast<const TAlLabel &>(*pc.control);
+                    const int oldWidth = textWidth(pc.widths);
+                    pc.text = pageOfPages(p + 1, total);
+                    setLines(pc, label, pc.rect.width());
+                    if (label.AutoSize && !label.WordWrap) {
+                        const int grow = textWidth(pc.widths) - oldWidth;
+                        if (label.Alignment == TAlignment::taRightJustify)
+                            pc.rect.setLeft(pc.rect.left() - grow);
+                        else if (label.Alignment == TAlignment::taCenter)
+                            pc.rect.setLeft(pc.rect.left() - grow / 2);
+                        pc.rect.setWidth(textWidth(pc.widths));
+                    }
+                }
+            }
+        }
+    }
+
+    // Whether a band shows anything that changes with the page (a page number): only such
+    // a band is prepared again when it moves to a new page.
+    bool showsPageState(const tAlBand &band) const
+    {
+        auto it = m_pageState.constFind(&band);
+        if (it == m_pageState.cend()) {
+            bool shows = false;
+            for (const tAlControl *c : band.controls)
+                shows = shows || c->kind() == AlComponent::Kind::SysField;
+            it = m_pageState.insert(&band, shows);
+        }
+        return *it;
+    }
+
+    // The current value of the field of that name (blank when there is none).
+    QString namedFieldText(const QString &name) const
+    {
+        auto it = m_namedFields.constFind(name);
+        if (it == m_namedFields.cend()) {
+            const AlComponent *found = m_form.find(name);
+            it = m_namedFields.insert(name, found && found->kind() == AlComponent::Kind::Field
+                                                ? static_cast<const TAlField *>(found)
+                                                : nullptr);
+        }
+        return *it ? (*it)->value() : QString();
+    }
+
+    QColor brushOf(const TAlShape &shape) const
+    {
+        if (shape.BrushField.isEmpty())
+            return QColor();
+        const QString name = namedFieldText(shape.BrushField).trimmed();
+        return name.isEmpty() ? QColor() : QColor::fromString(name);
+    }
+
     int scaleX(int v) const { return ScaleToOutput(v, LayoutDpi, m_ppi); }
     int scaleY(int v) const { return ScaleToOutput(v, LayoutDpi, m_ppi); }
 
@@ -228,6 +347,9 @@ private:
             return QString::number(m_rowCount);
         case tAlSysDataType::alr_Formname:
             return field.formName;
+        case tAlSysDataType::alr_PageOfPages:
+            // The total is known once every page is laid out (see pagesOfTotal()).
+            return pageOfPages(std::max<qsizetype>(1, m_result.pages.size()), 0);
         }
         return QString();
     }
@@ -270,20 +392,23 @@ private:
         const bool expand = band.ClipMode == tClipMode::cm_Expand;
         int height = designHeight;
         QList<int> anchored; // shapes and images that follow a grown band's bottom
+        QList<int> growth;   // how much each placed control grew
 
         for (const tAlControl *control : band.controls) {
             if (!control->visible || (m_page.preview && !control->VisibleInPreview))
                 continue;
+            if (isLabel(control) && !static_cast<const TAlLabel *>(control)->LabelFor.isEmpty() &&
+                namedFieldText(static_cast<const TAlLabel *>(control)->LabelFor).trimmed().isEmpty())
+                continue;
             PlacedControl pc;
             pc.control = control;
             QRect r(scaleX(control->Left), scaleY(control->Top), scaleX(control->Width), scaleY(control->Height));
+            int grown = 0;
             if (isLabel(control)) {
                 const auto &label = static_cast<const TAlLabel &>(*control);
                 const QFontMetricsF &metrics = label.metrics();
                 pc.text = textOf(label);
-                pc.lines = BreakTextLines(
-                    pc.text, [&label](const QString &t) { return label.advance(t); }, label.WordWrap ? r.width() : 0,
-                    &pc.widths);
+                setLines(pc, label, r.width());
                 const int lh = lineHeight(metrics);
                 const int textHeight = int(pc.lines.size()) * lh;
                 if (label.AutoSize) {
@@ -297,23 +422,60 @@ private:
                     }
                     r.setHeight(std::max(textHeight, lh));
                 }
-                if (expand && textHeight > r.height()) {
-                    const int gapBelow = std::max(0, designHeight - (r.top() + r.height()));
+                if (expand && textHeight > r.height())
                     r.setHeight(textHeight);
-                    height = std::max(height, r.top() + r.height() + gapBelow);
-                }
-            } else if (expand && control->Top + control->Height >= band.Height - 1) {
-                anchored.append(int(placed.controls.size()));
+                if (expand)
+                    grown = r.height() - scaleY(control->Height);
+            } else {
+                if (expand && control->Top + control->Height >= band.Height - 1)
+                    anchored.append(int(placed.controls.size()));
+                if (control->kind() == AlComponent::Kind::Shape)
+                    pc.brush = brushOf(static_cast<const TAlShape &>(*control));
             }
             pc.rect = r;
             placed.controls.append(pc);
+            growth.append(std::max(0, grown));
+        }
+        if (expand) {
+            // A grown text pushes down what lies below it in its column, as lines of a
+            // page do: taken by design top, each control moves by the most that any grown
+            // control above it (overlapping it sideways) grew and moved.
+            QList<int> order(placed.controls.size());
+            std::iota(order.begin(), order.end(), 0);
+            std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+                return placed.controls.at(a).control->Top < placed.controls.at(b).control->Top;
+            });
+            QList<int> shift(placed.controls.size(), 0);
+            for (qsizetype k = 0; k < order.size(); ++k) {
+                const int i = order.at(k);
+                const tAlControl *c = placed.controls.at(i).control;
+                for (qsizetype m = 0; m < k; ++m) {
+                    const int j = order.at(m);
+                    const tAlControl *above = placed.controls.at(j).control;
+                    const int moved = shift.at(j) + growth.at(j);
+                    if (moved <= 0 || c->Top < above->Top + above->Height - 1)
+                        continue;
+                    if (c->Left >= above->Left + above->Width || above->Left >= c->Left + c->Width)
+                        continue;
+                    shift[i] = std::max(shift.at(i), moved);
+                }
+            }
+            int extra = 0;
+            for (qsizetype i = 0; i < placed.controls.size(); ++i) {
+                if (anchored.contains(int(i)))
+                    continue;
+                placed.controls[i].rect.translate(0, shift.at(i));
+                extra = std::max(extra, shift.at(i) + growth.at(i));
+            }
+            height = designHeight + extra;
         }
         // In a grown band, a shape or picture reaching the band's bottom keeps to it: one
-        // that also starts at the top (a box, a vertical rule) stretches, any other moves.
+        // that starts in the band's upper half (a box, a shade, a vertical rule) stretches,
+        // any other (a rule under the row) moves.
         for (int index : anchored) {
             PlacedControl &pc = placed.controls[index];
             const int gapBelow = std::max(0, designHeight - (pc.rect.top() + pc.rect.height()));
-            if (pc.control->Top <= 1)
+            if (pc.control->Top <= 1 || 2 * pc.control->Top < band.Height)
                 pc.rect.setHeight(height - pc.rect.top() - gapBelow);
             else
                 pc.rect.moveTop(height - gapBelow - pc.rect.height());
@@ -339,6 +501,8 @@ private:
                 if (!clip.contains(extent)) {
                     pc.clipped = true;
                     pc.clip = clip;
+                    if (isLabel(pc.control))
+                        markCut(pc, static_cast<const TAlLabel &>(*pc.control));
                 }
             }
         }
@@ -393,7 +557,8 @@ private:
                 newPage();
             if (m_stop)
                 return;
-            placed = prepare(band, -1);
+            if (showsPageState(band))
+                placed = prepare(band, -1);
         }
         placeColumns(placed, band);
         m_freshPage = false;
@@ -456,7 +621,8 @@ private:
                     newPageForDetail(detail, groupStarts);
                     if (m_stop)
                         break;
-                    placed = prepare(detail, row);
+                    if (showsPageState(detail))
+                        placed = prepare(detail, row);
                 }
             }
             if (groupStarts) {
@@ -558,6 +724,8 @@ private:
     QList<tAlBand *> m_titles, m_pageHeaders, m_detailHeaders, m_details, m_detailFooters, m_pageFooters,
         m_reportFooters;
     QSet<const TAlDetailLink *> m_openGroups;
+    mutable QHash<QString, const TAlField *> m_namedFields;
+    mutable QHash<const tAlBand *, bool> m_pageState;
 
     ReportLayout m_result;
     int m_curY = 0;
@@ -581,56 +749,214 @@ ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page)
     return run.run();
 }
 
-QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, double width)
+namespace {
+
+// Glyphs as a PDF file stores them: each glyph is written with its position, so blanks,
+// which show nothing, are left out, and positions are kept in whole layout units (1/1200
+// inch), which a file writes in fewer digits. Both make the file smaller and faster to
+// write and leave the page as it was.
+QList<QGlyphRun> CompactGlyphs(const QList<QGlyphRun> &runs)
 {
-    return BreakTextLines(
-        text, [&metrics](const QString &t) { return metrics.horizontalAdvance(t); }, width);
+    QList<QGlyphRun> result;
+    result.reserve(runs.size());
+    for (QGlyphRun run : runs) {
+        const QRawFont font = run.rawFont();
+        const QList<quint32> blanks = font.glyphIndexesForString(QStringLiteral(" \u00A0"));
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        QList<quint32> keptIndexes;
+        QList<QPointF> keptPositions;
+        keptIndexes.reserve(indexes.size());
+        keptPositions.reserve(indexes.size());
+        for (qsizetype i = 0; i < indexes.size(); ++i) {
+            if (blanks.contains(indexes.at(i)))
+                continue;
+            keptIndexes.append(indexes.at(i));
+            keptPositions.append(QPointF(std::round(positions.at(i).x()), positions.at(i).y()));
+        }
+        if (keptIndexes.isEmpty())
+            continue;
+        run.setGlyphIndexes(keptIndexes);
+        run.setPositions(keptPositions);
+        result.append(run);
+    }
+    return result;
 }
 
-QStringList BreakTextLines(const QString &text, const std::function<double(const QString &)> &advance, double width,
-                           QList<double> *widths)
+} // namespace
+
+namespace {
+
+// Latin text (the schedules' own) needs no shaping beyond one glyph per character and the
+// font's kerning: its glyphs and advances come straight from the font, and the greedy
+// line break is one pass over the advances. Anything else goes through the full layout.
+bool IsPlainLatin(const QString &text)
 {
-    QStringList lines;
-    QList<double> lineWidths;
+    for (QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u < 0x20 || u > 0x24F)
+            return false;
+    }
+    return true;
+}
+
+std::optional<QList<TextLine>> LayOutPlainParagraph(const QString &paragraph, const QRawFont &font, double width)
+{
+    if (!font.isValid() || !IsPlainLatin(paragraph))
+        return std::nullopt;
+    const QList<quint32> glyphs = font.glyphIndexesForString(paragraph);
+    if (glyphs.size() != paragraph.size() || glyphs.contains(0u))
+        return std::nullopt; // a character the font lacks: the full layout finds another font
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs, QRawFont::KernedAdvances);
+    const qsizetype n = paragraph.size();
+    QList<double> x(n + 1, 0.0); // x[i]: where character i starts
+    for (qsizetype i = 0; i < n; ++i)
+        x[i + 1] = x[i] + advances.at(i).x();
+    const quint32 blank = font.glyphIndexesForString(QStringLiteral(" ")).value(0);
+    const double ascent = font.ascent();
+    qsizetype indentLength = 0;
+    while (indentLength < n && paragraph.at(indentLength) == u' ')
+        ++indentLength;
+    const double indent = x[indentLength];
+
+    QList<TextLine> result;
+    // A line of characters [from, to); a continued line is moved right by the indent.
+    auto addLine = [&](qsizetype from, qsizetype to, bool continued) {
+        TextLine line;
+        const double shift = continued ? indent : 0.0;
+        line.text =
+            continued ? paragraph.left(indentLength) + paragraph.mid(from, to - from) : paragraph.mid(from, to - from);
+        line.width = shift + x[to] - x[from];
+        QList<quint32> indexes;
+        QList<QPointF> positions;
+        indexes.reserve(to - from);
+        positions.reserve(to - from);
+        for (qsizetype i = from; i < to; ++i) {
+            if (glyphs.at(i) == blank || paragraph.at(i) == u'\u00A0')
+                continue;
+            indexes.append(glyphs.at(i));
+            positions.append(QPointF(std::round(shift + x[i] - x[from]), ascent));
+        }
+        if (!indexes.isEmpty()) {
+            QGlyphRun run;
+            run.setRawFont(font);
+            run.setGlyphIndexes(indexes);
+            run.setPositions(positions);
+            line.glyphs.append(run);
+        }
+        result.append(std::move(line));
+    };
+    if (width <= 0.0 || x[n] <= width) {
+        addLine(0, n, false);
+        return result;
+    }
+    // Greedy word wrap at blanks, in one pass.
+    qsizetype lineStart = 0;
+    qsizetype lineEnd = -1; // end of the last word on the line, -1 while it has none
+    bool continued = false;
+    qsizetype i = indentLength;
+    while (i < n) {
+        while (i < n && paragraph.at(i) == u' ')
+            ++i;
+        if (i >= n)
+            break;
+        qsizetype end = i;
+        while (end < n && paragraph.at(end) != u' ')
+            ++end;
+        const double shift = continued ? indent : 0.0;
+        if (lineEnd >= 0 && shift + x[end] - x[lineStart] > width) {
+            addLine(lineStart, lineEnd, continued);
+            continued = true;
+            lineStart = i;
+        }
+        lineEnd = end;
+        i = end;
+    }
+    if (lineEnd >= 0)
+        addLine(lineStart, lineEnd, continued);
+    return result;
+}
+
+} // namespace
+
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, double width)
+{
+    return LayOutParagraph(paragraph, font, QRawFont::fromFont(font), width);
+}
+
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, const QRawFont &raw, double width)
+{
+    if (std::optional<QList<TextLine>> plain = LayOutPlainParagraph(paragraph, raw, width))
+        return *plain;
+    QList<TextLine> result;
+    QTextLayout layout(paragraph, font);
+    QTextOption option;
+    option.setWrapMode(width > 0.0 ? QTextOption::WordWrap : QTextOption::NoWrap);
+    if (width <= 0.0)
+        option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout.setTextOption(option);
+    // The blanks that indent the paragraph indent each of its wrapped lines.
+    qsizetype indentLength = 0;
+    while (indentLength < paragraph.size() && paragraph.at(indentLength) == u' ')
+        ++indentLength;
+    double indent = 0.0;
+    layout.beginLayout();
+    for (int i = 0;; ++i) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        if (width <= 0.0) {
+            line.setLineWidth(1e9);
+        } else if (i == 0) {
+            line.setLineWidth(width);
+        } else {
+            if (i == 1 && indentLength > 0 && indentLength < paragraph.size())
+                indent = layout.lineAt(0).cursorToX(int(indentLength));
+            line.setLineWidth(std::max(1.0, width - indent));
+            line.setPosition(QPointF(indent, 0.0));
+        }
+    }
+    layout.endLayout();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        qsizetype length = line.textLength();
+        // A wrapped line keeps no blanks at its end.
+        if (width > 0.0)
+            while (length > 0 && paragraph.at(line.textStart() + length - 1) == u' ')
+                --length;
+        TextLine t;
+        t.text = paragraph.mid(line.textStart(), length);
+        if (i > 0)
+            t.text.prepend(paragraph.left(indentLength));
+        t.width = line.x() + line.naturalTextWidth();
+        if (length > 0)
+            t.glyphs = CompactGlyphs(layout.glyphRuns(line.textStart(), int(length)));
+        result.append(std::move(t));
+    }
+    if (result.isEmpty())
+        result.append(TextLine());
+    return result;
+}
+
+QList<TextLine> BreakText(const QString &text, const QFont &font, double width, const TAlLabel *label)
+{
+    // One paragraph (most texts): its kept lines as they are, shared rather than copied.
+    if (!text.isEmpty() && !text.contains(u'\r') && !text.contains(u'\n')) {
+        QList<TextLine> lines = label ? label->paragraph(text, width) : LayOutParagraph(text, font, width);
+        while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+            lines.removeLast();
+        return lines;
+    }
+    QList<TextLine> lines;
     auto flush = [&](const QString &p) {
-        const double whole = advance(p);
-        if (width <= 0 || whole <= width || !p.contains(u' ')) {
-            lines.append(p);
-            lineWidths.append(whole);
+        if (p.isEmpty()) {
+            lines.append(TextLine());
             return;
         }
-        // Greedy word wrap; the blanks that indent the paragraph indent each of its lines.
-        qsizetype start = 0;
-        while (start < p.size() && p.at(start) == u' ')
-            ++start;
-        const QString indent = p.left(start);
-        QString line = indent;
-        double lineWidth = advance(indent);
-        bool lineHasWord = false;
-        qsizetype i = start;
-        while (i < p.size()) {
-            qsizetype end = p.indexOf(u' ', i);
-            if (end < 0)
-                end = p.size();
-            const QString word = p.mid(i, end - i);
-            if (!word.isEmpty()) {
-                const QString candidate = lineHasWord ? QString(line + u' ' + word) : QString(line + word);
-                const double candidateWidth = advance(candidate);
-                if (lineHasWord && candidateWidth > width) {
-                    lines.append(line);
-                    lineWidths.append(lineWidth);
-                    line = indent + word;
-                    lineWidth = advance(line);
-                } else {
-                    line = candidate;
-                    lineWidth = candidateWidth;
-                }
-                lineHasWord = true;
-            }
-            i = end + 1;
-        }
-        lines.append(line);
-        lineWidths.append(lineWidth);
+        if (label)
+            lines += label->paragraph(p, width);
+        else
+            lines += LayOutParagraph(p, font, width);
     };
     const qsizetype n = text.size();
     qsizetype begin = 0;
@@ -646,17 +972,104 @@ QStringList BreakTextLines(const QString &text, const std::function<double(const
     if (begin < n)
         flush(text.mid(begin));
     // Blank lines at the end take no room.
-    while (!lines.isEmpty() && lines.last().trimmed().isEmpty()) {
+    while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
         lines.removeLast();
-        lineWidths.removeLast();
-    }
-    if (widths)
-        *widths = lineWidths;
     return lines;
 }
 
+QStringList BreakTextLines(const QString &text, const QFont &font, double width)
+{
+    QStringList result;
+    for (const TextLine &line : BreakText(text, font, width))
+        result.append(line.text);
+    return result;
+}
+
+QString ElideLine(const QString &text, const QFontMetricsF &metrics, double width, bool force)
+{
+    static const QString ellipsis(QChar(0x2026));
+    if (!force && metrics.horizontalAdvance(text) <= width)
+        return text;
+    QString candidate = text;
+    while (!candidate.isEmpty() && candidate.back() == u' ')
+        candidate.chop(1);
+    candidate += ellipsis;
+    if (metrics.horizontalAdvance(candidate) <= width)
+        return candidate;
+    // Too long even so: the toolkit's elision cuts it at the width and ends it in "…".
+    return metrics.elidedText(candidate, Qt::ElideRight, width);
+}
+
+LabelFit FitLabelText(const TAlLabel &label, const QString &text, int designPpi)
+{
+    LabelFit fit;
+    const int width = ScaleToOutput(label.Width, LayoutDpi, designPpi);
+    const int height = ScaleToOutput(label.Height, LayoutDpi, designPpi);
+    fit.lines = BreakText(text, label.outputFont, label.WordWrap ? width : 0, &label);
+    fit.room = std::max(1, height / std::max(1, lineHeight(label.metrics())));
+    fit.width = width;
+    return fit;
+}
+
+namespace {
+
+// The page's text by font and colour. A PDF file holds each drawn text as an object of its
+// own that sets colour, font and position anew; a page drawn in a few batches holds a few
+// objects instead of one per line. Text is drawn over the page's shapes and pictures, which
+// is where every template puts it.
+class GlyphBatches
+{
+public:
+    void add(const QGlyphRun &run, const QColor &colour, const QPointF &origin)
+    {
+        Batch *batch = nullptr;
+        const QRawFont font = run.rawFont();
+        for (Batch &b : m_batches) {
+            if (b.colour == colour && b.font == font) {
+                batch = &b;
+                break;
+            }
+        }
+        if (!batch) {
+            m_batches.append(Batch{font, colour, {}, {}});
+            batch = &m_batches.last();
+        }
+        batch->indexes += run.glyphIndexes();
+        for (const QPointF &p : run.positions())
+            batch->positions.append(p + origin);
+    }
+
+    void draw(QPainter &painter)
+    {
+        for (const Batch &b : std::as_const(m_batches)) {
+            QGlyphRun run;
+            run.setRawFont(b.font);
+            run.setGlyphIndexes(b.indexes);
+            run.setPositions(b.positions);
+            painter.setPen(b.colour);
+            painter.drawGlyphRun(QPointF(0, 0), run);
+        }
+        m_batches.clear();
+    }
+
+private:
+    struct Batch
+    {
+        QRawFont font;
+        QColor colour;
+        QList<quint32> indexes;
+        QList<QPointF> positions;
+    };
+    QList<Batch> m_batches;
+};
+
+} // namespace
+
 void PaintPage(QPainter &painter, const LaidOutPage &page)
 {
+    // A recorded preview page keeps texts as texts; glyph runs would be recorded as outlines.
+    const bool useGlyphs = !painter.device() || painter.device()->devType() != QInternal::Picture;
+    GlyphBatches batches;
     for (const PlacedBand &band : page.bands) {
         if (band.background != clNone)
             painter.fillRect(band.rect, toColor(band.background));
@@ -680,11 +1093,26 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.setFont(label.outputFont);
                 painter.setPen(label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128));
                 const double lh = lineHeight(metrics);
-                double baseline = pc.rect.top() + metrics.ascent();
+                double top = pc.rect.top();
+                // The glyphs shaped when the lines were measured. Unclipped plain text goes
+                // into the page's batches (see GlyphBatches), clipped or decorated text is
+                // drawn at once, line by line.
+                const QColor colour = painter.pen().color();
+                const bool batch = !pc.clipped && !label.outputFont.underline() && !label.outputFont.strikeOut();
                 for (qsizetype i = 0; i < pc.lines.size(); ++i) {
-                    painter.drawText(QPointF(lineLeft(pc.rect, label.Alignment, pc.widths.at(i)), baseline),
-                                     pc.lines.at(i));
-                    baseline += lh;
+                    const double left = lineLeft(pc.rect, label.Alignment, pc.widths.at(i));
+                    const QList<QGlyphRun> &glyphs = pc.glyphs.value(i);
+                    if (useGlyphs && !glyphs.isEmpty()) {
+                        for (const QGlyphRun &run : glyphs) {
+                            if (batch)
+                                batches.add(run, colour, QPointF(std::round(left), top));
+                            else
+                                painter.drawGlyphRun(QPointF(left, top), run);
+                        }
+                    } else if (!pc.lines.at(i).isEmpty()) {
+                        painter.drawText(QPointF(left, top + metrics.ascent()), pc.lines.at(i));
+                    }
+                    top += lh;
                 }
                 break;
             }
@@ -696,9 +1124,12 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 pen.setStyle(shape.Pen.style);
                 pen.setJoinStyle(Qt::MiterJoin);
                 painter.setPen(pen);
-                painter.setBrush(shape.Brush.style == Qt::NoBrush
-                                     ? QBrush(Qt::NoBrush)
-                                     : QBrush(toColor(shape.Brush.color), shape.Brush.style));
+                if (pc.brush.isValid())
+                    painter.setBrush(QBrush(pc.brush, Qt::SolidPattern));
+                else
+                    painter.setBrush(shape.Brush.style == Qt::NoBrush
+                                         ? QBrush(Qt::NoBrush)
+                                         : QBrush(toColor(shape.Brush.color), shape.Brush.style));
                 const double inset = shape.Pen.style == Qt::NoPen ? 0.0 : penWidth / 2.0;
                 QRectF r = QRectF(pc.rect).adjusted(inset, inset, -inset, -inset);
                 if (shape.Shape == TShapeType::stSquare || shape.Shape == TShapeType::stRoundSquare ||
@@ -742,6 +1173,10 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.save();
                 painter.setClipRect(pc.rect, Qt::IntersectClip);
                 painter.setRenderHint(QPainter::SmoothPixmapTransform);
+                // A picture that came losslessly (a PNG logo) stays so in a PDF file; a JPEG
+                // one may be stored as JPEG again.
+                painter.setRenderHint(QPainter::LosslessImageRendering,
+                                      image.Picture.text(QStringLiteral("format")) != QLatin1String("jpeg"));
                 painter.drawImage(QRectF(topLeft, size), image.Picture);
                 painter.restore();
                 break;
@@ -753,6 +1188,7 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 painter.restore();
         }
     }
+    batches.draw(painter);
 }
 
 } // namespace tb

@@ -7,7 +7,9 @@
 
 #include "reports/AlReport.h"
 
+#include <QColor>
 #include <QList>
+#include <QRawFont>
 #include <QRect>
 #include <QStringList>
 
@@ -32,10 +34,13 @@ struct PlacedControl
     const tAlControl *control = nullptr;
     QRect rect; // where it is drawn, in output units on the page
     bool clipped = false;
-    QRect clip;           // when clipped: the part of the page it may draw on
-    QString text;         // labels and fields: the text shown
-    QStringList lines;    // the text broken into the lines drawn
-    QList<double> widths; // the advance of each line
+    QRect clip;                     // when clipped: the part of the page it may draw on
+    QString text;                   // labels and fields: the text shown
+    QStringList lines;              // the text broken into the lines drawn
+    QList<double> widths;           // the advance of each line
+    QList<QList<QGlyphRun>> glyphs; // each line's shaped glyphs (empty: shaped when drawn)
+    bool cut = false;               // part of the text could not be shown: it ends in an ellipsis
+    QColor brush;                   // shapes: the row's colour from their BrushField (invalid: none)
 };
 
 struct PlacedBand
@@ -65,13 +70,39 @@ ReportLayout LayOutReport(TAlReport &report, const LayoutPage &page);
 
 // Breaks a text into the lines drawn: at its line breaks (CR LF, CR or LF; one line
 // break at the very end adds no empty line) and, when width > 0, between words so that
-// each line fits the width. The blanks that indent a line indent its wrapped parts too;
-// blank lines at the end are dropped.
-QStringList BreakTextLines(const QString &text, const QFontMetricsF &metrics, double width);
-// The same with the advance of a text given by the caller; the lines' advances go to
-// widths when given.
-QStringList BreakTextLines(const QString &text, const std::function<double(const QString &)> &advance, double width,
-                           QList<double> *widths = nullptr);
+// each line fits the width (a word longer than the width stays whole). The blanks that
+// indent a line indent its wrapped parts too; blank lines at the end are dropped.
+// Each paragraph is shaped once, in linear time; the label's kept lines are used when given.
+QList<TextLine> BreakText(const QString &text, const QFont &font, double width, const TAlLabel *label = nullptr);
+QStringList BreakTextLines(const QString &text, const QFont &font, double width);
+
+// One paragraph (no line breaks) shaped in the font and, when width > 0, wrapped.
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, double width);
+// The same with the font's raw form given (made once per label).
+QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, const QRawFont &raw, double width);
+
+// The text shortened to fit the width with an ellipsis at its end; with force, the
+// ellipsis is added even when the text fits (the lines after it were cut).
+QString ElideLine(const QString &text, const QFontMetricsF &metrics, double width, bool force);
+
+// What a label of fixed size shows of a text: the lines laid out at its width and how many
+// its height holds (when fewer than the lines, the last one shown ends in an ellipsis).
+struct LabelFit
+{
+    QList<TextLine> lines;
+    int room = 0;  // lines
+    int width = 0; // output units
+    bool fits() const
+    {
+        if (lines.size() > room)
+            return false;
+        for (const TextLine &line : lines)
+            if (line.width > width)
+                return false;
+        return true;
+    }
+};
+LabelFit FitLabelText(const TAlLabel &label, const QString &text, int designPpi);
 
 // Draws a laid-out page; the painter works in output units.
 void PaintPage(QPainter &painter, const LaidOutPage &page);

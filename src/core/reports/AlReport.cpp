@@ -1,10 +1,14 @@
 #include "reports/AlReport.h"
 
+#include "reports/AlLayout.h"
+
 #include "reports/DfmParser.h"
 
 #include "document/LegacyText.h"
 
 #include <QFileInfo>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QHash>
 #include <QSet>
 
@@ -40,6 +44,43 @@ int MillimetresToDots(double mm, int dpi)
     return int(std::nearbyint(dpi * mm / 25.4 + 0.5));
 }
 
+QString PrintingFamily(const QString &family)
+{
+    // Templates name Arial, which Liberation Sans replaces metric for metric. When neither
+    // the named family nor a replacement of the same widths is installed, a family with a
+    // bold face of its own is taken: a bold made up by slanting strokes outward is wider
+    // than its metrics and would run into the next column. Every text is measured and
+    // drawn in the very font chosen here.
+    static QHash<QString, QString> chosen;
+    auto it = chosen.constFind(family);
+    if (it != chosen.cend())
+        return *it;
+    const QStringList installed = QFontDatabase::families();
+    auto hasBold = [](const QString &name) {
+        return QFontDatabase::styles(name).contains(QStringLiteral("Bold"), Qt::CaseInsensitive);
+    };
+    QString result = family;
+    if (!installed.contains(family, Qt::CaseInsensitive)) {
+        QStringList candidates;
+        if (family.compare(QLatin1String("Arial"), Qt::CaseInsensitive) == 0 ||
+            family.compare(QLatin1String("Helvetica"), Qt::CaseInsensitive) == 0)
+            candidates << QStringLiteral("Liberation Sans") << QStringLiteral("Arimo");
+        candidates << QStringLiteral("DejaVu Sans") << QStringLiteral("Noto Sans") << QStringLiteral("FreeSans")
+                   << QStringLiteral("Nimbus Sans");
+        const QString resolved = QFontInfo(QFont(family)).family();
+        if (!hasBold(resolved)) {
+            for (const QString &candidate : candidates) {
+                if (installed.contains(candidate, Qt::CaseInsensitive) && hasBold(candidate)) {
+                    result = candidate;
+                    break;
+                }
+            }
+        }
+    }
+    chosen.insert(family, result);
+    return result;
+}
+
 const QFontMetricsF &TAlLabel::metrics() const
 {
     if (!m_metrics)
@@ -51,12 +92,26 @@ double TAlLabel::advance(const QString &text) const
 {
     if (text.isEmpty())
         return 0.0;
-    auto it = m_advances.constFind(text);
-    if (it != m_advances.cend())
+    const QList<TextLine> &lines = paragraph(text, 0.0);
+    return lines.isEmpty() ? 0.0 : lines.first().width;
+}
+
+const QList<TextLine> &TAlLabel::paragraph(const QString &text, double width) const
+{
+    // One label wraps at one width; should it change, the kept lines no longer hold.
+    if (width > 0.0 && width != m_paragraphWidth) {
+        m_wrapped.clear();
+        m_paragraphWidth = width;
+    }
+    QHash<QString, QList<TextLine>> &kept = width > 0.0 ? m_wrapped : m_paragraphs;
+    auto it = kept.constFind(text);
+    if (it != kept.cend())
         return *it;
-    if (m_advances.size() > 8192)
-        m_advances.clear();
-    return *m_advances.insert(text, metrics().horizontalAdvance(text));
+    if (kept.size() > 65536)
+        kept.clear();
+    if (!m_rawFont)
+        m_rawFont = QRawFont::fromFont(outputFont);
+    return *kept.insert(text, LayOutParagraph(text, outputFont, *m_rawFont, width));
 }
 
 // ---- Named values and pictures ----
@@ -361,6 +416,8 @@ private:
             c.Transparent = boolean(name, v);
         else if (sameName(name, "WordWrap"))
             c.WordWrap = boolean(name, v);
+        else if (sameName(name, "LabelFor"))
+            c.LabelFor = identifier(name, v);
         else if (recordFont(&c, name, v))
             ;
         else
@@ -450,7 +507,9 @@ private:
                                                     Qt::VerPattern,   Qt::FDiagPattern,    Qt::BDiagPattern,
                                                     Qt::CrossPattern, Qt::DiagCrossPattern};
             s.Brush.style = styles[style];
-        } else
+        } else if (sameName(name, "BrushField"))
+            s.BrushField = identifier(name, v);
+        else
             applyControlBase(s, name, v);
     }
 
@@ -555,9 +614,10 @@ private:
             auto *sys = dynamic_cast<TAlSysField *>(label.get());
             for (const auto &[name, value] : object.properties) {
                 if (sys && sameName(name, "DataType"))
-                    sys->DataType = enumeration<tAlSysDataType>(name, value,
-                                                                {"alr_Time", "alr_Date", "alr_DateTime", "alr_PageNum",
-                                                                 "alr_Counter", "alr_Count", "alr_Formname"});
+                    sys->DataType =
+                        enumeration<tAlSysDataType>(name, value,
+                                                    {"alr_Time", "alr_Date", "alr_DateTime", "alr_PageNum",
+                                                     "alr_Counter", "alr_Count", "alr_Formname", "alr_PageOfPages"});
                 else
                     applyLabel(*label, name, value, sys == nullptr);
             }
@@ -648,7 +708,7 @@ private:
 
     static QFont outputFont(const AlFont &f, int ppi)
     {
-        QFont font(f.name);
+        QFont font(PrintingFamily(f.name));
         // The design height is in template pixels; output units are LayoutDpi dots.
         const double pixels = std::abs(f.height) * double(LayoutDpi) / ppi;
         font.setPixelSize(qMax(1, int(std::lround(f.height < 0 ? pixels : pixels * 0.86))));

@@ -10,9 +10,11 @@
 #include <QDateTime>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QHash>
 #include <QImage>
 #include <QList>
+#include <QRawFont>
 #include <QString>
 #include <QStringList>
 
@@ -47,7 +49,18 @@ enum class tAlBandType {
     alr_GroupHeader,
     alr_GroupFooter
 };
-enum class tAlSysDataType { alr_Time, alr_Date, alr_DateTime, alr_PageNum, alr_Counter, alr_Count, alr_Formname };
+// alr_PageOfPages ("Page 3 of 12") comes after the first seven, so that the stored names
+// of older templates keep their meaning.
+enum class tAlSysDataType {
+    alr_Time,
+    alr_Date,
+    alr_DateTime,
+    alr_PageNum,
+    alr_Counter,
+    alr_Count,
+    alr_Formname,
+    alr_PageOfPages
+};
 enum class tAlRulerType { alr_none, alr_cmH, alr_cmHV, alr_cmV };
 enum class tClipMode { cm_Clip, cm_Expand, cm_Overwrite };
 enum class TAlignment { taLeftJustify, taRightJustify, taCenter };
@@ -64,6 +77,9 @@ QSize PaperSizeMM(tPapersize paper);
 int ScaleToOutput(int designValue, int outputDpi, int designPpi);
 // Millimetres to dots: (dpi x mm / 25.4) + 0.5, rounded half to even.
 int MillimetresToDots(double mm, int dpi);
+
+// The font family a template's font name prints in (see AlReport.cpp).
+QString PrintingFamily(const QString &family);
 
 // Every report is laid out in dots of this resolution, whatever the output (see AlPrinter.h).
 inline constexpr int LayoutDpi = 1200;
@@ -97,6 +113,15 @@ struct AlBrush
 {
     quint32 color = clWhite;
     Qt::BrushStyle style = Qt::SolidPattern;
+};
+
+// One line of text as it is drawn: shaped once, when it is measured, and drawn from the
+// same glyphs, so that measuring and painting never disagree and never shape twice.
+struct TextLine
+{
+    QString text;
+    double width = 0.0;      // advance of the line, from the start of its indent
+    QList<QGlyphRun> glyphs; // positioned from the line's left edge and its top (baseline at ascent)
 };
 
 // ---- Components ----
@@ -143,17 +168,26 @@ public:
     bool ParentFont = true;
     bool Transparent = true;
     bool WordWrap = false;
+    // The name of the field this label names ("Director" for DirField): the label is
+    // printed only where that field shows a value, so no label dangles before a blank.
+    QString LabelFor;
 
     // The font the label is drawn in, in output units (set when the template loads).
     QFont outputFont;
     const QFontMetricsF &metrics() const;
-    // The advance of a text in the output font. Reports print the same texts again and
-    // again (names, headings, categories), so advances are kept per label.
+    // The advance of a one-line text in the output font.
     double advance(const QString &text) const;
+    // A paragraph (no line breaks) laid out in the output font, wrapped at the width when
+    // it is above 0. Reports print the same texts again and again (names, headings,
+    // categories), so the shaped lines are kept per label.
+    const QList<TextLine> &paragraph(const QString &text, double width) const;
 
 private:
     mutable std::optional<QFontMetricsF> m_metrics;
-    mutable QHash<QString, double> m_advances;
+    mutable QHash<QString, QList<TextLine>> m_paragraphs; // one line each
+    mutable QHash<QString, QList<TextLine>> m_wrapped;    // wrapped at m_paragraphWidth
+    mutable double m_paragraphWidth = -1.0;
+    mutable std::optional<QRawFont> m_rawFont;
 };
 
 // A data field: each printing of its band shows the value at the current row.
@@ -194,6 +228,9 @@ public:
     AlBrush Brush;
     AlPen Pen;
     TShapeType Shape = TShapeType::stRectangle;
+    // The name of a field on the same band whose value (a colour name such as "#FFFF80")
+    // fills the shape on each row; blank or no colour: the brush's own colour.
+    QString BrushField;
 };
 
 class tAlImage : public tAlControl
@@ -309,6 +346,9 @@ public:
 
     // The time the system fields show; the current time unless set.
     QDateTime now;
+    // The title and author of a PDF file of the report; the report's title when blank.
+    QString documentTitle;
+    QString documentAuthor;
 
     // Runs the layout onto a real output (a printer or a PDF writer) and prints it.
     // False when the run was cancelled (the job is aborted) or the device failed.

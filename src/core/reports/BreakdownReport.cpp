@@ -3,7 +3,10 @@
 
 #include "reports/ReportBuilders.h"
 
+#include "reports/AlLayout.h"
 #include "reports/ReportOutput.h"
+
+#include "board/DrawBoard.h"
 
 #include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
@@ -43,6 +46,94 @@ void pushProductionHeader(TAlReport &report, const ScheduleDocument &doc)
     report.AddNamedValue(QStringLiteral("DirField"), v.Director);
     report.AddNamedValue(QStringLiteral("ProdField"), v.Producer);
 }
+
+QString intExtWord(const QString &intExt)
+{
+    if (intExt == QLatin1String("I"))
+        return QStringLiteral("INT");
+    if (intExt == QLatin1String("E"))
+        return QStringLiteral("EXT");
+    if (intExt == QLatin1String("I/E"))
+        return QStringLiteral("INT/EXT");
+    return intExt;
+}
+
+// The colour of a sheet's heading: its strip's colour on the board.
+QString SheetHeadingColour(const StripRecord &strip, const BoardStyle &style)
+{
+    return StripColour(strip, style).name();
+}
+
+// The boxes of a sheet keep their size; what does not fit in one is shown in part, ending
+// in an ellipsis, and continues below the sheet (on a page of its own when it must) under
+// the box's heading. The heading of a box is its category's name (tag rule and the cast
+// list), or else the caption of the label named like the field ("SetField": "SetCaption").
+class SheetOverflow
+{
+public:
+    SheetOverflow(const ScheduleDocument &doc, const ReportForm &form)
+        : m_doc(doc)
+        , m_form(form)
+    {
+        for (TAlField *field : form.fields()) {
+            if (!field->visible || !field->band || field->band->BandType != tAlBandType::alr_Detail ||
+                field->band->ClipMode != tClipMode::cm_Clip || !field->WordWrap)
+                continue;
+            m_boxes.append(field);
+        }
+    }
+
+    // The continuation of the sheet whose values were pushed last: blank when all fits.
+    QString continuation(const QString &sheet) const
+    {
+        QStringList lines;
+        for (const TAlField *field : m_boxes) {
+            if (field->values.isEmpty())
+                continue;
+            const LabelFit fit = FitLabelText(*field, field->values.last(), m_form.PixelsPerInch);
+            if (fit.fits())
+                continue;
+            if (!lines.isEmpty())
+                lines.append(QString());
+            lines.append(heading(*field) + QStringLiteral(" (continued)"));
+            // From the first line cut short by the ellipsis, given again whole.
+            qsizetype from = fit.lines.size() > fit.room ? fit.room - 1 : fit.lines.size();
+            for (qsizetype i = 0; i < from; ++i) {
+                if (fit.lines.at(i).width > fit.width) {
+                    from = i;
+                    break;
+                }
+            }
+            for (qsizetype i = from; i < fit.lines.size(); ++i)
+                lines.append(fit.lines.at(i).text);
+        }
+        if (lines.isEmpty())
+            return QString();
+        lines.prepend(QStringLiteral("SHEET %1 CONTINUED").arg(sheet));
+        return lines.join(u'\r');
+    }
+
+private:
+    QString heading(const TAlField &field) const
+    {
+        int category = field.Tag > 100 ? field.Tag - 100 : 0;
+        if (field.Name.compare(QLatin1String("CastListField"), Qt::CaseInsensitive) == 0)
+            category = 1;
+        if (category > 0)
+            return categoryName(m_doc, category).toUpper();
+        QString base = field.Name;
+        if (base.endsWith(QLatin1String("Field"), Qt::CaseInsensitive))
+            base.chop(5);
+        const AlComponent *caption = m_form.find(base + QStringLiteral("Caption"));
+        if (caption && caption->kind() == AlComponent::Kind::Label)
+            return static_cast<const TAlLabel *>(caption)->Caption;
+        return base.toUpper();
+    }
+
+    const ScheduleDocument &m_doc;
+    const ReportForm &m_form;
+    QList<const TAlField *> m_boxes;
+};
 
 } // namespace
 
@@ -85,6 +176,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
     // Fields with a category tag, in component order: 1..99 the category's name, above
     // 100 the elements of category tag - 100. Tags 0 and 100 mark ordinary fields.
     const QList<TAlField *> fields = built.form->fields();
+    const SheetOverflow overflow(doc, *built.form);
     for (int row : rows) {
         if (row < 1 || row > doc.strips.count())
             continue;
@@ -122,6 +214,19 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
                 report.AddFieldValue(*field, text);
             }
         }
+        // After the values above, those of this program's sheet: INT/EXT, the cast as
+        // "id - name", the heading's colour and what continues below the sheet.
+        report.AddNamedValue(QStringLiteral("IntExtField"), intExtWord(strip[StripField::IntExt]));
+        if (!assignedRead)
+            assigned = AssignedElementFlags(doc, row);
+        QStringList cast;
+        for (int e = 1; e <= doc.elements.count(); ++e)
+            if (assigned.at(e) && categoryOf(doc.elements[e]) == 1)
+                cast.append(doc.elements[e][ElementField::BoardId] + QStringLiteral(" - ") +
+                            doc.elements[e][ElementField::Description]);
+        report.AddNamedValue(QStringLiteral("CastListField"), cast.join(u'\r'));
+        report.AddNamedValue(QStringLiteral("StripColourField"), SheetHeadingColour(strip, options.style));
+        report.AddNamedValue(QStringLiteral("ContinuedField"), overflow.continuation(strip[StripField::StripId]));
     }
     run.finish();
     built.nothingToPrint = built.rows == 0;

@@ -5,6 +5,7 @@
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace tb {
@@ -16,7 +17,11 @@ QImage LoadLogo(const ScheduleDocument &doc)
         return QImage();
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    return reader.read(); // null when the file is gone or no picture: the reports print without it
+    QImage image = reader.read(); // null when the file is gone or no picture: the reports print without it
+    // The reports keep a lossless picture lossless; they need to know which it was.
+    if (!image.isNull())
+        image.setText(QStringLiteral("format"), QString::fromLatin1(reader.format()));
+    return image;
 }
 
 namespace reportdetail {
@@ -29,7 +34,11 @@ ResultOf<std::unique_ptr<ReportForm>> LoadBuilderTemplate(ScheduleDocument &doc,
         context.templatePath.isEmpty() ? TemplatePath(QString::fromLatin1(fileName)) : context.templatePath;
     ResultOf<std::unique_ptr<ReportForm>> loaded = LoadTemplate(path, context.trace);
     if (!loaded) {
-        const QString text = message(path);
+        QString text = message(path);
+        // A template that is there but does not load: where and why, so that whoever
+        // changed it can mend it.
+        if (QFileInfo(path).isFile())
+            text += QStringLiteral("\r\r") + loaded.message();
         doc.prompter().error(text);
         return Result::failure(text);
     }
@@ -68,7 +77,12 @@ ResultOf<BuiltReport> BuilderRun::load(const char *fileName, const std::function
     }
     BuiltReport built;
     built.form = std::move(loaded.value());
-    built.report().SetPicture(m_logo);
+    TAlReport &report = built.report();
+    report.SetPicture(m_logo);
+    // A PDF file of the report is titled with the production and the report, by the company.
+    const QString title = m_doc.values.PictureTitle.trimmed();
+    report.documentTitle = title.isEmpty() ? report.ReportTitle : title + QStringLiteral(" - ") + report.ReportTitle;
+    report.documentAuthor = m_doc.values.Company.trimmed();
     return built;
 }
 

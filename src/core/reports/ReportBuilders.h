@@ -7,6 +7,8 @@
 
 #include "reports/AlReport.h"
 
+#include "board/BoardStyle.h"
+
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
 
@@ -96,6 +98,8 @@ struct BreakdownReportOptions
 {
     bool all = true; // "All" instead of "Specific:"
     QList<int> rows; // "Specific:": the strip rows of the selected items, in list order
+    // The board's colours: each sheet's heading takes its strip's colour from them.
+    BoardStyle style;
 };
 
 ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const BreakdownReportOptions &options,

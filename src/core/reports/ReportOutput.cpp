@@ -6,12 +6,21 @@
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 namespace tb {
+
+QString UserTemplateFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QStringLiteral("/Torvanbridge/templates");
+}
 
 QStringList TemplateFolders()
 {
     QStringList folders;
+    // The user's own templates come first: changed copies there survive a reinstall.
+    folders.append(UserTemplateFolder());
     const QString programFolder = QCoreApplication::applicationDirPath();
     folders.append(programFolder);
     folders.append(QDir::cleanPath(programFolder + QStringLiteral("/../share/torvanbridge/templates")));
@@ -31,7 +40,7 @@ QString TemplatePath(const QString &fileName)
         if (QFileInfo(path).isFile())
             return path;
     }
-    return QDir(folders.first()).filePath(fileName);
+    return QDir(QCoreApplication::applicationDirPath()).filePath(fileName);
 }
 
 QPageSize PageSizeFor(tPapersize paper)
@@ -49,6 +58,32 @@ QPageSize PageSizeFor(tPapersize paper)
     return QPageSize(QPageSize::A4);
 }
 
+namespace {
+
+QString xmlText(QString text)
+{
+    return text.toHtmlEscaped();
+}
+
+// The document's description for readers that show an author: the writer's own title and
+// creator, and the company as the author.
+QByteArray XmpMetadata(const QString &title, const QString &author)
+{
+    const QString xmp =
+        QStringLiteral("<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?>\n"
+                       "<x:xmpmeta xmlns:x='adobe:ns:meta/'>\n"
+                       "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>\n"
+                       "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/' "
+                       "xmlns:xmp='http://ns.adobe.com/xap/1.0/' xmlns:pdf='http://ns.adobe.com/pdf/1.3/'>\n"
+                       "<dc:title><rdf:Alt><rdf:li xml:lang='x-default'>%1</rdf:li></rdf:Alt></dc:title>\n"
+                       "<dc:creator><rdf:Seq><rdf:li>%2</rdf:li></rdf:Seq></dc:creator>\n"
+                       "<xmp:CreatorTool>Torvanbridge</xmp:CreatorTool>\n"
+                       "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end='w'?>");
+    return xmp.arg(xmlText(title), xmlText(author)).toUtf8();
+}
+
+} // namespace
+
 Result WriteReportPdf(TAlReport &report, const QString &path, std::optional<tPapersize> paper)
 {
     const tPapersize chosen = paper.value_or(report.Papersize);
@@ -60,7 +95,10 @@ Result WriteReportPdf(TAlReport &report, const QString &path, std::optional<tPap
         QPdfWriter writer(&file);
         writer.setResolution(LayoutDpi);
         writer.setCreator(QStringLiteral("Torvanbridge"));
-        writer.setTitle(report.ReportTitle);
+        const QString title = report.documentTitle.isEmpty() ? report.ReportTitle : report.documentTitle;
+        writer.setTitle(title);
+        if (!report.documentAuthor.isEmpty())
+            writer.setDocumentXmpMetadata(XmpMetadata(title, report.documentAuthor));
         const QPageLayout::Orientation orientation =
             report.Orientation == TPrinterOrientation::poLandscape ? QPageLayout::Landscape : QPageLayout::Portrait;
         // The sheet is the standard size; the engine fills the whole millimetres of its

@@ -21,11 +21,12 @@ inline constexpr char OnelineTemplate[] = "Oneline1.dfm";
 inline constexpr char BreakdownTemplate[] = "Breakdown1.dfm";
 inline constexpr char ElementSummaryTemplate[] = "ElementSummary1.dfm";
 
-// The folders searched for templates, in order: the program's folder, then the installed
-// data folder (<prefix>/share/torvanbridge/templates, beside the program's bin folder and
-// where the build installs them). Programs installed on Linux do not keep their data
-// beside the executable, so the data folder is searched as well.
+// The folders searched for templates, in order: the user's own template folder (the
+// data folder of the desktop, Torvanbridge/templates), the program's folder, then the
+// installed data folder (<prefix>/share/torvanbridge/templates, beside the program's bin
+// folder and where the build installs them).
 QStringList TemplateFolders();
+QString UserTemplateFolder();
 
 // The first existing file of that name in the template folders; when there is none, the
 // path in the program's folder (which is what the messages name).

@@ -11,6 +11,7 @@
 #include "document/LegacyText.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <array>
 #include <cmath>
@@ -159,6 +160,13 @@ private:
         for (const char *name : {"PageField", "PagesField", "LocationField", "SynopsisField", "CatagoryField1",
                                  "CatagoryField2", "CatagoryField3", "CastField", "DayPagesField"})
             push(name, blank);
+        // The columns this program's templates add, so that every row has each of them.
+        push("SceneNoField", QString());
+        push("IntExtField", QString());
+        push("SetLocField", sceneText);
+        for (const char *name :
+             {"DNField", "LengthField", "ScriptPageField", "CastIdsField", "SetNameField", "NotesField"})
+            push(name, QString());
     }
 
     static QString locationPrefix(const QString &intExt)
@@ -212,6 +220,7 @@ private:
         const QList<bool> assigned = AssignedElementFlags(m_doc, row);
         std::array<QStringList, CategoryLists + 1> lists;
         QString cast = QStringLiteral(" ");
+        QStringList castIds;
         for (int c = 1; c <= CategoryLists; ++c) {
             for (int e : m_byCategory[c]) {
                 if (!assigned.at(e))
@@ -226,6 +235,7 @@ private:
                     lists[c].append(QStringLiteral("    ") + element[ElementField::BoardId] + u' ' +
                                     element[ElementField::Description]);
                     cast += QStringLiteral("  ") + element[ElementField::BoardId];
+                    castIds.append(element[ElementField::BoardId]);
                 } else {
                     lists[c].append(QStringLiteral("    ") + element[ElementField::Description]);
                 }
@@ -254,9 +264,60 @@ private:
         push("CatagoryField3", column(true));
         // The day's page total for the "END OF DAY" footer.
         push("DayPagesField", dayPagesText(strip[StripField::DayNumber]));
+        // The columns of this program's templates: each value on its own, so a template
+        // can give it a column, and no label where there is no value.
+        push("SceneNoField", strip[StripField::SceneNumber]);
+        push("IntExtField", intExtWord(strip[StripField::IntExt]));
+        push("SetLocField", strip[StripField::Location].trimmed().isEmpty() ? strip[StripField::SetName]
+                                                                            : strip[StripField::Location]);
+        push("DNField", dayNightWord(strip[StripField::DayNight]));
+        push("LengthField", FormatPageLength(PageLengthOf(strip)));
+        push("ScriptPageField", strip[StripField::ScriptPage]);
+        push("CastIdsField", castIds.join(QStringLiteral(", ")));
+        const QString set = strip[StripField::SetName].trimmed();
+        push("SetNameField", set.isEmpty() ? QString() : QStringLiteral("Set: ") + set);
+        const QStringList notes = legacy::SplitCommaText(strip[StripField::Notes]);
+        push("NotesField",
+             notes.join(u' ').trimmed().isEmpty() ? QString() : QStringLiteral("Notes: ") + notes.join(u'\r'));
+        // What was printed, for the closing totals.
+        ++m_totalScenes;
+        m_totalPages += PageLengthOf(strip);
+        m_totalDays.insert(m_options.shootingDaysOnly ? strip[StripField::ShootDayNumber] : QString::number(d));
         return Result::success();
     }
 
+    static QString intExtWord(const QString &intExt)
+    {
+        if (intExt == QLatin1String("I"))
+            return QStringLiteral("INT");
+        if (intExt == QLatin1String("E"))
+            return QStringLiteral("EXT");
+        if (intExt == QLatin1String("I/E"))
+            return QStringLiteral("INT/EXT");
+        return intExt;
+    }
+
+    static QString dayNightWord(const QString &dayNight)
+    {
+        const QString suffix = locationSuffix(dayNight);
+        return suffix.isEmpty() ? dayNight : suffix.mid(3);
+    }
+
+public:
+    // The closing line under "End": shooting days, scenes and pages of what was printed.
+    QString totalsText() const
+    {
+        auto counted = [](qsizetype n, const char *one, const char *many) -> QString {
+            return QString::number(n) + u' ' + QString::fromLatin1(n == 1 ? one : many);
+        };
+        const QString pages = FormatPageLength(m_totalPages);
+        return counted(m_totalDays.size(), "shooting day", "shooting days") + QStringLiteral(", ") +
+               counted(m_totalScenes, "scene", "scenes") + QStringLiteral(", ") +
+               (pages.isEmpty() ? QStringLiteral("0") : pages) +
+               (m_totalPages > 0 && m_totalPages <= 1 ? QStringLiteral(" page") : QStringLiteral(" pages"));
+    }
+
+private:
     ScheduleDocument &m_doc;
     const ScheduleReportOptions &m_options;
     TAlReport &m_report;
@@ -265,6 +326,9 @@ private:
     std::array<QString, CategoryLists + 1> m_categoryNames;
     QHash<int, QString> m_dates;
     QHash<QString, double> m_dayPages;
+    int m_totalScenes = 0;
+    double m_totalPages = 0.0;
+    QSet<QString> m_totalDays;
 };
 
 } // namespace
@@ -290,6 +354,12 @@ ResultOf<BuiltReport> CreateSchedulePages(ScheduleDocument &doc, const ScheduleR
     report.AddNamedValue(QStringLiteral("CompanyField"), doc.values.Company);
     ScheduleBuilder builder(doc, options, report);
     Result result = builder.build(run, &built.nothingToPrint, &built.rows);
+    if (result && !built.nothingToPrint) {
+        // After the closing line: the totals, and the title without quotes (an empty title
+        // then prints nothing rather than "").
+        report.AddNamedValue(QStringLiteral("TotalsField"), builder.totalsText());
+        report.AddNamedValue(QStringLiteral("TitleField"), doc.values.PictureTitle);
+    }
     run.finish();
     if (!result) {
         doc.prompter().error(result.message());

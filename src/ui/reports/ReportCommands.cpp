@@ -1,5 +1,7 @@
 #include "ui/reports/ReportCommands.h"
 
+#include "board/BoardStyle.h"
+
 #include "ui/reports/TfrmDOD.h"
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPrintBS.h"
@@ -15,18 +17,21 @@ namespace tb {
 namespace {
 
 template <typename Dialog>
-void install(CommandHost &host, const char *actionName)
+Dialog *install(CommandHost &host, const char *actionName)
 {
     auto *dialog = new Dialog(host.document(), host.window()); // owned by the main window
     dialog->showHelp = [&host](const QString &page) { host.showHelp(page); };
     QObject::connect(host.action(actionName), &QAction::triggered, dialog, [dialog] { dialog->exec(); });
+    return dialog;
 }
 
 } // namespace
 
 void InstallReportCommands(CommandHost &host)
 {
-    install<TfrmPrintBS>(host, actions::Breakdownsheets1);
+    auto *sheets = install<TfrmPrintBS>(host, actions::Breakdownsheets1);
+    // Each sheet's heading takes its strip's colour from the board's colours.
+    sheets->boardStyle = [&host] { return StyleFromSettings(host.settings()); };
     install<TfrmElUse>(host, actions::Elementsummary1);
     install<TfrmShootSch>(host, actions::Shootingschedule1);
     install<TfrmDOD>(host, actions::Dayoutofdays1);

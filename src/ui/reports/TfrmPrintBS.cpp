@@ -36,6 +36,8 @@ BreakdownReportOptions TfrmPrintBS::options() const
 {
     BreakdownReportOptions options;
     options.all = ui->AllRadio->isChecked();
+    if (boardStyle)
+        options.style = boardStyle();
     // The selected items in list order.
     for (int i = 0; i < ui->SceneList->count(); ++i) {
         const QListWidgetItem *item = ui->SceneList->item(i);

@@ -2,6 +2,7 @@
 
 #include "ui/reports/ReportPrintDialog.h"
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -23,6 +24,9 @@ public:
     BreakdownReportOptions options() const;
 
     Ui::TfrmPrintBS &form() { return *ui; }
+
+    // The board's colours for the sheets' headings; white strips when not set.
+    std::function<BoardStyle()> boardStyle;
 
 protected:
     void fillChoices() override;

@@ -10,6 +10,8 @@
 #include "reports/DfmParser.h"
 #include "reports/ReportOutput.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPdfWriter>
 #include <QTest>
 
@@ -151,6 +153,11 @@ private Q_SLOTS:
     void expandGrowsTheBand();
     void clipModes();
     void systemFields();
+    void pageOfPages();
+    void grownTextPushesDownWhatIsBelow();
+    void labelsForBlankFieldsAreLeftOut();
+    void printingFamilyHasABoldFace_data();
+    void printingFamilyHasABoldFace();
     void textLines_data();
     void textLines();
     void previewAndPrintBreakAlike();
@@ -386,7 +393,10 @@ void TestAlLayout::clipModes()
     clip->report->AddNamedValue("Text", longText);
     over->report->AddNamedValue("Text", longText);
     const PlacedControl *c = controlOf(LayOutReport(*clip->report, pageOf(5000)).pages[0].bands[0], "Text");
-    QVERIFY(c->lines.size() > 1);
+    // Never cut silently: the line that fits ends in an ellipsis.
+    QCOMPARE(c->lines.size(), 1);
+    QVERIFY(c->cut);
+    QVERIFY(c->lines.first().endsWith(QChar(0x2026)));
     QVERIFY(c->clipped);
     QCOMPARE(c->clip, c->rect);
     const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
@@ -419,6 +429,72 @@ void TestAlLayout::systemFields()
     QCOMPARE(controlOf(foot, "Salr_Formname")->text, QStringLiteral("test.dfm"));
 }
 
+void TestAlLayout::pageOfPages()
+{
+    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
+                         band("Foot", 40, 20, "alr_PageFooter", {},
+                              "    object P: TAlSysField\n      DataType = alr_PageOfPages\n    end\n"));
+    QVERIFY(form);
+    pushValues(*form->report, "N*5");
+    // Two rows a page: three pages, each knowing the total.
+    const ReportLayout layout = LayOutReport(*form->report, pageOf(H20 * 3 + 1));
+    QCOMPARE(layout.pages.size(), 3);
+    QStringList texts;
+    for (const LaidOutPage &page : layout.pages)
+        texts.append(controlOf(page.bands.last(), "P")->text);
+    QCOMPARE(texts, QStringList({"Page 1 of 3", "Page 2 of 3", "Page 3 of 3"}));
+}
+
+void TestAlLayout::grownTextPushesDownWhatIsBelow()
+{
+    const QString wrap = QStringLiteral("      AutoSize = False\n      WordWrap = True\n");
+    auto form =
+        makeForm(band("D", 0, 40, "alr_Detail", "    ClipMode = cm_Expand\n",
+                      fieldOn("Top", 0, 2, wrap) + fieldOn("Below", 0, 18, wrap) + fieldOn("Beside", 200, 18, wrap)));
+    QVERIFY(form);
+    TAlReport &report = *form->report;
+    report.AddNamedValue("Top", "one\rtwo\rthree");
+    report.AddNamedValue("Below", "under");
+    report.AddNamedValue("Beside", "beside");
+    const PlacedBand &b = LayOutReport(report, pageOf(10000)).pages[0].bands[0];
+    const int lh = int(std::ceil(static_cast<const TAlLabel *>(form->find("Top"))->metrics().lineSpacing()));
+    const int grown = 3 * lh - ScaleToOutput(14, 1200, 96);
+    // The field below moves down by what the one above grew; the one beside stays.
+    QCOMPARE(controlOf(b, "Below")->rect.top(), ScaleToOutput(18, 1200, 96) + grown);
+    QCOMPARE(controlOf(b, "Beside")->rect.top(), ScaleToOutput(18, 1200, 96));
+    QCOMPARE(b.rect.height(), ScaleToOutput(40, 1200, 96) + grown);
+}
+
+void TestAlLayout::labelsForBlankFieldsAreLeftOut()
+{
+    auto form = makeForm(band("D", 0, 20, "alr_Detail", {},
+                              fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
+                                                    "      LabelFor = Dir\n    end\n"));
+    QVERIFY(form);
+    pushValues(*form->report, "Dir=Ann, ,Bo");
+    const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
+    QStringList shown;
+    for (const PlacedBand &b : layout.pages[0].bands)
+        shown.append(controlOf(b, "DirLabel") ? "label" : "none");
+    QCOMPARE(shown, QStringList({"label", "none", "label"}));
+}
+
+void TestAlLayout::printingFamilyHasABoldFace_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::newRow("the templates' Arial") << "Arial";
+    QTest::newRow("a family no system has") << "Quillbrook Grotesque Nonesuch";
+}
+
+void TestAlLayout::printingFamilyHasABoldFace()
+{
+    // Whatever a template names, the text prints in a family with a bold face of its own,
+    // so that bold texts keep to the widths they were measured at.
+    QFETCH(QString, family);
+    const QString used = QFontInfo(QFont(PrintingFamily(family))).family();
+    QVERIFY2(QFontDatabase::styles(used).contains(QStringLiteral("Bold"), Qt::CaseInsensitive), qPrintable(used));
+}
+
 void TestAlLayout::textLines_data()
 {
     QTest::addColumn<QString>("text");
@@ -443,7 +519,7 @@ void TestAlLayout::textLines()
     font.setPixelSize(10);
     const QFontMetricsF metrics(font);
     // Widths are given in characters of the fixed-pitch font.
-    QCOMPARE(BreakTextLines(text, metrics, width * metrics.horizontalAdvance(u'x')), lines);
+    QCOMPARE(BreakTextLines(text, font, width * metrics.horizontalAdvance(u'x')), lines);
 }
 
 void TestAlLayout::previewAndPrintBreakAlike()

@@ -108,6 +108,8 @@ private Q_SLOTS:
     void shootingDaysOnlyHidesRestDays();
     void bannerDaysGetRowsOfTheirOwn();
     void elementColumns();
+    void breakdownBoxesContinueBelowTheSheet();
+    void brokenTemplateNamesLineAndCause();
     void rowValuesInOrder();
     void locationLine_data();
     void locationLine();
@@ -247,6 +249,54 @@ void TestReportBuilders::elementColumns()
     QCOMPARE(pushes.values("CatagoryField3"), QStringList({" ", "SPECIAL FX\r\n    RAIN\r\n \r\n"}));
 }
 
+void TestReportBuilders::breakdownBoxesContinueBelowTheSheet()
+{
+    // 25 cast members and a location of 200 characters: more than the cast box and the
+    // synopsis box hold. Nothing may be lost: what the box cannot show continues below.
+    const int row = scene(*m_doc, "112A-112C");
+    m_doc->strips[row].set(StripField::Location, QString(QStringLiteral("THE LONG QUAY ")).repeated(14).trimmed());
+    m_doc->strips[row].set(StripField::IntExt, QStringLiteral("I/E"));
+    QStringList names;
+    for (int i = 1; i <= 25; ++i) {
+        names.append(QStringLiteral("CAST MEMBER %1").arg(i));
+        AddAssignment(*m_doc, row, AddElement(*m_doc, names.last(), 1, QString::number(i)));
+    }
+    scene(*m_doc, "2");
+    RecalculateDays(*m_doc);
+    Pushes pushes;
+    QVERIFY(CreateBreakdownPages(*m_doc, {}, pushes.context("Breakdown1.dfm")).ok());
+    QCOMPARE(pushes.values("IntExtField").first(), QStringLiteral("INT/EXT"));
+    const QStringList cast = pushes.values("CastListField").first().split(u'\r');
+    QCOMPARE(cast.size(), 25);
+    QCOMPARE(cast.first(), QStringLiteral("1 - CAST MEMBER 1"));
+    const QStringList continued = pushes.values("ContinuedField");
+    QCOMPARE(continued.size(), 2);
+    QVERIFY(continued.at(1).isEmpty()); // the short scene fits
+    QVERIFY(continued.at(0).startsWith(QStringLiteral("SHEET 1 CONTINUED")));
+    QVERIFY(continued.at(0).contains(QStringLiteral("CAST (continued)")));
+    QVERIFY(continued.at(0).contains(QStringLiteral("25 - CAST MEMBER 25")));
+    QVERIFY(continued.at(0).contains(QStringLiteral("LOCATION  /  SYNOPSIS (continued)")));
+}
+
+void TestReportBuilders::brokenTemplateNamesLineAndCause()
+{
+    const QString path = TempPath("ShootSch1.dfm");
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write("object F: TForm\n  object R: TAlReport\n    Papersize = alr_A3\n  end\nend\n");
+    f.close();
+    layOut(*m_doc, "1");
+    Pushes pushes;
+    QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context(path)).ok());
+    // The message every user has always seen, then where and why.
+    QCOMPARE(m_prompter.texts().size(), 1);
+    const QString text = m_prompter.texts().first();
+    QVERIFY(text.startsWith(QStringLiteral("Could not load schedule template file (%1). Please try re-installing "
+                                           "Torvanbridge.\r\r")
+                                .arg(path)));
+    QVERIFY2(text.contains(QStringLiteral("ShootSch1.dfm, line 3: expected one of alr_A4")), qPrintable(text));
+}
+
 void TestReportBuilders::rowValuesInOrder()
 {
     scene(*m_doc, "12A", "1.375");
@@ -258,7 +308,13 @@ void TestReportBuilders::rowValuesInOrder()
              QStringList({"PictureField", "CompanyField", "DayField", "GroupEndField", "SceneField", "PageField",
                           "PagesField", "LocationField", "SynopsisField", "CastField", "CatagoryField1",
                           "CatagoryField2", "CatagoryField3", "DayPagesField"}));
-    QCOMPARE(pushes.names.last(), QStringLiteral("GrandTotal"));
+    // This program's values come after those of every row and after the closing line.
+    QCOMPARE(pushes.names.mid(14, 10),
+             QStringList({"SceneNoField", "IntExtField", "SetLocField", "DNField", "LengthField", "ScriptPageField",
+                          "CastIdsField", "SetNameField", "NotesField", "DayField"}));
+    QCOMPARE(pushes.names.mid(pushes.names.size() - 3), QStringList({"GrandTotal", "TotalsField", "TitleField"}));
+    QCOMPARE(pushes.values("TotalsField"), QStringList{"1 shooting day, 2 scenes, 1 7/8 pages"});
+    QCOMPARE(pushes.values("LengthField"), QStringList({"1 3/8", "4/8"}));
     QCOMPARE(pushes.values("SceneField").first(), QStringLiteral("Scene: 12A"));
     QCOMPARE(pushes.values("PageField").first(), QStringLiteral("Page: 12A"));
     QCOMPARE(pushes.values("PagesField"), QStringList({"Pages: 1 3/8", "Pages: 4/8"}));
