@@ -147,6 +147,18 @@ for d in $docs; do
     cp "$d-dood-totals.csv" "$d-dood.pdf" "$d-print-board.pdf" "$d-print-board-perf.pdf" "$out/outputs/" 2>/dev/null
 done
 
+# The call sheet of a day of the example (with its call sheet file, printed again from
+# that file), and an end of day that marks two of that day's scenes shot.
+cd "$out/work" || exit 2
+run example-callsheet callsheet example.tbf --date 2027-04-06 -o example-callsheet.pdf \
+    --weather "Bright, 14C, wind W 12 mph" --trace --save-sheet example-callsheet.tbs
+run example-callsheet-sheet callsheet example.tbf --sheet example-callsheet.tbs -o example-callsheet-sheet.pdf \
+    --paper letter
+run example-end-of-day end-of-day example.tbf -o example-end-of-day.tbf --date 2027-04-06 --shot 9,35
+run example-end-of-day-board board example-end-of-day.tbf -o example-end-of-day-board.png
+cp example-callsheet.pdf example-callsheet.tbs example-callsheet-sheet.pdf example-end-of-day.tbf \
+    example-end-of-day-board.png "$out/outputs/" 2>/dev/null
+
 # The manifest: one checksum per output, PDFs by their text and page count.
 cd "$out/outputs" || exit 2
 for f in $(ls | sort); do

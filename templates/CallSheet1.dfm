@@ -2,7 +2,7 @@ object CallSheetForm: TForm
   Left = 0
   Top = 0
   Width = 760
-  Height = 640
+  Height = 720
   Caption = 'Call sheet template'
   Color = clWhite
   Font.Charset = DEFAULT_CHARSET
@@ -22,16 +22,48 @@ object CallSheetForm: TForm
     Left = 8
     Top = 8
   end
+  object ContinuedHeader: tAlBand
+    Left = 0
+    Top = 0
+    Width = 700
+    Height = 40
+    Align = alTop
+    BandType = alr_PageHeader
+    NotFirstPageHeader = True
+    object ContinuedLabel: TAlLabel
+      Left = 0
+      Top = 18
+      Width = 400
+      Height = 14
+      AutoSize = False
+      Caption = 'CALL SHEET (continued)'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object ContinuedRule: TAlShape
+      Left = 0
+      Top = 36
+      Width = 700
+      Height = 1
+      Brush.Color = $00C8C8C8
+      Pen.Style = psClear
+    end
+  end
   object TitleBand: tAlBand
     Left = 0
     Top = 0
     Width = 700
-    Height = 238
+    Height = 240
     Align = alTop
     BandType = alr_Title
+    ClipMode = cm_Expand
     object KickerLabel: TAlLabel
       Left = 0
-      Top = 32
+      Top = 20
       Width = 300
       Height = 14
       AutoSize = False
@@ -45,7 +77,7 @@ object CallSheetForm: TForm
     end
     object PictureField: TAlField
       Left = 0
-      Top = 47
+      Top = 35
       Width = 420
       Height = 28
       AutoSize = False
@@ -59,7 +91,7 @@ object CallSheetForm: TForm
     end
     object CompanyField: TAlField
       Left = 0
-      Top = 77
+      Top = 65
       Width = 420
       Height = 16
       AutoSize = False
@@ -73,7 +105,7 @@ object CallSheetForm: TForm
     end
     object AddressField: TAlField
       Left = 0
-      Top = 95
+      Top = 83
       Width = 300
       Height = 42
       AutoSize = False
@@ -87,7 +119,7 @@ object CallSheetForm: TForm
     end
     object LogoImage: tAlImage
       Left = 580
-      Top = 28
+      Top = 16
       Width = 120
       Height = 62
       Center = True
@@ -95,7 +127,7 @@ object CallSheetForm: TForm
     end
     object DateField: TAlField
       Left = 300
-      Top = 100
+      Top = 88
       Width = 400
       Height = 20
       Alignment = taRightJustify
@@ -110,7 +142,7 @@ object CallSheetForm: TForm
     end
     object UnitBox: TAlShape
       Left = 0
-      Top = 146
+      Top = 134
       Width = 112
       Height = 44
       Brush.Style = bsClear
@@ -119,7 +151,7 @@ object CallSheetForm: TForm
     end
     object UnitCaption: TAlLabel
       Left = 6
-      Top = 150
+      Top = 138
       Width = 100
       Height = 12
       AutoSize = False
@@ -133,7 +165,7 @@ object CallSheetForm: TForm
     end
     object UnitField: TAlField
       Left = 6
-      Top = 166
+      Top = 154
       Width = 100
       Height = 20
       AutoSize = False
@@ -147,7 +179,7 @@ object CallSheetForm: TForm
     end
     object MakeupBox: TAlShape
       Left = 118
-      Top = 146
+      Top = 134
       Width = 112
       Height = 44
       Brush.Style = bsClear
@@ -156,7 +188,7 @@ object CallSheetForm: TForm
     end
     object MakeupCaption: TAlLabel
       Left = 124
-      Top = 150
+      Top = 138
       Width = 100
       Height = 12
       AutoSize = False
@@ -170,7 +202,7 @@ object CallSheetForm: TForm
     end
     object MakeupField: TAlField
       Left = 124
-      Top = 166
+      Top = 154
       Width = 100
       Height = 20
       AutoSize = False
@@ -184,7 +216,7 @@ object CallSheetForm: TForm
     end
     object CostumeBox: TAlShape
       Left = 236
-      Top = 146
+      Top = 134
       Width = 112
       Height = 44
       Brush.Style = bsClear
@@ -193,7 +225,7 @@ object CallSheetForm: TForm
     end
     object CostumeCaption: TAlLabel
       Left = 242
-      Top = 150
+      Top = 138
       Width = 100
       Height = 12
       AutoSize = False
@@ -207,7 +239,7 @@ object CallSheetForm: TForm
     end
     object CostumeField: TAlField
       Left = 242
-      Top = 166
+      Top = 154
       Width = 100
       Height = 20
       AutoSize = False
@@ -221,7 +253,7 @@ object CallSheetForm: TForm
     end
     object WrapBox: TAlShape
       Left = 354
-      Top = 146
+      Top = 134
       Width = 112
       Height = 44
       Brush.Style = bsClear
@@ -230,7 +262,7 @@ object CallSheetForm: TForm
     end
     object WrapCaption: TAlLabel
       Left = 360
-      Top = 150
+      Top = 138
       Width = 100
       Height = 12
       AutoSize = False
@@ -244,7 +276,7 @@ object CallSheetForm: TForm
     end
     object WrapField: TAlField
       Left = 360
-      Top = 166
+      Top = 154
       Width = 100
       Height = 20
       AutoSize = False
@@ -256,22 +288,22 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object WeatherBox: TAlShape
+    object DayBox: TAlShape
       Left = 472
-      Top = 146
+      Top = 134
       Width = 228
       Height = 44
       Brush.Style = bsClear
       Pen.Color = $00000000
       Pen.Width = 1
     end
-    object WeatherCaption: TAlLabel
+    object DayCaption: TAlLabel
       Left = 478
-      Top = 150
+      Top = 138
       Width = 200
       Height = 12
       AutoSize = False
-      Caption = 'WEATHER'
+      Caption = 'SHOOTING DAY'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = $00555555
       Font.Height = -9
@@ -279,24 +311,24 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
-    object WeatherField: TAlField
+    object ShootDayField: TAlField
       Left = 478
-      Top = 166
+      Top = 154
       Width = 216
       Height = 20
       AutoSize = False
-      Caption = 'WeatherField'
+      Caption = 'ShootDayField'
       Font.Charset = DEFAULT_CHARSET
       Font.Color = clBlack
-      Font.Height = -12
+      Font.Height = -15
       Font.Name = 'Arial'
-      Font.Style = []
+      Font.Style = [fsBold]
       ParentFont = False
       WordWrap = True
     end
     object DirLabel: TAlLabel
       Left = 0
-      Top = 198
+      Top = 186
       Width = 60
       Height = 13
       AutoSize = False
@@ -310,7 +342,7 @@ object CallSheetForm: TForm
     end
     object DirField: TAlField
       Left = 64
-      Top = 198
+      Top = 186
       Width = 280
       Height = 13
       AutoSize = False
@@ -324,7 +356,7 @@ object CallSheetForm: TForm
     end
     object ProdLabel: TAlLabel
       Left = 350
-      Top = 198
+      Top = 186
       Width = 60
       Height = 13
       AutoSize = False
@@ -338,7 +370,7 @@ object CallSheetForm: TForm
     end
     object ProdField: TAlField
       Left = 414
-      Top = 198
+      Top = 186
       Width = 280
       Height = 13
       AutoSize = False
@@ -352,7 +384,7 @@ object CallSheetForm: TForm
     end
     object ADLabel: TAlLabel
       Left = 0
-      Top = 213
+      Top = 201
       Width = 60
       Height = 13
       AutoSize = False
@@ -366,7 +398,7 @@ object CallSheetForm: TForm
     end
     object ADField: TAlField
       Left = 64
-      Top = 213
+      Top = 201
       Width = 280
       Height = 13
       AutoSize = False
@@ -380,7 +412,7 @@ object CallSheetForm: TForm
     end
     object UPMLabel: TAlLabel
       Left = 350
-      Top = 213
+      Top = 201
       Width = 60
       Height = 13
       AutoSize = False
@@ -394,7 +426,7 @@ object CallSheetForm: TForm
     end
     object UPMField: TAlField
       Left = 414
-      Top = 213
+      Top = 201
       Width = 280
       Height = 13
       AutoSize = False
@@ -406,9 +438,38 @@ object CallSheetForm: TForm
       Font.Style = [fsBold]
       ParentFont = False
     end
+    object WeatherLabel: TAlLabel
+      Left = 0
+      Top = 217
+      Width = 60
+      Height = 13
+      AutoSize = False
+      Caption = 'Weather'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -10
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object WeatherField: TAlField
+      Left = 64
+      Top = 217
+      Width = 636
+      Height = 13
+      AutoSize = False
+      Caption = 'WeatherField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
     object TitleRule: TAlShape
       Left = 0
-      Top = 232
+      Top = 237
       Width = 700
       Height = 2
       Brush.Color = $00000000
@@ -419,12 +480,12 @@ object CallSheetForm: TForm
     Left = 0
     Top = 238
     Width = 700
-    Height = 44
+    Height = 38
     Align = alTop
     BandType = alr_DetailHeader
     object ScenesTitle: TAlLabel
       Left = 0
-      Top = 8
+      Top = 6
       Width = 300
       Height = 15
       AutoSize = False
@@ -438,15 +499,15 @@ object CallSheetForm: TForm
     end
     object ScenesShade: TAlShape
       Left = 0
-      Top = 26
+      Top = 22
       Width = 700
-      Height = 17
+      Height = 15
       Brush.Color = $00E4E4E4
       Pen.Style = psClear
     end
     object ScenesSCENEHeading: TAlLabel
       Left = 6
-      Top = 29
+      Top = 24
       Width = 44
       Height = 12
       AutoSize = False
@@ -460,7 +521,7 @@ object CallSheetForm: TForm
     end
     object ScenesIEHeading: TAlLabel
       Left = 54
-      Top = 29
+      Top = 24
       Width = 30
       Height = 12
       AutoSize = False
@@ -474,7 +535,7 @@ object CallSheetForm: TForm
     end
     object ScenesSETHeading: TAlLabel
       Left = 88
-      Top = 29
+      Top = 24
       Width = 130
       Height = 12
       AutoSize = False
@@ -488,7 +549,7 @@ object CallSheetForm: TForm
     end
     object ScenesLOCATIONHeading: TAlLabel
       Left = 222
-      Top = 29
+      Top = 24
       Width = 120
       Height = 12
       AutoSize = False
@@ -502,7 +563,7 @@ object CallSheetForm: TForm
     end
     object ScenesDNHeading: TAlLabel
       Left = 346
-      Top = 29
+      Top = 24
       Width = 32
       Height = 12
       AutoSize = False
@@ -516,7 +577,7 @@ object CallSheetForm: TForm
     end
     object ScenesPAGESHeading: TAlLabel
       Left = 382
-      Top = 29
+      Top = 24
       Width = 44
       Height = 12
       AutoSize = False
@@ -530,7 +591,7 @@ object CallSheetForm: TForm
     end
     object ScenesSYNOPSISHeading: TAlLabel
       Left = 430
-      Top = 29
+      Top = 24
       Width = 266
       Height = 12
       AutoSize = False
@@ -547,13 +608,13 @@ object CallSheetForm: TForm
     Left = 0
     Top = 282
     Width = 700
-    Height = 20
+    Height = 15
     Align = alTop
     BandType = alr_Detail
     ClipMode = cm_Expand
     object SceneField: TAlField
       Left = 6
-      Top = 3
+      Top = 1
       Width = 44
       Height = 14
       AutoSize = False
@@ -567,7 +628,7 @@ object CallSheetForm: TForm
     end
     object IEField: TAlField
       Left = 54
-      Top = 3
+      Top = 1
       Width = 30
       Height = 14
       AutoSize = False
@@ -581,7 +642,7 @@ object CallSheetForm: TForm
     end
     object SetField: TAlField
       Left = 88
-      Top = 3
+      Top = 1
       Width = 130
       Height = 14
       AutoSize = False
@@ -596,7 +657,7 @@ object CallSheetForm: TForm
     end
     object LocationField: TAlField
       Left = 222
-      Top = 3
+      Top = 1
       Width = 120
       Height = 14
       AutoSize = False
@@ -611,7 +672,7 @@ object CallSheetForm: TForm
     end
     object DNField: TAlField
       Left = 346
-      Top = 3
+      Top = 1
       Width = 32
       Height = 14
       AutoSize = False
@@ -625,7 +686,7 @@ object CallSheetForm: TForm
     end
     object PagesField: TAlField
       Left = 382
-      Top = 3
+      Top = 1
       Width = 44
       Height = 14
       AutoSize = False
@@ -639,7 +700,7 @@ object CallSheetForm: TForm
     end
     object SynopsisField: TAlField
       Left = 430
-      Top = 3
+      Top = 1
       Width = 266
       Height = 14
       AutoSize = False
@@ -654,7 +715,7 @@ object CallSheetForm: TForm
     end
     object ScenesRule: TAlShape
       Left = 0
-      Top = 19
+      Top = 14
       Width = 700
       Height = 1
       Brush.Color = $00C8C8C8
@@ -665,12 +726,12 @@ object CallSheetForm: TForm
     Left = 0
     Top = 302
     Width = 700
-    Height = 44
+    Height = 38
     Align = alTop
     BandType = alr_DetailHeader
     object CastTitle: TAlLabel
       Left = 0
-      Top = 8
+      Top = 6
       Width = 300
       Height = 15
       AutoSize = False
@@ -684,15 +745,15 @@ object CallSheetForm: TForm
     end
     object CastShade: TAlShape
       Left = 0
-      Top = 26
+      Top = 22
       Width = 700
-      Height = 17
+      Height = 15
       Brush.Color = $00E4E4E4
       Pen.Style = psClear
     end
     object CastCHARACTERHeading: TAlLabel
       Left = 6
-      Top = 29
+      Top = 24
       Width = 180
       Height = 12
       AutoSize = False
@@ -706,7 +767,7 @@ object CallSheetForm: TForm
     end
     object CastARTISTHeading: TAlLabel
       Left = 190
-      Top = 29
+      Top = 24
       Width = 170
       Height = 12
       AutoSize = False
@@ -720,7 +781,7 @@ object CallSheetForm: TForm
     end
     object CastMAKEUPHeading: TAlLabel
       Left = 364
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -734,7 +795,7 @@ object CallSheetForm: TForm
     end
     object CastCOSTUMEHeading: TAlLabel
       Left = 438
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -748,7 +809,7 @@ object CallSheetForm: TForm
     end
     object CastONSETHeading: TAlLabel
       Left = 512
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -762,7 +823,7 @@ object CallSheetForm: TForm
     end
     object CastTRANSPORTHeading: TAlLabel
       Left = 586
-      Top = 29
+      Top = 24
       Width = 110
       Height = 12
       AutoSize = False
@@ -779,13 +840,13 @@ object CallSheetForm: TForm
     Left = 0
     Top = 346
     Width = 700
-    Height = 20
+    Height = 15
     Align = alTop
     BandType = alr_Detail
     ClipMode = cm_Expand
     object ACharacterField: TAlField
       Left = 6
-      Top = 3
+      Top = 1
       Width = 180
       Height = 14
       AutoSize = False
@@ -800,7 +861,7 @@ object CallSheetForm: TForm
     end
     object ANameField: TAlField
       Left = 190
-      Top = 3
+      Top = 1
       Width = 170
       Height = 14
       AutoSize = False
@@ -815,7 +876,7 @@ object CallSheetForm: TForm
     end
     object AMakeupField: TAlField
       Left = 364
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -829,7 +890,7 @@ object CallSheetForm: TForm
     end
     object ACostumeField: TAlField
       Left = 438
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -843,7 +904,7 @@ object CallSheetForm: TForm
     end
     object AOnsetField: TAlField
       Left = 512
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -857,7 +918,7 @@ object CallSheetForm: TForm
     end
     object ATransportField: TAlField
       Left = 586
-      Top = 3
+      Top = 1
       Width = 110
       Height = 14
       AutoSize = False
@@ -872,7 +933,7 @@ object CallSheetForm: TForm
     end
     object CastRule: TAlShape
       Left = 0
-      Top = 19
+      Top = 14
       Width = 700
       Height = 1
       Brush.Color = $00C8C8C8
@@ -883,12 +944,12 @@ object CallSheetForm: TForm
     Left = 0
     Top = 366
     Width = 700
-    Height = 44
+    Height = 38
     Align = alTop
     BandType = alr_DetailHeader
     object ExtrasTitle: TAlLabel
       Left = 0
-      Top = 8
+      Top = 6
       Width = 300
       Height = 15
       AutoSize = False
@@ -902,15 +963,15 @@ object CallSheetForm: TForm
     end
     object ExtrasShade: TAlShape
       Left = 0
-      Top = 26
+      Top = 22
       Width = 700
-      Height = 17
+      Height = 15
       Brush.Color = $00E4E4E4
       Pen.Style = psClear
     end
     object ExtrasEXTRASHeading: TAlLabel
       Left = 6
-      Top = 29
+      Top = 24
       Width = 230
       Height = 12
       AutoSize = False
@@ -924,7 +985,7 @@ object CallSheetForm: TForm
     end
     object ExtrasCALLHeading: TAlLabel
       Left = 240
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -938,7 +999,7 @@ object CallSheetForm: TForm
     end
     object ExtrasOTHERHeading: TAlLabel
       Left = 360
-      Top = 29
+      Top = 24
       Width = 110
       Height = 12
       AutoSize = False
@@ -952,7 +1013,7 @@ object CallSheetForm: TForm
     end
     object ExtrasDESCRIPTIONHeading: TAlLabel
       Left = 474
-      Top = 29
+      Top = 24
       Width = 222
       Height = 12
       AutoSize = False
@@ -969,13 +1030,13 @@ object CallSheetForm: TForm
     Left = 0
     Top = 410
     Width = 700
-    Height = 20
+    Height = 15
     Align = alTop
     BandType = alr_Detail
     ClipMode = cm_Expand
     object ExtraField: TAlField
       Left = 6
-      Top = 3
+      Top = 1
       Width = 230
       Height = 14
       AutoSize = False
@@ -990,7 +1051,7 @@ object CallSheetForm: TForm
     end
     object ExtraCallField: TAlField
       Left = 240
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -1004,7 +1065,7 @@ object CallSheetForm: TForm
     end
     object OtherField: TAlField
       Left = 360
-      Top = 3
+      Top = 1
       Width = 110
       Height = 14
       AutoSize = False
@@ -1018,7 +1079,7 @@ object CallSheetForm: TForm
     end
     object OtherDescriptionField: TAlField
       Left = 474
-      Top = 3
+      Top = 1
       Width = 222
       Height = 14
       AutoSize = False
@@ -1033,7 +1094,7 @@ object CallSheetForm: TForm
     end
     object ExtrasRule: TAlShape
       Left = 0
-      Top = 19
+      Top = 14
       Width = 700
       Height = 1
       Brush.Color = $00C8C8C8
@@ -1044,12 +1105,12 @@ object CallSheetForm: TForm
     Left = 0
     Top = 430
     Width = 700
-    Height = 44
+    Height = 38
     Align = alTop
     BandType = alr_DetailHeader
     object CrewTitle: TAlLabel
       Left = 0
-      Top = 8
+      Top = 6
       Width = 300
       Height = 15
       AutoSize = False
@@ -1063,15 +1124,15 @@ object CallSheetForm: TForm
     end
     object CrewShade: TAlShape
       Left = 0
-      Top = 26
+      Top = 22
       Width = 700
-      Height = 17
+      Height = 15
       Brush.Color = $00E4E4E4
       Pen.Style = psClear
     end
     object CrewCREWHeading: TAlLabel
       Left = 6
-      Top = 29
+      Top = 24
       Width = 260
       Height = 12
       AutoSize = False
@@ -1085,7 +1146,7 @@ object CallSheetForm: TForm
     end
     object CrewCALLHeading: TAlLabel
       Left = 270
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -1099,7 +1160,7 @@ object CallSheetForm: TForm
     end
     object CrewCREWHeading: TAlLabel
       Left = 360
-      Top = 29
+      Top = 24
       Width = 260
       Height = 12
       AutoSize = False
@@ -1113,7 +1174,7 @@ object CallSheetForm: TForm
     end
     object CrewCALLHeading: TAlLabel
       Left = 624
-      Top = 29
+      Top = 24
       Width = 70
       Height = 12
       AutoSize = False
@@ -1130,13 +1191,13 @@ object CallSheetForm: TForm
     Left = 0
     Top = 474
     Width = 700
-    Height = 20
+    Height = 15
     Align = alTop
     BandType = alr_Detail
     ClipMode = cm_Expand
     object CrewField1: TAlField
       Left = 6
-      Top = 3
+      Top = 1
       Width = 260
       Height = 14
       AutoSize = False
@@ -1151,7 +1212,7 @@ object CallSheetForm: TForm
     end
     object CrewCallField1: TAlField
       Left = 270
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -1165,7 +1226,7 @@ object CallSheetForm: TForm
     end
     object CrewField2: TAlField
       Left = 360
-      Top = 3
+      Top = 1
       Width = 260
       Height = 14
       AutoSize = False
@@ -1180,7 +1241,7 @@ object CallSheetForm: TForm
     end
     object CrewCallField2: TAlField
       Left = 624
-      Top = 3
+      Top = 1
       Width = 70
       Height = 14
       AutoSize = False
@@ -1194,7 +1255,211 @@ object CallSheetForm: TForm
     end
     object CrewRule: TAlShape
       Left = 0
-      Top = 19
+      Top = 14
+      Width = 700
+      Height = 1
+      Brush.Color = $00C8C8C8
+      Pen.Style = psClear
+    end
+  end
+  object AdvanceHeader: tAlBand
+    Left = 0
+    Top = 495
+    Width = 700
+    Height = 38
+    Align = alTop
+    BandType = alr_DetailHeader
+    object AdvanceTitle: TAlLabel
+      Left = 0
+      Top = 6
+      Width = 160
+      Height = 15
+      AutoSize = False
+      Caption = 'Advance schedule'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -12
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvanceDayField: TAlField
+      Left = 160
+      Top = 7
+      Width = 534
+      Height = 14
+      Alignment = taRightJustify
+      AutoSize = False
+      Caption = 'AdvanceDayField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvanceShade: TAlShape
+      Left = 0
+      Top = 22
+      Width = 700
+      Height = 15
+      Brush.Color = $00E4E4E4
+      Pen.Style = psClear
+    end
+    object AdvanceSCENEHeading: TAlLabel
+      Left = 6
+      Top = 24
+      Width = 50
+      Height = 12
+      AutoSize = False
+      Caption = 'SCENE'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvanceSETHeading: TAlLabel
+      Left = 60
+      Top = 24
+      Width = 300
+      Height = 12
+      AutoSize = False
+      Caption = 'SET'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvanceDNHeading: TAlLabel
+      Left = 366
+      Top = 24
+      Width = 40
+      Height = 12
+      AutoSize = False
+      Caption = 'D/N'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvancePAGESHeading: TAlLabel
+      Left = 410
+      Top = 24
+      Width = 50
+      Height = 12
+      AutoSize = False
+      Caption = 'PAGES'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvanceCASTHeading: TAlLabel
+      Left = 466
+      Top = 24
+      Width = 228
+      Height = 12
+      AutoSize = False
+      Caption = 'CAST'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = $00555555
+      Font.Height = -9
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+  end
+  object AdvanceBand: tAlBand
+    Left = 0
+    Top = 540
+    Width = 700
+    Height = 15
+    Align = alTop
+    BandType = alr_Detail
+    ClipMode = cm_Expand
+    object AdvSceneField: TAlField
+      Left = 6
+      Top = 1
+      Width = 46
+      Height = 14
+      AutoSize = False
+      Caption = 'AdvSceneField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = [fsBold]
+      ParentFont = False
+    end
+    object AdvSetField: TAlField
+      Left = 60
+      Top = 1
+      Width = 296
+      Height = 14
+      AutoSize = False
+      Caption = 'AdvSetField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object AdvDNField: TAlField
+      Left = 366
+      Top = 1
+      Width = 36
+      Height = 14
+      AutoSize = False
+      Caption = 'AdvDNField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object AdvPagesField: TAlField
+      Left = 410
+      Top = 1
+      Width = 46
+      Height = 14
+      AutoSize = False
+      Caption = 'AdvPagesField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+    end
+    object AdvCastField: TAlField
+      Left = 466
+      Top = 1
+      Width = 228
+      Height = 14
+      AutoSize = False
+      Caption = 'AdvCastField'
+      Font.Charset = DEFAULT_CHARSET
+      Font.Color = clBlack
+      Font.Height = -11
+      Font.Name = 'Arial'
+      Font.Style = []
+      ParentFont = False
+      WordWrap = True
+    end
+    object AdvanceRule: TAlShape
+      Left = 0
+      Top = 14
       Width = 700
       Height = 1
       Brush.Color = $00C8C8C8
@@ -1203,15 +1468,15 @@ object CallSheetForm: TForm
   end
   object NotesBand: tAlBand
     Left = 0
-    Top = 494
+    Top = 561
     Width = 700
-    Height = 48
+    Height = 72
     Align = alTop
     BandType = alr_ReportFooter
     ClipMode = cm_Expand
     object NotesTitle: TAlLabel
       Left = 0
-      Top = 10
+      Top = 6
       Width = 300
       Height = 15
       AutoSize = False
@@ -1225,7 +1490,7 @@ object CallSheetForm: TForm
     end
     object NotesRule: TAlShape
       Left = 0
-      Top = 27
+      Top = 22
       Width = 700
       Height = 1
       Brush.Color = $00000000
@@ -1233,9 +1498,9 @@ object CallSheetForm: TForm
     end
     object NotesField: TAlField
       Left = 6
-      Top = 32
+      Top = 26
       Width = 688
-      Height = 14
+      Height = 44
       AutoSize = False
       Caption = 'NotesField'
       Font.Charset = DEFAULT_CHARSET
@@ -1249,7 +1514,7 @@ object CallSheetForm: TForm
   end
   object PageFooterBand: tAlBand
     Left = 0
-    Top = 542
+    Top = 609
     Width = 700
     Height = 52
     Align = alTop

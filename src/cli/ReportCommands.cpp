@@ -1,16 +1,21 @@
-// The report command: a schedule's reports as PDF files.
+// The report commands: a schedule's reports and call sheets as PDF files, and template checks.
 
 #include "CliCommand.h"
 
 #include "board/BoardStyle.h"
+#include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
+#include "reports/CallSheet.h"
+#include "reports/CallSheetFile.h"
 #include "reports/DayOutOfDays.h"
 #include "reports/DayOutOfDaysPrint.h"
 #include "reports/ReportBuilders.h"
 #include "reports/ReportOutput.h"
 #include "reports/TemplateFields.h"
+#include "scheduling/Calendar.h"
 
+#include <QDate>
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
@@ -194,6 +199,95 @@ int runReport(CliContext &ctx, const CliCommand &self, const QStringList &args)
     return ExitOk;
 }
 
+int runCallSheet(CliContext &ctx, const CliCommand &self, const QStringList &args)
+{
+    ArgParser parser;
+    parser.valueOption(QStringLiteral("-o"))
+        .valueOption(QStringLiteral("--date"))
+        .valueOption(QStringLiteral("--weather"))
+        .valueOption(QStringLiteral("--paper"))
+        .valueOption(QStringLiteral("--save-sheet"))
+        .valueOption(QStringLiteral("--sheet"))
+        .flag(QStringLiteral("--trace"));
+    QString error;
+    if (!parser.parse(args, &error))
+        return UsageError(ctx, self, error);
+    if (parser.positional().size() != 1 || !parser.has(QStringLiteral("-o")))
+        return UsageError(ctx, self, QStringLiteral("expected an input file and -o OUT.pdf"));
+    const bool fromSheet = parser.has(QStringLiteral("--sheet"));
+    if (fromSheet == parser.has(QStringLiteral("--date")))
+        return UsageError(ctx, self,
+                          QStringLiteral("give either --date YYYY-MM-DD or --sheet IN.tbs (which has its own date)"));
+    QDate date;
+    if (!fromSheet) {
+        date = QDate::fromString(parser.value(QStringLiteral("--date")), Qt::ISODate);
+        if (!date.isValid())
+            return UsageError(ctx, self,
+                              QStringLiteral("--date needs a date as YYYY-MM-DD, not \"%1\"")
+                                  .arg(parser.value(QStringLiteral("--date"))));
+    }
+    std::optional<tPapersize> paper;
+    if (parser.has(QStringLiteral("--paper"))) {
+        const QString name = parser.value(QStringLiteral("--paper")).toLower();
+        if (name == QLatin1String("a4"))
+            paper = tPapersize::alr_A4;
+        else if (name == QLatin1String("letter"))
+            paper = tPapersize::alr_Letter;
+        else
+            return UsageError(ctx, self, QStringLiteral("--paper is a4 or letter"));
+    }
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, parser.positional().at(0)))
+        return ExitUserError;
+    if (!HasStartDate(doc)) {
+        ctx.err << CallSheetNeedsStartText << Qt::endl;
+        return ExitUserError;
+    }
+
+    // The sheet as the dialog fills it on show, for the date asked (or the saved sheet's).
+    double serial = legacy::DateToSerial(date);
+    if (fromSheet) {
+        ResultOf<double> saved = CallSheetFileDate(parser.value(QStringLiteral("--sheet")));
+        if (!saved) {
+            ctx.err << saved.message() << Qt::endl;
+            return ExitUserError;
+        }
+        serial = *saved;
+    }
+    CallSheet sheet;
+    FillCallSheet(doc, sheet, serial);
+    sheet.weather = parser.value(QStringLiteral("--weather"));
+    if (fromSheet) {
+        Result read = ReadCallSheetFile(sheet, parser.value(QStringLiteral("--sheet")));
+        if (!read) {
+            ctx.err << read.message() << Qt::endl;
+            return ExitUserError;
+        }
+    }
+    if (parser.has(QStringLiteral("--save-sheet"))) {
+        Result saved = WriteCallSheetFile(sheet, parser.value(QStringLiteral("--save-sheet")));
+        if (!saved) {
+            ctx.err << saved.message() << Qt::endl;
+            return ExitUserError;
+        }
+    }
+
+    ReportBuildContext context;
+    if (parser.has(QStringLiteral("--trace")))
+        context.trace = [&ctx](const QString &line) { ctx.out << oneLine(line) << '\n'; };
+    ResultOf<BuiltReport> built = CreateCallSheetPages(doc, sheet, context);
+    if (!built)
+        return ExitUserError; // the prompter has shown the message
+    Result written = WriteReportPdf(built->report(), parser.value(QStringLiteral("-o")), paper);
+    if (!written) {
+        ctx.err << written.message() << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
 int runCheckTemplate(CliContext &ctx, const CliCommand &self, const QStringList &args)
 {
     ArgParser parser;
@@ -340,6 +434,23 @@ void AddReportCommands(CommandList &commands)
                        "into the template, one line each.")};
     report.run = [report](CliContext &ctx, const QStringList &args) { return runReport(ctx, report, args); };
     commands.append(report);
+
+    CliCommand callSheet{
+        QStringLiteral("callsheet"),
+        QStringLiteral("callsheet IN (--date YYYY-MM-DD | --sheet IN.tbs) -o OUT.pdf [--weather TEXT] [--trace] "
+                       "[--paper a4|letter] [--save-sheet OUT.tbs]"),
+        QStringLiteral("Write the call sheet of a day as PDF, filled as the call sheet dialog fills it for that "
+                       "date."),
+        {}};
+    callSheet.details = QStringLiteral(
+        "--weather fills the weather line. --save-sheet also writes the call sheet file of the sheet; --sheet "
+        "prints a saved call sheet file instead, read into the sheet filled for the file's own date. --trace "
+        "prints every value pushed into the template, one line each.");
+    callSheet.run = [callSheet](CliContext &ctx, const QStringList &args) {
+        return runCallSheet(ctx, callSheet, args);
+    };
+    commands.append(callSheet);
+
     CliCommand check{
         QStringLiteral("check-template"),
         QStringLiteral("check-template FILE [--report schedule|oneline|breakdown|elements]"),

@@ -6,6 +6,7 @@
 #include "scheduling/Banners.h"
 #include "scheduling/Calendar.h"
 #include "scheduling/DayDividers.h"
+#include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
 
 #include <QDate>
@@ -160,6 +161,38 @@ Change LockChange(const ArgParser &parser, QString *error)
     };
 }
 
+Change EndOfDayChange(const ArgParser &parser, QString *error)
+{
+    if (!parser.has(QStringLiteral("--date")) || !parser.has(QStringLiteral("--shot"))) {
+        *error = QStringLiteral("--date YYYY-MM-DD and --shot SCENE,... are required");
+        return {};
+    }
+    const QDate date = DateOption(parser, QStringLiteral("--date"), error);
+    QStringList shot;
+    for (const QString &scene : parser.value(QStringLiteral("--shot")).split(u',', Qt::SkipEmptyParts))
+        shot.append(scene.trimmed());
+    return [date, shot](ScheduleDocument &doc) -> Result {
+        if (!HasStartDate(doc))
+            return Result::failure(QStringLiteral("The schedule has no start date, so no scene falls on a date."));
+        const QList<int> rows = SceneStripsOn(doc, date);
+        QList<EndOfDayMark> marks;
+        QStringList found;
+        for (int row : rows) {
+            const QString &scene = doc.strips[row][StripField::SceneNumber];
+            const bool isShot = shot.contains(scene);
+            if (isShot)
+                found.append(scene);
+            marks.append({row, isShot});
+        }
+        for (const QString &scene : shot) {
+            if (!found.contains(scene))
+                return Result::failure(
+                    QStringLiteral("Scene %1 is not scheduled on %2.").arg(scene, date.toString(Qt::ISODate)));
+        }
+        return ApplyEndOfDay(doc, date, marks);
+    };
+}
+
 } // namespace
 
 void AddSchedulingCommands(CommandList &commands)
@@ -254,6 +287,13 @@ void AddSchedulingCommands(CommandList &commands)
             const int days = IntOption(parser, QStringLiteral("--days"), 0, error);
             return [days](ScheduleDocument &doc) { return SetHoldDays(doc, days); };
         });
+    Add(
+        commands, QStringLiteral("end-of-day"),
+        QStringLiteral("end-of-day IN -o OUT --date YYYY-MM-DD --shot SCENE,..."),
+        QStringLiteral("Mark scenes shot as End of day does: of the scenes scheduled on the date, those listed "
+                       "are marked shot and the others not shot (--shot \"\" marks none)."),
+        [] { return ArgParser().valueOption(QStringLiteral("--date")).valueOption(QStringLiteral("--shot")); },
+        EndOfDayChange);
 }
 
 } // namespace tb::cli

@@ -40,9 +40,8 @@ namespace {
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
 const QString ImportData = QStringLiteral(TB_IMPORT_DATA);
 
-// Entries of the reports that come with the call sheet, the day out of days and the
-// board printing: no subsystem serves them yet.
-const QStringList Unserved = {"Callsheet1"};
+// Every report entry is served now.
+const QStringList Unserved = {};
 
 struct Program
 {
@@ -143,6 +142,19 @@ private Q_SLOTS:
         QCOMPARE(p.main->findChildren<TfrmFDImport *>().size(), 1);
     }
 
+    void callSheetAsksForAStartDateFirst()
+    {
+        Program p;
+        QVERIFY(p.start());
+        QVERIFY(OpenDocument(p.doc, Example).ok());
+        p.doc.values.StartDate.clear();
+        // The start date dialog comes first; cancelled, the call sheet does not open.
+        QCOMPARE(p.dialogOf([&] { p.trigger("Callsheet1"); }), "Start date");
+        QCOMPARE(p.prompter.texts(),
+                 QStringList{"You need to enter a production start date before you can print call sheets."});
+        QVERIFY(!p.main->findChild<QDialog *>("TfrmCallSheet")->isVisible());
+    }
+
     void entriesOpenTheirDialogs_data()
     {
         QTest::addColumn<QString>("entry");
@@ -185,6 +197,10 @@ private Q_SLOTS:
                                           << "breakdown-sheets.html";
         QTest::newRow("element summary") << "Elementsummary1" << 1 << "Print element summary"
                                          << "element-summary.html";
+        QTest::newRow("call sheet") << "Callsheet1" << 1 << "Print Call Sheet"
+                                    << "call-sheet.html";
+        QTest::newRow("end of day") << "Endofday1" << 1 << "End of day"
+                                    << "end-of-day.html";
         QTest::newRow("day out of days") << "Dayoutofdays1" << 1 << "Day out of days"
                                          << "day-out-of-days.html";
         QTest::newRow("production board") << "Productionboard1" << 1 << "Print production board"

@@ -191,6 +191,13 @@ void TestCli::usageErrors_data()
         "--sheets is for breakdown");
     Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
         "--sheets takes breakdown sheet numbers");
+    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+        "give either --date YYYY-MM-DD or --sheet");
+    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+        "--date needs a date as YYYY-MM-DD");
+    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+        "--date YYYY-MM-DD and --shot SCENE,... are required");
 
     Row("dood wrong type", L{"dood", "EX", "-o", "x.txt"}, "the output must end in .csv or .pdf");
     Row("dood colour without a pdf", L{"dood", "EX", "--color"}, "--color is for a .pdf output");
@@ -246,6 +253,11 @@ void TestCli::refusedWritesNothing_data()
         "There is no category 16: categories are numbered 1 to 15.");
     Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
         "This file cannot be opened by Torvanbridge");
+    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+        "You need to enter a production start date before you can print call sheets.");
+    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
+    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+        "Scene 11 is not scheduled on 2027-04-06.");
     Row("dood of an unknown category", L{"dood", "EX", "--category", "16"},
         "There is no category 16: categories are numbered 1 to 15.");
     Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
@@ -262,7 +274,7 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const bool pdf = first == "report" || first == "dood" || first == "print-board";
+    const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
     const QString out = rowOutput(first == "board"    ? ".png"
                                   : pdf               ? ".pdf"
                                   : first == "export" ? ".csv"

@@ -591,6 +591,19 @@ BoardDrawResult DrawBoard(ScheduleDocument &doc, const BoardStyle &style, const 
                         if (overflows)
                             c.setFont(stripFont);
                     }
+                    // A scene marked shot at the end of its day: a small corner turned
+                    // down at the top right of its header.
+                    if (!strip[StripField::Reserved12].isEmpty()) {
+                        const int t = std::max(3, stripW / 3);
+                        const int xr = x + stripW - 1;
+                        const int yt = top + 1;
+                        const QPoint corner[3] = {QPoint(xr - t, yt), QPoint(xr, yt), QPoint(xr, yt + t)};
+                        canvas.save();
+                        canvas.setPen(Qt::NoPen);
+                        canvas.setBrush(headFore);
+                        canvas.drawPolygon(corner, 3);
+                        canvas.restore();
+                    }
                 } else if (!strip.isDayDivider() && !strip.isAutoRestDay() && !strip.isBanner()) {
                     c.setFont(stripFont);
                     c.textOut(x + m, m + rowH, QStringLiteral("??"), headFore, headBack);

@@ -2,6 +2,9 @@
 
 #include "ui/scheduling/SchedulingDialog.h"
 
+#include <QDate>
+
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -10,8 +13,10 @@ class TfrmEOD;
 
 namespace tb {
 
-// "&End of day...": a list for the scenes completed today. It is kept in the form the
-// program has always had: nothing fills the list, and both buttons only close it.
+// "&End of day...": the scene strips of a shooting day (today unless another day is
+// picked) with a check box each. OK marks the ticked scenes shot and the others not
+// shot, as one undoable edit. (The earlier edition showed an empty list here and
+// stored nothing.)
 class TfrmEOD : public SchedulingDialog
 {
     Q_OBJECT
@@ -20,7 +25,18 @@ public:
     explicit TfrmEOD(ScheduleDocument &doc, QWidget *parent = nullptr);
     ~TfrmEOD() override;
 
+    Ui::TfrmEOD &form() { return *ui; }
+    // The day offered when the dialog opens; today unless a test says otherwise.
+    std::function<QDate()> today = [] { return QDate::currentDate(); };
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
+    void FormShow();
+    void FillList();
+    void OKButClick();
+
     std::unique_ptr<Ui::TfrmEOD> ui;
 };
 

@@ -1,6 +1,8 @@
 #include "SchedulingTestView.h"
 
 #include "document/DocumentOperations.h"
+#include "document/LegacyText.h"
+#include "scheduling/EndOfDay.h"
 #include "ui/scheduling/TfrmAutoPages.h"
 #include "ui/scheduling/TfrmBanner.h"
 #include "ui/scheduling/TfrmCalender.h"
@@ -17,6 +19,7 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -69,6 +72,7 @@ private Q_SLOTS:
     void holdDays();
     void lock();
     void inertDialogs();
+    void endOfDay();
 };
 
 void TestSchedulingDialogs::autoPages()
@@ -361,15 +365,42 @@ void TestSchedulingDialogs::inertDialogs()
     QVERIFY(dates.isVisible()); // does nothing
     child<QPushButton>(&dates, "Button2")->click();
     QVERIFY(!dates.isVisible());
+}
 
+void TestSchedulingDialogs::endOfDay()
+{
+    const QDate start(2027, 4, 5);
+    ScheduleDocument doc;
+    doc.values.StartDate = legacy::FloatToText(legacy::DateToSerial(start));
+    Build(doc, {"1", "1", "|", "1"});
+    doc.strips[2].set(StripField::Reserved12, "46482");
+    ClearModified(doc);
     TfrmEOD eod(doc);
+    eod.today = [start] { return start; };
     eod.show();
     QCOMPARE(eod.windowTitle(), "End of day");
     QCOMPARE(child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
+    auto *list = child<QListWidget>(&eod, "CheckListBox1");
+    auto *picker = child<QDateEdit>(&eod, "DatePicker");
+    QCOMPARE(picker->date(), start);
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->item(1)->checkState(), Qt::Checked); // already marked
+    picker->setDate(start.addDays(1));                  // another day lists its own scenes
+    QCOMPARE(list->count(), 1);
+    picker->setDate(start);
+
+    list->item(0)->setCheckState(Qt::Checked);
+    list->item(1)->setCheckState(Qt::Unchecked);
+    child<QPushButton>(&eod, "CancelBut")->click();
+    QVERIFY(!doc.Modified);
+    eod.show();
+    list->item(0)->setCheckState(Qt::Checked);
+    list->item(1)->setCheckState(Qt::Unchecked);
     child<QPushButton>(&eod, "OKBut")->click();
     QVERIFY(!eod.isVisible());
-    QCOMPARE(eod.result(), int(QDialog::Accepted));
-    QVERIFY(!doc.Modified);
+    QCOMPARE(ShotDate(doc.strips[1]), start);
+    QVERIFY(!IsShot(doc.strips[2]));
+    QCOMPARE(doc.undoCaption, "Undo end of day");
 }
 
 TB_TEST_MAIN(TestSchedulingDialogs)
