@@ -275,10 +275,7 @@ void TestCli::refusedWritesNothing()
     QFETCH(QString, message);
     const QString first = args.value(0);
     const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
-    const QString out = rowOutput(first == "board"    ? ".png"
-                                  : pdf               ? ".pdf"
-                                  : first == "export" ? ".csv"
-                                                      : ".tbf");
+    const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : first == "export" ? ".csv" : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
