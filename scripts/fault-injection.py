@@ -89,8 +89,8 @@ FAULTS = [
      "moving strips corrects the wrong direction for removed rows"),
     # ---- Import: script and Final Draft reports
     ("ScriptImport.cpp",
-     "QString::number(m_sceneNumber++)",
-     "QString::number(++m_sceneNumber)",
+     "scene.sceneNumber = QString::number(m_strips.lastScene() + 1);",
+     "scene.sceneNumber = QString::number(m_strips.lastScene() + 2);",
      "imported scene numbers start at 2"),
     ("ScriptImport.cpp",
      "if (pages < 0.125)\n        pages = 0.125;",

@@ -2,6 +2,7 @@
 
 #include "app/TfrmAbout.h"
 #include "document/Clipboard.h"
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
@@ -471,8 +472,9 @@ void TfrmMain::updateCommands(const ScheduleDocument &doc)
         enableIf(name, true);
 
     // Undo and Redo as the undo store left them.
-    enableIf(Undo1, doc.undoEnabled);
-    enableIf(Redo1, doc.redoEnabled);
+    const UndoCommandState undo = UndoCommands(doc.undo);
+    enableIf(Undo1, undo.undoEnabled);
+    enableIf(Redo1, undo.redoEnabled);
 
     // The selection: a run of strips or one element.
     for (const char *name : {Cut1, Copy1, Delete1, PopCut1, PopCopy1, PopDelete1})
@@ -524,6 +526,30 @@ void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, boo
 
 // ---- The document's view ----------------------------------------------------------
 
+void TfrmMain::documentChanged(const ScheduleDocument &doc, const DocumentChange &change)
+{
+    // The scroll bars follow the strip and element counts, then the board goes where
+    // the change asks.
+    m_board->SetScrolls();
+    if (change.scrollPositions)
+        m_board->setScrollPositions(change.scrollPositions->first, change.scrollPositions->second);
+    else if (change.firstStrip)
+        m_board->scrollToStrip(*change.firstStrip);
+    if (!change.boardOnly) {
+        // The entries keep their first captions ("&Undo") until the store changes.
+        const UndoCommandState undo = UndoCommands(doc.undo);
+        if (undo != m_undoShown) {
+            m_undoShown = undo;
+            setUndoCommands(undo.undoEnabled, undo.undoCaption, undo.redoEnabled, undo.redoCaption);
+        }
+        // UpdateCommandsAndStatus: the commands for the state and the selection, and
+        // the selected scenes' pages in panel 1.
+        updateCommands(doc);
+        doc.status().setPanelText(StatusSink::PagesPanel, SelectedPagesText(doc));
+    }
+    m_board->repaintBoard();
+}
+
 void TfrmMain::setTitle(const QString &title)
 {
     setWindowTitle(title);
@@ -532,16 +558,6 @@ void TfrmMain::setTitle(const QString &title)
 void TfrmMain::repaintBoard()
 {
     m_board->repaintBoard();
-}
-
-void TfrmMain::setScrolls()
-{
-    m_board->SetScrolls();
-}
-
-void TfrmMain::scrollToStrip(int row)
-{
-    m_board->scrollToStrip(row);
 }
 
 void TfrmMain::resetBoard()
@@ -564,6 +580,11 @@ void TfrmMain::addRecentFile(const QString &path)
     m_recent->add(path);
 }
 
+void TfrmMain::restartAutosave()
+{
+    setAutosaveInterval(m_settings.autosaveMinutes * 60000);
+}
+
 void TfrmMain::setAutosaveInterval(int milliseconds)
 {
     if (milliseconds <= 0) {
@@ -583,11 +604,6 @@ int TfrmMain::verticalScroll() const
     return m_board->verticalScroll();
 }
 
-void TfrmMain::setScrollPositions(int horizontal, int vertical)
-{
-    m_board->setScrollPositions(horizontal, vertical);
-}
-
 // ---- Start-up and closing ----------------------------------------------------------
 
 void TfrmMain::showEvent(QShowEvent *event)
@@ -603,7 +619,6 @@ void TfrmMain::showEvent(QShowEvent *event)
 
 void TfrmMain::applySettings()
 {
-    m_doc.autosaveMinutes = m_settings.autosaveMinutes;
     m_board->setStyle(StyleFromSettings(m_settings));
     // New banners and converted rest days take the "Banner" colour pair.
     if (SchedulingCommands *scheduling = FindSchedulingCommands(*this))

@@ -2,6 +2,7 @@
 
 #include "document/DocumentView.h"
 #include "document/ShellCommands.h"
+#include "document/UndoStore.h"
 #include "ui/shell/CommandHost.h"
 
 #include <QHash>
@@ -55,19 +56,23 @@ public:
     void showHelp(const QString &page) override;
 
     // ---- DocumentView
+    // After every edit: scroll bars, scrolling, Undo and Redo, the commands and the
+    // selected pages (UpdateCommandsAndStatus), then the board repaints.
+    void documentChanged(const ScheduleDocument &doc, const DocumentChange &change) override;
     void setTitle(const QString &title) override;
-    void updateCommands(const ScheduleDocument &doc) override;
-    void setScrolls() override;
-    void scrollToStrip(int row) override;
     void resetBoard() override;
+    void restartAutosave() override;
     void zoomChanged(double zoom) override;
     void addRecentFile(const QString &path) override;
-    void setAutosaveInterval(int milliseconds) override;
     int horizontalScroll() const override;
     int verticalScroll() const override;
-    void setScrollPositions(int horizontal, int vertical) override;
-    void setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled,
-                         const QString &redoCaption) override;
+
+    // Enables menu entries and tool buttons for the document's state and selection.
+    void updateCommands(const ScheduleDocument &doc);
+    // The autosave interval in milliseconds (0 = never), restarted now.
+    void setAutosaveInterval(int milliseconds);
+    // The Undo and Redo entries: enabled state and caption ("Undo add new scene").
+    void setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled, const QString &redoCaption);
 
     // ---- The window's parts
     BoardView *board() const { return m_board; }
@@ -163,6 +168,8 @@ private:
     QActionGroup *m_zoomGroup = nullptr;
     QList<QAction *> m_zoomItems;
     QTimer m_autosaveTimer;
+    // The Undo and Redo entries as last shown.
+    UndoCommandState m_undoShown = UndoCommands(UndoStack());
 
     QHash<QString, QAction *> m_actions;
     QSet<const QAction *> m_served;

@@ -221,7 +221,6 @@ int runAddScene(CliContext &ctx, const CliCommand &self, const QStringList &args
                                            .arg(doc.elements.count()));
             flags[number] = true;
         }
-        doc.stripEditMode = SceneMode::Add;
         const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, flags);
         if (!row)
             return Result::failure(QStringLiteral("The scene was not added; nothing was written."));

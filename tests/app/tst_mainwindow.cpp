@@ -618,7 +618,7 @@ private slots:
         QVERIFY(!h.entry(actions::Paste1)->isEnabled()); // the cut cleared the selection
 
         h.doc.SelStart = h.doc.SelEnd = 1;
-        UpdateCommandsAndStatus(h.doc);
+        h.main->documentChanged(h.doc, {});
         h.entry(actions::PopPaste1)->trigger();
         QCOMPARE(h.doc.strips[1][StripField::SceneNumber], "2");
         h.entry(actions::Undo1)->trigger();
@@ -707,7 +707,6 @@ private slots:
         QVERIFY(seen);
         QCOMPARE(h.main->autosaveTimer().interval(), 2 * 60000);
         QVERIFY(h.main->autosaveTimer().isActive());
-        QCOMPARE(h.doc.autosaveMinutes, 2);
         QCOMPARE(h.settings.descLine1, 19);
         const BoardStyle &style = h.main->board()->style();
         QCOMPARE(style.DescLine1, 19);

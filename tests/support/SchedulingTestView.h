@@ -11,17 +11,22 @@
 
 namespace tb::test {
 
-// Records the scrolling and repainting that the scheduling commands ask of the board,
-// with the selection as it stood at each repaint.
+// Records what the scheduling commands tell the views: every scroll wish, the
+// selection as it stood at each notification, and the command updates.
 class SchedulingTestView : public DocumentView
 {
 public:
     explicit SchedulingTestView(const ScheduleDocument &doc)
         : m_doc(doc)
     {}
-    void scrollToStrip(int row) override { scrolls.append(row); }
-    void repaintBoard() override { selectionAtRepaint.append(m_doc.SelStart); }
-    void updateCommands(const ScheduleDocument &) override { ++commandUpdates; }
+    void documentChanged(const ScheduleDocument &, const DocumentChange &change) override
+    {
+        if (change.firstStrip)
+            scrolls.append(*change.firstStrip);
+        selectionAtRepaint.append(m_doc.SelStart);
+        if (!change.boardOnly)
+            ++commandUpdates;
+    }
 
     QList<int> scrolls;
     QList<int> selectionAtRepaint;

@@ -57,12 +57,12 @@ public:
     void setTitle(const QString &t) override { title = t; }
     void addRecentFile(const QString &path) override { recent.append(path); }
     void zoomChanged(double z) override { zoom = z; }
-    void setAutosaveInterval(int ms) override { autosaveMs = ms; }
+    void restartAutosave() override { ++autosaveRestarts; }
 
     QString title;
     QStringList recent;
     double zoom = 0;
-    int autosaveMs = -1;
+    int autosaveRestarts = 0;
 };
 
 // Building blocks for documents in tests. Each appends one row and returns its number.

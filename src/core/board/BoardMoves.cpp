@@ -1,8 +1,8 @@
 #include "board/BoardMoves.h"
 
 #include "document/Clipboard.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
-#include "document/UndoStore.h"
 
 #include <QList>
 
@@ -33,7 +33,7 @@ bool MoveStrips(ScheduleDocument &doc, int target)
 
     const int first = doc.SelStart;
     const int moved = qMin(doc.SelEnd - doc.SelStart + 1, MaxStripsMoved);
-    TakeUndoSnapshot(doc, doc.SelEnd > doc.SelStart ? QStringLiteral("Move strips") : QStringLiteral("Move strip"));
+    DocumentEdit edit(doc, doc.SelEnd > doc.SelStart ? QStringLiteral("Move strips") : QStringLiteral("Move strip"));
 
     QList<StripRecord> aside;
     aside.reserve(moved);
@@ -52,7 +52,6 @@ bool MoveStrips(ScheduleDocument &doc, int target)
 
     doc.SelStart = target;
     doc.SelEnd = target + moved - 1;
-    SetModified(doc);
     return true;
 }
 

@@ -1,9 +1,9 @@
 #include "breakdown/ElementEditing.h"
 
 #include "document/AssignmentList.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-#include "document/UndoStore.h"
 
 #include <algorithm>
 
@@ -149,7 +149,6 @@ ResultOf<int> RecordElement(ScheduleDocument &doc, int editIndex, const ElementP
         }
     }
 
-    doc.view().repaintBoard();
     doc.status().keepAlive();
     SetModified(doc);
     return row;
@@ -162,14 +161,13 @@ bool ResetCastNumbering(ScheduleDocument &doc)
                            "This will only alter the numbers used to represent each cast element on the "
                            "board.\r\rAre you sure you wish to proceed?")))
         return false;
-    // The snapshot marks the document modified; board IDs feed no derived value.
-    TakeUndoSnapshot(doc, QStringLiteral("re-order elements"));
+    // Board IDs feed no derived value; the edit marks the document modified all the same.
+    DocumentEdit edit(doc, QStringLiteral("re-order elements"));
     int n = 0;
     for (int i = 1; i <= doc.elements.count(); ++i) {
         if (doc.elements[i][ElementField::CategoryNumber] == CastCategoryText)
             doc.elements[i].set(ElementField::BoardId, QString::number(++n));
     }
-    doc.view().repaintBoard();
     return true;
 }
 
@@ -216,10 +214,10 @@ bool SortElementsByCategory(ScheduleDocument &doc)
                            "on the production board.\r\rAre you sure you wish to proceed?")))
         return false;
     doc.status().setBusy(true);
-    TakeUndoSnapshot(doc, QStringLiteral("sort elements"));
-    SortElementRows(doc);
-    SetModified(doc);
-    doc.view().repaintBoard();
+    {
+        DocumentEdit edit(doc, QStringLiteral("sort elements"));
+        SortElementRows(doc);
+    }
     doc.status().setBusy(false);
     return true;
 }

@@ -61,7 +61,6 @@ void WriteProductionDetails(ScheduleDocument &doc, const ProductionDetails &d)
     }
     doc.view().setTitle(UpdateTitle(doc));
     SetModified(doc);
-    doc.view().repaintBoard();
 }
 
 QString ProductionDetailsProblem(const ProductionDetails &d)

@@ -1,14 +1,15 @@
 #include "breakdown/SceneEditing.h"
 
 #include "document/AssignmentList.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-#include "document/UndoStore.h"
 
 #include <QCollator>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace tb {
 
@@ -164,7 +165,11 @@ void RebuildPickLists(ScheduleDocument &doc)
     sortPickList(doc.setPickList);
 }
 
-ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
+namespace {
+
+// RecordStrip within the edit of the caller (OK, Apply), or within an edit of its own
+// without a snapshot when the caller has none.
+ResultOf<int> recordStrip(ScheduleDocument &doc, DocumentEdit *outer, int mode, int current, const ScenePage &page,
                           const AssignmentFlags &flags)
 {
     if (page.whole == 0 && page.eighths == 0) {
@@ -194,6 +199,9 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
         doc.strips[row].set(StripField::StripId, QString::number(++doc.values.NextStripId));
     }
 
+    std::optional<DocumentEdit> own;
+    DocumentEdit &edit = outer ? *outer : own.emplace(doc);
+
     StripRecord &strip = doc.strips[row];
     strip.set(StripField::StripKind, StripKinds::Scene);
     strip.set(StripField::SceneNumber, page.scene);
@@ -216,36 +224,42 @@ ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const Sc
     }
 
     doc.SelElement = -1;
+    // The recalculation may put rest days before the strip: it is found again by the
+    // number of strips before it.
     const int position = stripsBefore(doc, row);
-    SetModified(doc);
+    edit.markModified();
     row = rowOf(doc, position);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
 
     AddToPickList(doc.locationPickList, page.location);
     AddToPickList(doc.setPickList, page.set);
     return row;
 }
 
+} // namespace
+
+ResultOf<int> RecordStrip(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
+                          const AssignmentFlags &flags)
+{
+    return recordStrip(doc, nullptr, mode, current, page, flags);
+}
+
 ResultOf<int> SaveScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                         const AssignmentFlags &flags)
 {
-    TakeUndoSnapshot(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
-    ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
-    SetModified(doc);
+    DocumentEdit edit(doc, mode == SceneMode::Edit ? QStringLiteral("edit scene") : QStringLiteral("add new scene"));
+    ResultOf<int> saved = recordStrip(doc, &edit, mode, current, page, flags);
+    // A refused page still counts as a change, as the snapshot was taken.
+    edit.markModified();
     if (mode == SceneMode::Add)
-        doc.view().scrollToStrip(ScrollPositionAfterAppend(doc.strips.count()));
+        edit.scrollToStrip(ScrollPositionAfterAppend(doc.strips.count()));
     return saved;
 }
 
 ResultOf<int> ApplyScene(ScheduleDocument &doc, int mode, int current, const ScenePage &page,
                          const AssignmentFlags &flags)
 {
-    TakeUndoSnapshot(doc, QStringLiteral("add / edit scene"));
-    ResultOf<int> saved = RecordStrip(doc, mode, current, page, flags);
-    SetModified(doc);
-    doc.view().repaintBoard();
-    return saved;
+    DocumentEdit edit(doc, QStringLiteral("add / edit scene"));
+    return recordStrip(doc, &edit, mode, current, page, flags);
 }
 
 int ScrollPositionAfterAppend(int stripCount)
@@ -268,8 +282,11 @@ SceneStep StepToScene(ScheduleDocument &doc, int current, int direction)
         step.found = true;
         doc.SelStart = index;
         doc.SelEnd = index;
-        doc.view().scrollToStrip(index);
-        doc.view().repaintBoard();
+        // The board behind the editor shows the strip first; nothing else follows.
+        DocumentChange showing;
+        showing.firstStrip = index;
+        showing.boardOnly = true;
+        doc.view().documentChanged(doc, showing);
     }
     if (direction > 0 && index >= count) {
         step.atLimit = true;

@@ -1,8 +1,8 @@
 #include "breakdown/StripOrder.h"
 
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-#include "document/UndoStore.h"
 
 #include <QCollator>
 
@@ -145,7 +145,7 @@ bool WarnSortDeletesDividers(ScheduleDocument &doc)
 
 void UpdateStrips(ScheduleDocument &doc, const QList<SortRow> &rows)
 {
-    TakeUndoSnapshot(doc, QStringLiteral("sort strips"));
+    DocumentEdit edit(doc, QStringLiteral("sort strips"));
     doc.status().setBusy(true);
     const StripTable scratch = doc.strips; // shares the rows; nothing is copied yet
     const int oldCount = scratch.count();
@@ -157,11 +157,9 @@ void UpdateStrips(ScheduleDocument &doc, const QList<SortRow> &rows)
     }
     doc.strips.setCount(n);
     doc.status().setBusy(false);
-    // The day numbers of the sorted strips are derived again from their new order.
-    SetModified(doc);
-    doc.view().setScrolls();
-    doc.view().scrollToStrip(1);
-    doc.view().repaintBoard();
+    // The day numbers of the sorted strips are derived again from their new order
+    // when the edit ends.
+    edit.scrollToStrip(1);
 }
 
 void SortStrips(ScheduleDocument &doc, int highest, int next, int lowest)
@@ -264,7 +262,7 @@ bool ConformList::apply(ScheduleDocument &doc) const
                                 Buttons::YesNo) != Answer::Yes)
         return false;
 
-    TakeUndoSnapshot(doc, QStringLiteral("conform strips"));
+    DocumentEdit edit(doc, QStringLiteral("conform strips"));
     doc.status().setBusy(true);
     doc.strips.clearRows(1, doc.strips.count());
     const int n = int(std::min<qsizetype>(m_entries.size(), MaxStrips));
@@ -286,9 +284,6 @@ bool ConformList::apply(ScheduleDocument &doc) const
     }
     doc.strips.setCount(n);
     doc.status().setBusy(false);
-    SetModified(doc);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
     return true;
 }
 
@@ -309,10 +304,9 @@ bool ResetBreakdownNumbering(ScheduleDocument &doc)
     if (!doc.prompter().confirm(QStringLiteral("Are you sure you wish to reset all breakdown sheet numbers to match "
                                                "the current strip order on the board?")))
         return false;
-    // The snapshot marks the document modified; sheet numbers feed no derived value.
-    TakeUndoSnapshot(doc, QStringLiteral("reset breakdown numbering"));
+    // Sheet numbers feed no derived value; the edit marks the document modified all the same.
+    DocumentEdit edit(doc, QStringLiteral("reset breakdown numbering"));
     RenumberBreakdownSheets(doc);
-    doc.view().repaintBoard();
     return true;
 }
 

@@ -1,9 +1,9 @@
 #include "document/Clipboard.h"
 
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
-#include "document/UndoStore.h"
 
 #include <algorithm>
 
@@ -141,20 +141,16 @@ void DeleteSelection(ScheduleDocument &doc)
 void Cut(ScheduleDocument &doc)
 {
     if (doc.SelStart > 0) {
-        TakeUndoSnapshot(doc, QStringLiteral("Cut strip(s)"));
+        DocumentEdit edit(doc, QStringLiteral("Cut strip(s)"));
         CopySelection(doc);
         DeleteSelection(doc);
         clearSelection(doc);
-        SetModified(doc);
-        doc.view().repaintBoard();
     }
     if (doc.SelElement > 0) {
-        TakeUndoSnapshot(doc, QStringLiteral("Cut element"));
+        DocumentEdit edit(doc, QStringLiteral("Cut element"));
         CopySelection(doc);
         DeleteSelection(doc);
         clearSelection(doc);
-        SetModified(doc);
-        doc.view().repaintBoard();
     }
 }
 
@@ -181,10 +177,8 @@ void Paste(ScheduleDocument &doc)
         doc.prompter().error(strips ? StripTable::fullMessage() : ElementTable::fullMessage());
         return;
     }
-    TakeUndoSnapshot(doc, strips ? QStringLiteral("Paste strip(s)") : QStringLiteral("Paste element"));
+    DocumentEdit edit(doc, strips ? QStringLiteral("Paste strip(s)") : QStringLiteral("Paste element"));
     (void)PasteSelection(doc);
-    SetModified(doc);
-    doc.view().repaintBoard();
 }
 
 void Delete(ScheduleDocument &doc)
@@ -196,18 +190,14 @@ void Delete(ScheduleDocument &doc)
         return;
     }
     if (doc.SelStart > 0) {
-        TakeUndoSnapshot(doc, QStringLiteral("Delete strip(s)"));
+        DocumentEdit edit(doc, QStringLiteral("Delete strip(s)"));
         DeleteSelection(doc);
         clearSelection(doc);
-        SetModified(doc);
-        doc.view().repaintBoard();
     }
     if (doc.SelElement > 0) {
-        TakeUndoSnapshot(doc, QStringLiteral("Delete element"));
+        DocumentEdit edit(doc, QStringLiteral("Delete element"));
         DeleteSelection(doc);
         clearSelection(doc);
-        SetModified(doc);
-        doc.view().repaintBoard();
     }
 }
 

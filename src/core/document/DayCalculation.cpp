@@ -99,7 +99,7 @@ void RemoveStripsOfKind(ScheduleDocument &doc, const QString &kind)
         }
         strips.setCount(kept);
     }
-    doc.view().setScrolls();
+    // The scroll bars follow the new count when the edit tells the views.
 }
 
 void RecalculateDays(ScheduleDocument &doc)
@@ -188,12 +188,11 @@ void RecalculateDays(ScheduleDocument &doc)
     doc.status().setPanelText(StatusSink::DaysPanel,
                               d > 0 ? QStringLiteral(" Production: %1 days.  Shoot: %2 days").arg(d).arg(s)
                                     : QString());
-    doc.view().setScrolls();
+    // The scroll bars follow the count when the edit tells the views.
 }
 
-void UpdateCommandsAndStatus(ScheduleDocument &doc)
+QString SelectedPagesText(const ScheduleDocument &doc)
 {
-    doc.view().updateCommands(doc);
     float pages = 0.0f;
     if (doc.SelStart > 0) {
         int first = doc.SelStart;
@@ -206,8 +205,7 @@ void UpdateCommandsAndStatus(ScheduleDocument &doc)
                 pages = float(double(pages) + PageLengthOf(doc.strips[i]));
         }
     }
-    doc.status().setPanelText(StatusSink::PagesPanel,
-                              pages != 0.0f ? FormatPageLength(pages) + QStringLiteral(" pages") : QString());
+    return pages != 0.0f ? FormatPageLength(pages) + QStringLiteral(" pages") : QString();
 }
 
 } // namespace tb

@@ -13,9 +13,10 @@ void RecalculateDays(ScheduleDocument &doc);
 // Removes every strip of the given kind, keeping the others in order.
 void RemoveStripsOfKind(ScheduleDocument &doc, const QString &kind);
 
-// Enables the commands for the current state and writes the selected scenes' page
-// total into status panel 1.
-void UpdateCommandsAndStatus(ScheduleDocument &doc);
+// The text of status panel 1: the page total of the scene strips in the selected
+// range, added up in single precision, as "1 3/8 pages"; empty when it is 0. The
+// window shows it whenever it updates its commands (UpdateCommandsAndStatus).
+QString SelectedPagesText(const ScheduleDocument &doc);
 
 // The date text of a day: start + day - 1 as "ddd, mmmm d, yyyy".
 QString DayDateText(double startSerial, int day);

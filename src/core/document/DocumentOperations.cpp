@@ -2,6 +2,7 @@
 
 #include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
+#include "document/DocumentEdit.h"
 #include "document/LegacyText.h"
 
 #include <cmath>
@@ -83,37 +84,37 @@ double StartDateSerial(const ScheduleDocument &doc)
     return ok ? value : 0.0;
 }
 
-void SetModified(ScheduleDocument &doc)
+void SetModified(ScheduleDocument &doc, const DocumentChange &change)
 {
-    doc.Modified = true;
-    doc.status().setPanelText(StatusSink::ModifiedPanel, QStringLiteral("Modified"));
-    RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    DocumentEdit edit(doc);
+    if (change.firstStrip)
+        edit.scrollToStrip(*change.firstStrip);
+    if (change.scrollPositions)
+        edit.restoreScrollPositions(change.scrollPositions->first, change.scrollPositions->second);
 }
 
 void ClearModified(ScheduleDocument &doc)
 {
     doc.Modified = false;
     doc.status().setPanelText(StatusSink::ModifiedPanel, QString());
-    UpdateCommandsAndStatus(doc);
+    // The commands and the pages panel follow; the days are not recalculated.
+    doc.view().documentChanged(doc, {});
 }
 
 void NewDocument(ScheduleDocument &doc)
 {
-    // 1. Editor mode and production details. The crew list belongs to the
-    //    production details and is emptied with them.
-    doc.stripEditMode = 0;
+    // 1. Production details. The crew list belongs to the production details and is
+    //    emptied with them. (The scene editor takes its mode anew each time it opens.)
     doc.values = ProductionValues(); // also the version, zoom, call times and counters
     for (CrewRow &row : doc.crew)
         row.clear();
-    // 2. Autosave interval from the preferences.
-    doc.view().setAutosaveInterval(doc.autosaveMinutes * 60000);
+    // 2. The autosave timer starts again with the interval of the preferences.
+    doc.view().restartAutosave();
     // 3.-5. Zoom, file name, selection, rest day rule, strip serials, hold days.
     doc.FileName.clear();
     doc.SelStart = 0;
     doc.SelEnd = 0;
     doc.SelElement = -1;
-    doc.printZoom = 1.0;
     // 6. The scene editor's pick lists hold this document's values only.
     doc.locationPickList.clear();
     doc.setPickList.clear();
@@ -133,9 +134,12 @@ void NewDocument(ScheduleDocument &doc)
     doc.view().setTitle(UpdateTitle(doc));
     doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("New file."));
     doc.status().setPanelText(StatusSink::PagesPanel, QString());
-    ClearModified(doc);
+    doc.Modified = false;
+    doc.status().setPanelText(StatusSink::ModifiedPanel, QString());
     RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    // ClearModified's command update and the one after the recalculation are one
+    // notification: the views show the empty document once.
+    doc.view().documentChanged(doc, {});
 }
 
 QString UpdateTitle(const ScheduleDocument &doc)

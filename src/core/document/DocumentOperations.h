@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DocumentEdit.h"
 #include "document/ScheduleDocument.h"
 
 #include <QString>
@@ -36,10 +37,11 @@ double PageLengthOf(const StripRecord &strip);
 double StartDateSerial(const ScheduleDocument &doc);
 
 // Marks the document changed: "Modified" in the status bar, then the day
-// recalculation and the command update, in that order.
-void SetModified(ScheduleDocument &doc);
+// recalculation, then the views are told (which update the commands). This is the
+// edit without an undo snapshot, all at once (DocumentEdit).
+void SetModified(ScheduleDocument &doc, const DocumentChange &change = {});
 
-// Marks the document saved (no recalculation).
+// Marks the document saved (no recalculation); the views update the commands.
 void ClearModified(ScheduleDocument &doc);
 
 // Empties the document to the state of a new schedule.

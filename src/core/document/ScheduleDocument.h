@@ -60,6 +60,8 @@ struct DayTotals
 
 // The one open schedule: strip, element and crew tables, categories, production
 // values, the selection, and the services through which the core talks to the user.
+// The state of the running window (editor modes, the autosave interval, the enabled
+// commands) lives with the window, not here.
 // The document lives for the whole run; New and Open empty it rather than replace it.
 class ScheduleDocument
 {
@@ -84,22 +86,17 @@ public:
     int SelEnd = 0;
     int SelElement = -1;
 
-    // Session state reset by New.
-    int stripEditMode = 0;
-    double printZoom = 1.0;
+    // The scene editor's pick lists: the locations and sets typed in this document,
+    // emptied by New. They stay with the document, not with the editor, because the
+    // script importers fill the location list as they create scenes.
     QStringList locationPickList;
     QStringList setPickList;
-    // Autosave interval in minutes, from the preferences.
-    int autosaveMinutes = 0;
 
     // The undo store and the private clipboard live for the whole run: New and Open
-    // empty neither, so Undo after New brings back the earlier tables.
+    // empty neither, so Undo after New brings back the earlier tables. The Undo and
+    // Redo entries are derived from the store (UndoCommands).
     UndoStack undo;
     StripClipboard clipboard;
-    bool undoEnabled = false;
-    QString undoCaption = QStringLiteral("Undo");
-    bool redoEnabled = false;
-    QString redoCaption = QStringLiteral("Redo");
 
     int categoryCount() const { return int(categories.size()); }
 

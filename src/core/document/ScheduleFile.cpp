@@ -205,7 +205,8 @@ void finishOpen(ScheduleDocument &doc, const QString &path)
     doc.view().setTitle(UpdateTitle(doc));
     doc.status().setProgress(0);
     RecalculateDays(doc);
-    UpdateCommandsAndStatus(doc);
+    // The board, its scroll bars and the commands show the opened document.
+    doc.view().documentChanged(doc, {});
     doc.view().addRecentFile(path);
     doc.status().setBusy(false);
 }
@@ -328,7 +329,6 @@ Result OpenDocument(ScheduleDocument &doc, const QString &path)
         return Result::failure(message);
     }
 
-    doc.view().setScrolls();
     doc.view().setTitle(UpdateTitle(doc));
     doc.view().addRecentFile(doc.FileName); // still blank; the list ignores it
     status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Opened OK."));

@@ -442,7 +442,6 @@ Result ApplyPreferences(ScheduleDocument &doc, Settings &settings, const Prefere
     settings.weatherUrl = input.weatherUrl;
     settings.showShootingDays = input.showShootingDays;
     settings.boardFont = input.boardFont;
-    doc.autosaveMinutes = settings.autosaveMinutes;
     // 2. The description lines; an item outside the list leaves the line as it was.
     if (const int code = DescLineCode(input.descLine1Index))
         settings.descLine1 = code;

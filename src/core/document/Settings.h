@@ -223,9 +223,9 @@ PreferencesInput PreferencesFromSettings(const Settings &settings);
 
 // OK in the preferences dialog: takes the values into the settings (a description
 // line item outside the list leaves that line as it was), writes the file, writes
-// the warning answers as the opposite of their boxes (ticked = warn = not skipped),
-// and sets the document's autosave minutes. A file that cannot be written is
-// reported to the user; the values are taken all the same.
+// the warning answers as the opposite of their boxes (ticked = warn = not skipped).
+// The window restarts its autosave timer from the settings. A file that cannot be
+// written is reported to the user; the values are taken all the same.
 Result ApplyPreferences(ScheduleDocument &doc, Settings &settings, const PreferencesInput &input);
 
 // The check box caption of a warning that can be switched off.

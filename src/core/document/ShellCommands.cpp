@@ -53,7 +53,6 @@ void NewCommand(ScheduleDocument &doc, FileChooser &files)
     if (!AskToSaveChanges(doc, files, /*beep=*/true))
         return;
     NewDocument(doc);
-    doc.view().repaintBoard();
 }
 
 void OpenCommand(ScheduleDocument &doc, FileChooser &files)

@@ -1,6 +1,6 @@
 #include "document/UndoStore.h"
 
-#include "document/DocumentOperations.h"
+#include "document/DocumentEdit.h"
 #include "document/ScheduleDocument.h"
 
 namespace tb {
@@ -48,26 +48,21 @@ void TakeUndoSnapshot(ScheduleDocument &doc, const QString &label)
     newest.verticalScroll = doc.view().verticalScroll();
     newest.label = label;
 
-    doc.undoCaption = QStringLiteral("Undo ") + label;
-    doc.undoEnabled = true;
-    if (undo.UndoDepth == 1) {
-        doc.redoEnabled = false;
-        doc.redoCaption = QStringLiteral("Redo");
-    }
-    doc.view().setUndoCommands(doc.undoEnabled, doc.undoCaption, doc.redoEnabled, doc.redoCaption);
-    // Taking a snapshot already counts as a change.
-    SetModified(doc);
+    // The first snapshot into an empty store disables Redo.
+    if (undo.UndoDepth == 1)
+        undo.redoLabel.reset();
 }
 
 void Undo(ScheduleDocument &doc)
 {
+    // Marked modified and shown like any edit, without a snapshot of its own.
+    DocumentEdit edit(doc);
     UndoStack &undo = doc.undo;
     const UndoLevel &newest = undo.levels[1];
     copyRows(doc.strips, newest.strips, newest.strips.count());
     copyRows(doc.elements, newest.elements, newest.elements.count());
     doc.values.NextStripId = newest.nextStripId;
-    const int horizontal = newest.horizontalScroll;
-    const int vertical = newest.verticalScroll;
+    edit.restoreScrollPositions(newest.horizontalScroll, newest.verticalScroll);
 
     const int n = doc.strips.count();
     const int m = doc.elements.count();
@@ -75,18 +70,18 @@ void Undo(ScheduleDocument &doc)
         copyLevel(undo.levels[level - 1], undo.levels[level], n, m);
     if (undo.UndoDepth > 0)
         --undo.UndoDepth;
-
-    doc.undoEnabled = undo.UndoDepth > 0;
-    doc.undoCaption = doc.undoEnabled ? QStringLiteral("Undo ") + undo.levels[1].label : QStringLiteral("Undo");
     // The Redo caption names level 9, which is blank unless nine levels were filled.
-    doc.redoEnabled = true;
-    doc.redoCaption = QStringLiteral("Redo ") + undo.levels[MaxUndoLevels - 1].label;
-    doc.view().setUndoCommands(doc.undoEnabled, doc.undoCaption, doc.redoEnabled, doc.redoCaption);
+    undo.redoLabel = undo.levels[MaxUndoLevels - 1].label;
+}
 
-    doc.view().repaintBoard();
-    doc.view().setScrolls();
-    doc.view().setScrollPositions(horizontal, vertical);
-    SetModified(doc);
+UndoCommandState UndoCommands(const UndoStack &undo)
+{
+    UndoCommandState state;
+    state.undoEnabled = undo.UndoDepth > 0;
+    state.undoCaption = state.undoEnabled ? QStringLiteral("Undo ") + undo.levels[1].label : QStringLiteral("Undo");
+    state.redoEnabled = undo.redoLabel.has_value();
+    state.redoCaption = state.redoEnabled ? QStringLiteral("Redo ") + *undo.redoLabel : QStringLiteral("Redo");
+    return state;
 }
 
 void Redo(ScheduleDocument &) {}

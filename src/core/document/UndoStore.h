@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace tb {
 
 class ScheduleDocument;
@@ -32,13 +34,27 @@ struct UndoStack
     {}
     QList<UndoLevel> levels; // 1..10; 0 unused
     int UndoDepth = 0;
+    // The label the Redo entry names, set by Undo; none while Redo is disabled (at
+    // start and after a snapshot into an empty store).
+    std::optional<QString> redoLabel;
 };
 
-// Before a change: pushes both tables under the label ("add new scene", "Move strip" ...)
-// and marks the document modified.
+// The Undo and Redo entries as the store has them.
+struct UndoCommandState
+{
+    bool undoEnabled = false;
+    QString undoCaption; // "Undo" or "Undo " + the newest label
+    bool redoEnabled = false;
+    QString redoCaption; // "Redo" or "Redo " + the label Undo left
+    bool operator==(const UndoCommandState &) const = default;
+};
+UndoCommandState UndoCommands(const UndoStack &undo);
+
+// Pushes both tables under the label ("add new scene", "Move strip" ...). Operations
+// take it through DocumentEdit, which also marks the document modified.
 void TakeUndoSnapshot(ScheduleDocument &doc, const QString &label);
 
-// Puts the newest level back.
+// Puts the newest level back, with the board's scroll positions of that level.
 void Undo(ScheduleDocument &doc);
 
 // The Redo entry exists and is enabled after an undo, but there is no redo store:

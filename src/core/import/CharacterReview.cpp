@@ -111,7 +111,6 @@ QStringList RemoveCharacters(ScheduleDocument &doc, const QList<int> &elements)
     }
     doc.SelElement = -1;
     SetModified(doc);
-    doc.view().repaintBoard();
     return names;
 }
 

@@ -3,6 +3,7 @@
 #include "import/ImportText.h"
 
 #include "document/DayCalculation.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -252,14 +253,14 @@ Result ImportFinalDraft(ScheduleDocument &doc, const QString &sceneReportPath, c
     if (!scenes || !reader.readSceneReport(*scenes))
         return readError();
 
-    SetModified(doc);
-    doc.view().scrollToStrip(1);
+    // An import takes no undo snapshot.
+    DocumentEdit edit(doc);
+    edit.scrollToStrip(1);
+    // The first strip is selected; the commands and the pages panel follow it.
     if (doc.strips.count() >= 1) {
         doc.SelStart = 1;
         doc.SelEnd = 1;
-        UpdateCommandsAndStatus(doc);
     }
-    doc.view().setScrolls();
     return Result::success();
 }
 

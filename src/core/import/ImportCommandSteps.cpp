@@ -40,8 +40,7 @@ bool BeginFinalDraftImport(ScheduleDocument &doc, const std::function<void()> &s
 void EndFinalDraftImport(ScheduleDocument &doc)
 {
     doc.status().setPanelText(StatusSink::MessagePanel, QString());
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
+    doc.view().documentChanged(doc, {});
 }
 
 } // namespace tb

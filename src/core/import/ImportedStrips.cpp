@@ -69,11 +69,11 @@ void ImportedStrips::finish()
 
 void EndScriptImport(ScheduleDocument &doc, bool ok)
 {
+    // An import takes no undo snapshot; after a good one the board shows the first strip.
+    DocumentChange change;
     if (ok)
-        doc.view().scrollToStrip(1);
-    SetModified(doc);
-    doc.view().setScrolls();
-    doc.view().repaintBoard();
+        change.firstStrip = 1;
+    SetModified(doc, change);
 }
 
 } // namespace tb

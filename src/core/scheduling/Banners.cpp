@@ -1,10 +1,10 @@
 #include "scheduling/Banners.h"
 
 #include "document/DayCalculation.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
-#include "document/UndoStore.h"
 
 namespace tb {
 
@@ -82,24 +82,23 @@ Result WriteBanner(ScheduleDocument &doc, BannerMode mode, const BannerContent &
     if (mode != BannerEdit && !doc.strips.canGrow(1))
         return Result::failure(StripTable::fullMessage());
 
+    DocumentEdit edit(doc, mode == BannerAddAtEnd ? QStringLiteral("Add banner")
+                           : mode == BannerInsert ? QStringLiteral("Insert banner")
+                                                  : QStringLiteral("Edit banner"));
     int row = 0;
     switch (mode) {
     case BannerAddAtEnd:
-        TakeUndoSnapshot(doc, QStringLiteral("Add banner"));
         row = doc.strips.count() + 1;
         (void)doc.strips.insertRows(row, 1); // room checked above
         break;
     case BannerInsert:
-        TakeUndoSnapshot(doc, QStringLiteral("Insert banner"));
         row = doc.SelStart;
         (void)doc.strips.insertRows(row, 1);
         break;
     case BannerEdit:
-        TakeUndoSnapshot(doc, QStringLiteral("Edit banner"));
         row = doc.SelStart;
         break;
     }
-    doc.view().setScrolls();
 
     // The row is cleared even when a banner is edited: it keeps its place, and
     // nothing else it held survives.
@@ -110,10 +109,9 @@ Result WriteBanner(ScheduleDocument &doc, BannerMode mode, const BannerContent &
     banner.set(StripField::DayCount, QString::number(content.days > 0 ? content.days : 0));
     doc.strips[row] = banner;
 
-    SetModified(doc);
+    // A banner added at the end is brought into view.
     if (mode == BannerAddAtEnd)
-        doc.view().scrollToStrip(row - 4);
-    doc.view().repaintBoard();
+        edit.scrollToStrip(row - 4);
     return Result::success();
 }
 
@@ -121,15 +119,12 @@ bool RemoveAllBanners(ScheduleDocument &doc)
 {
     if (!doc.prompter().confirm(QStringLiteral("Are you sure you wish to remove ALL banners from the schedule?")))
         return false;
-    TakeUndoSnapshot(doc, QStringLiteral("Remove all banners"));
+    DocumentEdit edit(doc, QStringLiteral("Remove all banners"));
     RemoveStripsOfKind(doc, StripKinds::Banner);
-    SetModified(doc);
-    doc.view().scrollToStrip(1);
+    edit.scrollToStrip(1);
+    // The commands and the pages panel follow the cleared selection.
     doc.SelStart = 0;
     doc.SelEnd = 0;
-    // The commands and the pages panel follow the cleared selection.
-    UpdateCommandsAndStatus(doc);
-    doc.view().repaintBoard();
     return true;
 }
 
@@ -142,6 +137,7 @@ bool ConvertAutoRestDaysToBanners(ScheduleDocument &doc, const BannerColours &co
         return false;
 
     // No undo snapshot: the question has told the user this cannot be undone.
+    DocumentEdit edit(doc);
     const QString pair = colourPair(colours);
     const StripTable &rows = doc.strips;
     for (int i = 1; i <= doc.strips.count(); ++i) {
@@ -156,9 +152,6 @@ bool ConvertAutoRestDaysToBanners(ScheduleDocument &doc, const BannerColours &co
     }
     // Without the rule no new rest days appear in their place.
     doc.values.AutoRestDayRule.clear();
-    SetModified(doc);
-    doc.view().repaintBoard();
-    UpdateCommandsAndStatus(doc);
     return true;
 }
 

@@ -97,7 +97,6 @@ Result ApplyRestDayRule(ScheduleDocument &doc, const QString &rule)
     }
     doc.values.AutoRestDayRule = rule.isEmpty() ? QString() : RestDayRuleText(choice);
     SetModified(doc);
-    doc.view().repaintBoard();
     return Result::success();
 }
 

@@ -1,9 +1,9 @@
 #include "scheduling/DayDividers.h"
 
 #include "document/DayCalculation.h"
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
-#include "document/UndoStore.h"
 
 #include <cmath>
 
@@ -47,11 +47,11 @@ Result AddDayDivider(ScheduleDocument &doc)
 {
     if (!doc.strips.canGrow(1))
         return Result::failure(StripTable::fullMessage());
-    TakeUndoSnapshot(doc, QStringLiteral("Add day divider"));
+    DocumentEdit edit(doc, QStringLiteral("Add day divider"));
     (void)doc.strips.append(NewDayDividerRow()); // room checked above
-    SetModified(doc);
-    doc.view().scrollToStrip(doc.strips.count() - 3);
-    doc.view().repaintBoard();
+    edit.markModified();
+    // The end of the board comes into view (counted after the rest days went in).
+    edit.scrollToStrip(doc.strips.count() - 3);
     return Result::success();
 }
 
@@ -64,13 +64,11 @@ Result InsertDayDivider(ScheduleDocument &doc)
     }
     if (!doc.strips.canGrow(1))
         return Result::failure(StripTable::fullMessage());
-    TakeUndoSnapshot(doc, QStringLiteral("Insert day divider"));
+    DocumentEdit edit(doc, QStringLiteral("Insert day divider"));
     (void)doc.strips.insert(doc.SelStart, NewDayDividerRow());
     // The selection keeps its row numbers, so the highlight now starts at the new
     // divider rather than following the strips it was on. Users know the command
     // this way and it stays so.
-    SetModified(doc);
-    doc.view().repaintBoard();
     return Result::success();
 }
 
@@ -78,13 +76,11 @@ bool RemoveAllDayDividers(ScheduleDocument &doc)
 {
     if (!doc.prompter().confirm(QStringLiteral("Are you sure you wish to remove ALL day dividers from the schedule?")))
         return false;
-    TakeUndoSnapshot(doc, QStringLiteral("Remove all day dividers"));
+    DocumentEdit edit(doc, QStringLiteral("Remove all day dividers"));
     RemoveStripsOfKind(doc, StripKinds::DayDivider);
-    SetModified(doc);
-    doc.view().scrollToStrip(1);
+    edit.scrollToStrip(1);
+    // The commands and the pages panel follow the cleared selection.
     clearSelection(doc);
-    UpdateCommandsAndStatus(doc);
-    doc.view().repaintBoard();
     return true;
 }
 
@@ -102,7 +98,7 @@ Result AutoDayDividers(ScheduleDocument &doc, const AutoPagesOptions &options)
                                    .arg(MinPagesPerDay)
                                    .arg(MaxPagesPerDay));
 
-    TakeUndoSnapshot(doc, QStringLiteral("auto day dividers"));
+    DocumentEdit edit(doc, QStringLiteral("auto day dividers"));
     // The table as it stood, to put back if the dividers do not fit: copying it
     // costs one pointer.
     const StripTable before = doc.strips;
@@ -164,10 +160,12 @@ Result AutoDayDividers(ScheduleDocument &doc, const AutoPagesOptions &options)
                         break;
                 }
                 doc.strips = shown;
-                doc.view().scrollToStrip(row);
                 doc.SelStart = row;
                 doc.SelEnd = row;
-                doc.view().repaintBoard();
+                DocumentChange showing;
+                showing.firstStrip = row;
+                showing.boardOnly = true;
+                doc.view().documentChanged(doc, showing);
                 const QString question = QStringLiteral("Scene ") + strip[StripField::SceneNumber] +
                                          QStringLiteral(" is longer than ") + QString::number(max) +
                                          QStringLiteral(" pages. \r\rWould you like Torvanbridge to add dividers "
@@ -195,19 +193,14 @@ Result AutoDayDividers(ScheduleDocument &doc, const AutoPagesOptions &options)
         doc.strips = before;
         doc.SelStart = selStart;
         doc.SelEnd = selEnd;
-        SetModified(doc);
-        doc.view().repaintBoard();
         return Result::failure(StripTable::fullMessage() +
                                QStringLiteral("\r\rThe day dividers do not fit; the schedule is unchanged."));
     }
 
     doc.strips = board;
-    SetModified(doc);
-    clearSelection(doc);
     // The commands and the pages panel follow the cleared selection.
-    UpdateCommandsAndStatus(doc);
-    doc.view().scrollToStrip(1);
-    doc.view().repaintBoard();
+    clearSelection(doc);
+    edit.scrollToStrip(1);
     return Result::success();
 }
 

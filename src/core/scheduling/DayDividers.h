@@ -12,8 +12,9 @@ class ScheduleDocument;
 // Commands on day dividers: the strips (kind "2") that close a shooting day.
 //
 // The command functions here and in the other scheduling headers do everything the
-// menu command does: the undo snapshot, the change, SetModified, the selection and
-// scrolling, the repaint request, and the messages and questions through the
+// menu command does, as one DocumentEdit: the undo snapshot, the change, the document
+// marked modified, the selection, the scroll the board is to make (passed to the
+// views, which scroll and repaint), and the messages and questions through the
 // document's prompter. A refusal the user has already been told about (a missing
 // selection, say) comes back as a failure with an empty message; any other failure
 // carries the message for the caller to show, and leaves the document unchanged.

@@ -1,9 +1,9 @@
 #include "scheduling/EndOfDay.h"
 
+#include "document/DocumentEdit.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
-#include "document/UndoStore.h"
 
 namespace tb {
 
@@ -52,7 +52,7 @@ Result ApplyEndOfDay(ScheduleDocument &doc, const QDate &date, const QList<EndOf
             return Result::failure(QStringLiteral("Only scenes can be marked shot."));
     }
     const QString dayText = QString::number(qint64(legacy::DateToSerial(date)));
-    TakeUndoSnapshot(doc, QStringLiteral("end of day"));
+    DocumentEdit edit(doc, QStringLiteral("end of day"));
     for (const EndOfDayMark &mark : marks) {
         StripRecord &strip = doc.strips[mark.row];
         if (mark.shot) {
@@ -62,8 +62,6 @@ Result ApplyEndOfDay(ScheduleDocument &doc, const QDate &date, const QList<EndOf
             strip.set(StripField::Reserved12, QString());
         }
     }
-    SetModified(doc);
-    doc.view().repaintBoard();
     return Result::success();
 }
 

@@ -29,7 +29,6 @@ void writeLockDates(ScheduleDocument &doc, const QString &text)
         if (doc.strips[row][StripField::LockDate] != text)
             doc.strips[row].set(StripField::LockDate, text);
     }
-    doc.view().repaintBoard();
     SetModified(doc);
 }
 

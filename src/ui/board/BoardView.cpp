@@ -329,7 +329,8 @@ void BoardView::PBoxPaint(QPaintEvent *)
 void BoardView::recalculate()
 {
     RecalculateDays(m_doc);
-    UpdateCommandsAndStatus(m_doc);
+    // The window updates its commands and the pages panel for the new selection.
+    m_doc.view().documentChanged(m_doc, {});
 }
 
 void BoardView::PBoxMouseDown(QMouseEvent *event, bool doubleClick)

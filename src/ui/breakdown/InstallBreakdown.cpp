@@ -64,7 +64,7 @@ void InstallBreakdownCommands(CommandHost &host)
         // Only a scene strip opens for editing; dividers and banners have editors of their own.
         if (mode == SceneMode::Edit && !(valid && d.strips[current].isScene()))
             return;
-        d.stripEditMode = mode;
+        stripDialog->editMode = mode;
         stripDialog->currentStrip = valid ? current : 0;
         stripDialog->exec();
         h->repaintBoard();

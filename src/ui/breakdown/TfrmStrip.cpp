@@ -113,7 +113,7 @@ QMenu *TfrmStrip::elementPopup() const
 
 int TfrmStrip::mode() const
 {
-    return m_doc.stripEditMode;
+    return editMode;
 }
 
 void TfrmStrip::showEvent(QShowEvent *event)

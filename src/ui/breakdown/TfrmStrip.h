@@ -23,7 +23,7 @@ class ScheduleDocument;
 class TfrmAddElement;
 
 // "Scene breakdown": adds, inserts or edits one scene strip with its elements. The
-// caller sets the document's strip editor mode (1 add, 9 insert, 4 edit) and, for
+// caller sets the strip editor mode editMode (1 add, 9 insert, 4 edit) and, for
 // insert and edit, currentStrip before showing it.
 class TfrmStrip : public QDialog
 {
@@ -43,6 +43,8 @@ public:
     void setElementDialog(TfrmAddElement *dialog);
     TfrmAddElement *elementDialog();
 
+    // The mode the editor opens in: SceneMode::Add, Insert or Edit (0 until set).
+    int editMode = 0;
     // The strip edited (mode 4) or where a new one goes (mode 9).
     int currentStrip = 0;
     int linesPerPage = DefaultLinesPerPage;

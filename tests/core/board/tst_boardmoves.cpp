@@ -78,7 +78,7 @@ void TestBoardMoves::moveStrips()
     if (!label.isEmpty()) {
         QCOMPARE(doc.undo.levels[1].label, label);
         QVERIFY(doc.Modified);
-        QCOMPARE(doc.undoCaption, "Undo " + label);
+        QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo " + label);
         Undo(doc);
         QCOMPARE(Order(doc), "1 2 3 4 5 6 7 8 9 10 11 12");
     }

@@ -15,8 +15,12 @@ namespace {
 class ScrollView : public DocumentView
 {
 public:
-    void scrollToStrip(int strip) override { scrolledTo = strip; }
-    void repaintBoard() override { ++repaints; }
+    void documentChanged(const ScheduleDocument &, const DocumentChange &change) override
+    {
+        if (change.firstStrip)
+            scrolledTo = *change.firstStrip;
+        ++repaints;
+    }
     int scrolledTo = -1;
     int repaints = 0;
 };

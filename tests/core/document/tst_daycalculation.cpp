@@ -172,16 +172,12 @@ void TestDayCalculation::fullBoardReportsOnce()
 void TestDayCalculation::selectedPages()
 {
     ScheduleDocument doc;
-    RecordingStatus status;
-    doc.setStatusSink(&status);
     Build(doc, {"1.375", "|", "0.25"});
     doc.SelStart = 3;
     doc.SelEnd = 1; // either end may come first
-    UpdateCommandsAndStatus(doc);
-    QCOMPARE(status.panels.value(StatusSink::PagesPanel), "1 5/8 pages");
+    QCOMPARE(SelectedPagesText(doc), "1 5/8 pages");
     doc.SelStart = doc.SelEnd = 2;
-    UpdateCommandsAndStatus(doc);
-    QCOMPARE(status.panels.value(StatusSink::PagesPanel), "");
+    QCOMPARE(SelectedPagesText(doc), "");
 }
 
 TB_TEST_GUILESS_MAIN(TestDayCalculation)

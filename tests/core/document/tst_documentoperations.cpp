@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include "document/AssignmentList.h"
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
 
@@ -158,7 +159,6 @@ private Q_SLOTS:
         RecordingView view;
         doc.setStatusSink(&status);
         doc.setView(&view);
-        doc.autosaveMinutes = 5;
 
         AddScene(doc, "1", "1");
         AddElement(doc, "ANNA");
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(status.panels.value(StatusSink::MessagePanel), "New file.");
         QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");
         QCOMPARE(status.panels.value(StatusSink::DaysPanel), "");
-        QCOMPARE(view.autosaveMs, 5 * 60000);
+        QCOMPARE(view.autosaveRestarts, 1);
         QCOMPARE(view.title, "Torvanbridge -   () ");
     }
 
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "Modified");
         QCOMPARE(doc.strips[2][StripField::PageLength], "1.5");
         QCOMPARE(status.panels.value(StatusSink::DaysPanel), " Production: 1 days.  Shoot: 1 days");
-        QCOMPARE(status.panels.value(StatusSink::PagesPanel), "1 4/8 pages");
+        QCOMPARE(SelectedPagesText(doc), "1 4/8 pages");
         ClearModified(doc);
         QVERIFY(!doc.Modified);
         QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");

@@ -28,18 +28,21 @@ QString Assigned(const ScheduleDocument &doc, int strip)
     return doc.strips[strip][StripField::Assignments];
 }
 
+// Shows the Undo and Redo entries as the window does, from the store at each notification.
 class UndoView : public DocumentView
 {
 public:
-    void setUndoCommands(bool undo, const QString &undoText, bool redo, const QString &redoText) override
+    void documentChanged(const ScheduleDocument &doc, const DocumentChange &change) override
     {
-        undoEnabled = undo;
-        undoCaption = undoText;
-        redoEnabled = redo;
-        redoCaption = redoText;
+        const UndoCommandState state = UndoCommands(doc.undo);
+        undoEnabled = state.undoEnabled;
+        undoCaption = state.undoCaption;
+        redoEnabled = state.redoEnabled;
+        redoCaption = state.redoCaption;
+        if (change.scrollPositions)
+            h = change.scrollPositions->first;
     }
     int horizontalScroll() const override { return h; }
-    void setScrollPositions(int horizontal, int) override { h = horizontal; }
     bool undoEnabled = false, redoEnabled = false;
     QString undoCaption, redoCaption;
     int h = 0;
@@ -58,7 +61,7 @@ private Q_SLOTS:
         UndoView view;
         doc.setView(&view);
         for (int i = 1; i <= 11; ++i) {
-            TakeUndoSnapshot(doc, QStringLiteral("step %1").arg(i));
+            DocumentEdit edit(doc, QStringLiteral("step %1").arg(i));
             AddScene(doc, QString::number(i), "1");
         }
         QCOMPARE(doc.undo.UndoDepth, 10);
@@ -87,11 +90,13 @@ private Q_SLOTS:
         AddScene(doc, "1", "1");
         AddElement(doc, "ANNA");
         view.h = 7;
-        TakeUndoSnapshot(doc, "edit scene");
-        QVERIFY(doc.Modified); // a snapshot already marks the document changed
-        doc.strips[1].set(StripField::SceneNumber, "1A");
-        doc.values.NextStripId = 42;
-        AddElement(doc, "BEN");
+        {
+            DocumentEdit edit(doc, "edit scene");
+            doc.strips[1].set(StripField::SceneNumber, "1A");
+            doc.values.NextStripId = 42;
+            AddElement(doc, "BEN");
+        }
+        QVERIFY(doc.Modified);
         view.h = 1;
         Undo(doc);
         QCOMPARE(doc.strips[1][StripField::SceneNumber], "1");
@@ -189,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(doc.strips[1][StripField::StripId], "5"); // new serials for pasted scenes
         QCOMPARE(doc.strips[2][StripField::StripId], "6");
         QCOMPARE(Assigned(doc, 1), "3,12"); // assignments pasted unchanged
-        QCOMPARE(doc.undoCaption, "Undo Paste strip(s)");
+        QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo Paste strip(s)");
     }
 
     void restDaysAreNotCopiedOrDeleted()
@@ -241,7 +246,7 @@ private Q_SLOTS:
         doc.SelEnd = 2;
         Delete(doc);
         QCOMPARE(Scenes(doc), "2 3 5");
-        QCOMPARE(doc.undoCaption, "Undo Delete strip(s)");
+        QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo Delete strip(s)");
         Undo(doc);
         QCOMPARE(Scenes(doc), "1 4 2 3 5");
     }
@@ -278,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(doc.elements.count(), 5);
         QCOMPARE(doc.elements[2][ElementField::Description], "E4");
         QCOMPARE(Assigned(doc, 1), "1,4");
-        QCOMPARE(doc.undoCaption, "Undo Delete element");
+        QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo Delete element");
     }
 
     void pasteRefusedWhenFull()

@@ -36,7 +36,7 @@ void TestBanners::addAndInsert()
     QCOMPARE(row[StripField::StripColour], "clRed,$00C0FFEE");
     QCOMPARE(row[StripField::DayCount], "2");
     QCOMPARE(row[StripField::PageLength], "0"); // written by the day calculation
-    QCOMPARE(f.doc.undoCaption, "Undo Add banner");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Add banner");
     QCOMPARE(f.view.scrolls, QList<int>{6}); // the new row minus 4
     QVERIFY(HasBanners(f.doc));
 
@@ -47,7 +47,7 @@ void TestBanners::addAndInsert()
     QCOMPARE(Kinds(f.doc), "4 1 1 1 1 1 1 1 1 1 4");
     QCOMPARE(f.doc.strips[1][StripField::StripColour], "clYellow,clNavy");
     QCOMPARE(f.doc.strips[1][StripField::DayCount], "1");
-    QCOMPARE(f.doc.undoCaption, "Undo Insert banner");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Insert banner");
     QCOMPARE(f.view.scrolls, QList<int>{6});
 }
 
@@ -71,7 +71,7 @@ void TestBanners::editClearsForeignFields()
     QCOMPARE(banner[StripField::Notes], "");
     QCOMPARE(banner[StripField::LockDate], "");
     QCOMPARE(banner[StripField::DayCount], "0");
-    QCOMPARE(f.doc.undoCaption, "Undo Edit banner");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Edit banner");
 }
 
 void TestBanners::needsASelection()
@@ -140,7 +140,7 @@ void TestBanners::removeAll()
     QVERIFY(RemoveAllBanners(f.doc));
     QCOMPARE(f.prompter.texts().last(), "Are you sure you wish to remove ALL banners from the schedule?");
     QCOMPARE(Kinds(f.doc), "1 2");
-    QCOMPARE(f.doc.undoCaption, "Undo Remove all banners");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Remove all banners");
     QCOMPARE(f.doc.SelStart, 0);
     QCOMPARE(f.view.scrolls, QList<int>{1});
     QVERIFY(!HasBanners(f.doc));

@@ -27,6 +27,7 @@ void TestDayDividers::addAtEnd()
     Fixture f;
     Build(f.doc, {"1", "2", "3", "4", "5"});
     f.doc.Modified = false;
+    f.view.selectionAtRepaint.clear();
     QVERIFY(AddDayDivider(f.doc).ok());
 
     QCOMPARE(Kinds(f.doc), "1 1 1 1 1 2");
@@ -36,7 +37,7 @@ void TestDayDividers::addAtEnd()
     QCOMPARE(row[StripField::DayNumber], "1"); // recalculated
     QCOMPARE(row[StripField::PageLength], "15");
     QVERIFY(f.doc.Modified);
-    QCOMPARE(f.doc.undoCaption, "Undo Add day divider");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Add day divider");
     QCOMPARE(f.view.scrolls, QList<int>{3});
     QCOMPARE(f.view.selectionAtRepaint.size(), 1);
 
@@ -71,7 +72,7 @@ void TestDayDividers::insert()
     // The selection keeps its numbers: it now starts at the new divider.
     QCOMPARE(f.doc.SelStart, 2);
     QCOMPARE(f.doc.SelEnd, 3);
-    QCOMPARE(f.doc.undoCaption, "Undo Insert day divider");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Insert day divider");
 
     // On strip 1 the divider goes first and closes an empty day 1.
     f.doc.SelStart = f.doc.SelEnd = 1;
@@ -111,7 +112,7 @@ void TestDayDividers::removeAll()
         QCOMPARE(f.doc.SelStart, 3);
         return;
     }
-    QCOMPARE(f.doc.undoCaption, "Undo Remove all day dividers");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo Remove all day dividers");
     QCOMPARE(f.doc.SelStart, 0);
     QCOMPARE(f.doc.SelEnd, 0);
     QCOMPARE(f.view.scrolls, QList<int>{1});
@@ -173,7 +174,7 @@ void TestDayDividers::autoPages()
     QVERIFY2(r.ok(), qPrintable(r.message()));
     QCOMPARE(Kinds(f.doc), expected);
     QVERIFY(f.prompter.prompts.isEmpty());
-    QCOMPARE(f.doc.undoCaption, "Undo auto day dividers");
+    QCOMPARE(UndoCommands(f.doc.undo).undoCaption, "Undo auto day dividers");
     QCOMPARE(f.doc.SelStart, 0);
     QCOMPARE(f.view.scrolls, QList<int>{1});
 
@@ -193,6 +194,7 @@ void TestDayDividers::autoPagesAsks()
     Build(f.doc, {"1", "7", "6", "2"});
     f.doc.strips[3].set(StripField::SceneNumber, "12A");
     f.prompter.answers = {Answer::Yes, Answer::No};
+    f.view.selectionAtRepaint.clear();
     QVERIFY(AutoDayDividers(f.doc, {5, AutoPagesMode::Ask, true}).ok());
 
     // Scene 2 (7 pages) overflows with scene 1: one divider before it. Alone it is

@@ -84,7 +84,7 @@ void TestEndOfDay::marksTheDay()
 void TestEndOfDay::undoTakesItBack()
 {
     QVERIFY(ApplyEndOfDay(m_doc, Start, {{1, true}}).ok());
-    QCOMPARE(m_doc.undoCaption, QStringLiteral("Undo end of day"));
+    QCOMPARE(UndoCommands(m_doc.undo).undoCaption, QStringLiteral("Undo end of day"));
     QCOMPARE(ShotDate(m_doc.strips[1]), Start);
     Undo(m_doc);
     QVERIFY(!IsShot(m_doc.strips[1]));

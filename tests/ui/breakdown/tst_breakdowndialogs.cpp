@@ -136,7 +136,7 @@ class TestBreakdownDialogs : public QObject
     TfrmStrip &openScene(int mode, int current)
     {
         sceneDialog = std::make_unique<TfrmStrip>(*docp);
-        docp->stripEditMode = mode;
+        sceneDialog->editMode = mode;
         sceneDialog->currentStrip = current;
         sceneDialog->show();
         return *sceneDialog;

@@ -400,7 +400,7 @@ void TestSchedulingDialogs::endOfDay()
     QVERIFY(!eod.isVisible());
     QCOMPARE(ShotDate(doc.strips[1]), start);
     QVERIFY(!IsShot(doc.strips[2]));
-    QCOMPARE(doc.undoCaption, "Undo end of day");
+    QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo end of day");
 }
 
 TB_TEST_MAIN(TestSchedulingDialogs)
