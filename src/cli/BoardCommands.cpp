@@ -302,7 +302,7 @@ int runPrintBoard(CliContext &ctx, const CliCommand &command, const QStringList 
                 << Qt::endl;
         return ExitUserError;
     }
-    doc.printZoom = scalePercent / 100.0;
+    options.overallScale = scalePercent / 100.0;
 
     QSaveFile file(out);
     if (!file.open(QIODevice::WriteOnly)) {

@@ -44,6 +44,7 @@ BoardPrintResult PrintBoard(ScheduleDocument &doc, const BoardStyle &style, cons
                             QPagedPaintDevice &device)
 {
     BoardPrintResult result;
+    result.overallScale = options.overallScale;
     const int dpiX = device.logicalDpiX();
     const int dpiY = device.logicalDpiY();
     // The unprintable edges of the sheet: the device draws from the printable area's
@@ -60,7 +61,7 @@ BoardPrintResult PrintBoard(ScheduleDocument &doc, const BoardStyle &style, cons
         y0 = eightMillimetres - offsets.top();
         // Perforated stock takes strips at their true pitch: the overall scale goes back
         // to 100 % and stays there for the rest of the run.
-        doc.printZoom = 1.0;
+        result.overallScale = 1.0;
     } else if (options.showDate || options.showPageNumber) {
         y0 = eightMillimetres - offsets.top();
     }
@@ -70,7 +71,7 @@ BoardPrintResult PrintBoard(ScheduleDocument &doc, const BoardStyle &style, cons
     y0 = qMax(0, y0);
     result.left = x0;
     result.top = y0;
-    result.scale = k * doc.printZoom;
+    result.scale = k * result.overallScale;
 
     const int first = qMax(1, options.firstStrip);
     const int last = options.lastStrip < 0 ? doc.strips.count() : qMin(options.lastStrip, doc.strips.count());

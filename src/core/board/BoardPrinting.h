@@ -44,6 +44,8 @@ struct BoardPrintOptions
     // first.
     bool headerOnEveryPage = false;
     bool blackAndWhite = false;
+    // The overall scale (1.0 = 100 %), which the program keeps for the whole run.
+    double overallScale = 1.0;
     // The width of one strip on the screen, in screen pixels, that is scaled to one
     // perforated strip. It is the width at 100 % whatever the board's zoom: taking the
     // zoomed width, as the program once did, printed strips off the perforations
@@ -68,6 +70,8 @@ struct BoardPrintResult
     int top = 0;
     // The drawing scale used.
     double scale = 1.0;
+    // The overall scale after printing: 100 % after perforated stock, else as it was.
+    double overallScale = 1.0;
     // Set when a page could not hold a single strip; the printing stops there.
     QString problem;
 };
@@ -81,9 +85,9 @@ QString BoardPrintJobTitle(const ScheduleDocument &doc);
 QString BoardRangeEntry(const ScheduleDocument &doc, int strip);
 
 // Prints the board onto the device, whose first page is the current one. The board
-// is scaled so that a strip is one perforated strip wide at the overall scale, which
-// the document keeps (printZoom); printing on perforated stock sets that overall scale
-// to 100 % for the rest of the run. The printing clears the board's selection.
+// is scaled so that a strip is one perforated strip wide at the overall scale of 100 %;
+// printing on perforated stock sets the overall scale to 100 % (the result's
+// overallScale), which the caller keeps for the rest of the run. The printing clears the board's selection.
 BoardPrintResult PrintBoard(ScheduleDocument &doc, const BoardStyle &style, const BoardPrintOptions &options,
                             QPagedPaintDevice &device);
 

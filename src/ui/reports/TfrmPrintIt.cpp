@@ -73,7 +73,7 @@ void TfrmPrintIt::showEvent(QShowEvent *event)
     progress.PrintLab()->setText(QStringLiteral("Preparing to print..."));
     {
         const QSignalBlocker blocker(ui->ScaleSpin);
-        ui->ScaleSpin->setValue(qRound(m_doc.printZoom * 100));
+        ui->ScaleSpin->setValue(qRound(m_overallScale * 100));
     }
     fillRangeCombos();
     {
@@ -102,7 +102,7 @@ void TfrmPrintIt::OrientationClick()
 void TfrmPrintIt::ScaleSpinChange(int percent)
 {
     // The overall scale is the board's: it changes at once, not only when printing.
-    m_doc.printZoom = percent / 100.0;
+    m_overallScale = percent / 100.0;
 }
 
 void TfrmPrintIt::RangeChange()
@@ -134,6 +134,7 @@ BoardPrintOptions TfrmPrintIt::options() const
     options.showPageNumber = ui->PageNumCheck->isChecked();
     options.headerOnEveryPage = ui->AllHeaders->isChecked();
     options.blackAndWhite = ui->BWCheck->isChecked();
+    options.overallScale = m_overallScale;
     return options;
 }
 
@@ -154,6 +155,7 @@ void TfrmPrintIt::PrintButClick()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_lastPrint = PrintBoard(m_doc, StyleFromSettings(m_settings), options(), printer);
     QApplication::restoreOverrideCursor();
+    m_overallScale = m_lastPrint.overallScale;
     if (boardChanged)
         boardChanged();
     if (!m_lastPrint.problem.isEmpty()) {

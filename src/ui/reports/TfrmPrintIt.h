@@ -36,6 +36,8 @@ public:
 
     // The choices as the dialog holds them now.
     BoardPrintOptions options() const;
+    // The overall scale (1.0 = 100 %), kept by this dialog for the whole run.
+    double overallScale() const { return m_overallScale; }
     // What the last print made.
     const BoardPrintResult &lastPrint() const { return m_lastPrint; }
 
@@ -62,6 +64,7 @@ private:
     std::unique_ptr<TfrmPerfSetup> m_perfSetup;
     ReportPrinterChoice m_printer;
     BoardPrintResult m_lastPrint;
+    double m_overallScale = 1.0;
 };
 
 } // namespace tb

@@ -135,13 +135,13 @@ void TestBoardPrinting::overallScale()
     QFETCH(double, after);
     ScheduleDocument doc;
     fillBoard(doc, 10);
-    doc.printZoom = 1.5;
     BoardPrintOptions options;
+    options.overallScale = 1.5;
     options.perforated = perforated;
     options.perfWidth = 9.6;
     Sheet sheet;
     const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
-    QCOMPARE(doc.printZoom, after);
+    QCOMPARE(printed.overallScale, after);
     // A strip is one perforated strip wide at 100 %.
     const double k = Dpi / 25.4 * 9.6 / 40;
     QCOMPARE(printed.scale, k * after);

@@ -164,7 +164,7 @@ void TestBoardPrintDialogs::printBoardToPdf()
     ui.PrinterCombo->setCurrentIndex(ui.PrinterCombo->count() - 1); // the PDF file
     QVERIFY(dialog.printerChoice().toPdfFile());
     ui.ScaleSpin->setValue(150);
-    QCOMPARE(doc.printZoom, 1.5);
+    QCOMPARE(dialog.overallScale(), 1.5);
     if (perforated)
         QTest::mouseClick(ui.PerfRadio, Qt::LeftButton);
     if (oneStrip) {
@@ -177,7 +177,7 @@ void TestBoardPrintDialogs::printBoardToPdf()
     QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
     QVERIFY(QFile::exists(out));
-    QCOMPARE(doc.printZoom, zoomAfter);
+    QCOMPARE(dialog.overallScale(), zoomAfter);
     const BoardPrintResult &printed = dialog.lastPrint();
     if (oneStrip) {
         QCOMPARE(printed.pages.size(), 1);
