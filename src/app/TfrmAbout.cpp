@@ -8,7 +8,7 @@
 namespace tb {
 
 TfrmAbout::TfrmAbout(QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(), parent) // no help page of its own
     , m_ui(std::make_unique<Ui::TfrmAbout>())
 {
     m_ui->setupUi(this);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class TfrmAbout;
 namespace tb {
 
 // "About...": the product's name, version and what it is for.
-class TfrmAbout : public QDialog
+class TfrmAbout : public DialogWithHelp
 {
     Q_OBJECT
 

@@ -5,9 +5,7 @@
 #include "document/UndoStore.h"
 #include "ui/shell/CommandHost.h"
 
-#include <QHash>
 #include <QMainWindow>
-#include <QSet>
 #include <QTimer>
 
 #include <functional>
@@ -22,6 +20,7 @@ namespace tb {
 
 class BoardView;
 class HelpWindow;
+class MenuCommands;
 class PanelStatusBar;
 class RecentFilesList;
 class ScheduleDocument;
@@ -31,7 +30,8 @@ class TfrmPref;
 
 // The main window: menus, tool bar, the board, the status bar, the recent-files list,
 // the autosave timer and the document commands. It is the document's view and the
-// host through which the other subsystems serve their menu entries.
+// host of the areas' menu tables: it places their entries in its menus, the board's
+// pop-up and the tool bar, and enables them by their rules.
 class TfrmMain : public QMainWindow, public DocumentView, public CommandHost, private FileChooser
 {
     Q_OBJECT
@@ -40,20 +40,12 @@ public:
     TfrmMain(ScheduleDocument &doc, Settings &settings, QWidget *parent = nullptr);
     ~TfrmMain() override;
 
-    // Connects the menu entries of the other subsystems (scenes, elements, days,
-    // banners, import, reports) to their dialogs. The program calls it once after
-    // creating the window; the shell's own tests leave it out.
-    void installSubsystemCommands();
-
     // ---- CommandHost
     ScheduleDocument &document() override { return m_doc; }
     QWidget *window() override { return this; }
-    // Asking for an entry tells the window that a subsystem serves it: from then on
-    // the entry is enabled by the state of the document instead of staying disabled.
     QAction *action(const char *objectName) override;
     Settings &settings() override { return m_settings; }
     void repaintBoard() override;
-    void showHelp(const QString &page) override;
 
     // ---- DocumentView
     // After every edit: scroll bars, scrolling, Undo and Redo, the commands and the
@@ -82,10 +74,14 @@ public:
     QMenu *boardPopup() const { return m_popup; }
     QToolBar *toolBar() const { return m_toolBar; }
     QTimer &autosaveTimer() { return m_autosaveTimer; }
-    HelpWindow *helpWindow() const { return m_help.get(); }
-    // The entry (main menu, pop-up or zoom item) without marking it served.
-    QAction *findAction(const QString &objectName) const { return m_actions.value(objectName); }
-    bool isServed(const QAction *action) const;
+    // The program's help window; null until a page was shown.
+    HelpWindow *helpWindow() const;
+    // Shows a help page ("contents.html") in the program's help window.
+    void showHelp(const QString &page);
+    // The entry (main menu, pop-up or zoom item); null for a name no table declares.
+    QAction *findAction(const QString &objectName) const;
+    // Every area's entries as the window assembled them.
+    const MenuCommands &menuCommands() const { return *m_commands; }
 
     // ---- Start-up
     // The file named on the command line, opened on first show.
@@ -147,10 +143,7 @@ private:
     void buildMenus();
     void buildPopup();
     void buildToolBar();
-    void connectShellCommands();
-    QAction *addEntry(QMenu *menu, const char *name, const QString &caption, const QString &shortcut = {});
-    QAction *addPopupEntry(const char *name, const QString &caption, const QString &shortcut, const char *twin);
-    void enableIf(const char *name, bool state);
+    void connectWindowParts();
     void applySettings();
     void FormShow();
 
@@ -171,14 +164,10 @@ private:
     // The Undo and Redo entries as last shown.
     UndoCommandState m_undoShown = UndoCommands(UndoStack());
 
-    QHash<QString, QAction *> m_actions;
-    QSet<const QAction *> m_served;
-    // Shortcut keys already claimed by an earlier entry of the main menu.
-    QHash<QString, QAction *> m_claimedKeys;
+    MenuCommands *m_commands = nullptr;
 
     TfrmPref *m_pref = nullptr;
     TfrmAbout *m_about = nullptr;
-    std::unique_ptr<HelpWindow> m_help;
 
     QString m_programFolder;
     QString m_autosavePath;

@@ -51,12 +51,11 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(icon);
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brenholt.Torvanbridge"));
 
-    // 3. The forms, the main window first. The dialogs are made on first use and
+    // 3. The forms, the main window first; it makes every area's dialogs, which are
     //    kept until the program ends.
     tb::ScheduleDocument doc;
     tb::Settings settings;
     tb::TfrmMain main(doc, settings);
-    main.installSubsystemCommands();
     tb::MessageBoxPrompter prompter(&main);
     doc.setPrompter(&prompter);
     const QStringList args = QApplication::arguments();

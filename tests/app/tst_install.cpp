@@ -1,6 +1,7 @@
-// The installed program: `cmake --install` into a temporary DESTDIR under /usr, then
-// both programs run from there on the installed example, with the files the desktop
-// needs checked by its own tools where they are installed (skipped otherwise).
+// The installed program: `cmake --install` into a temporary DESTDIR under /usr,
+// then both programs run from there on the installed example, with the files
+// the desktop needs checked by its own tools where they are installed (skipped
+// otherwise).
 
 #include "TestSupport.h"
 
@@ -17,12 +18,14 @@ using namespace tb::test;
 
 namespace {
 
-struct Run
+// Adds one data row.
+template <typename... T>
+void row(const char *tag, const T &...values)
 {
-    int code = -1;
-    QString out;
-    QString err;
-};
+    (QTest::newRow(tag) << ... << values);
+}
+
+using Run = CliRun;
 
 Run run(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000)
 {
@@ -34,7 +37,7 @@ Run run(const QString &program, const QStringList &args, const QString &folder =
     if (!p.waitForFinished(timeoutMs)) {
         p.kill();
         p.waitForFinished();
-        r.err = QStringLiteral("timed out: ") + program;
+        r.err = "timed out: " + program;
         return r;
     }
     r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
@@ -46,12 +49,13 @@ Run run(const QString &program, const QStringList &args, const QString &folder =
 // Bash's answer to a completion request for the line, run in the folder.
 QString complete(const QString &script, const QString &line, const QString &folder)
 {
-    const QString words = line.endsWith(u' ') ? line + QStringLiteral("''") : line;
-    const QString command =
-        QStringLiteral("source '%1'; COMP_WORDS=(%2); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
-                       "_torvanbridge_cli; printf '%s\\n' \"${COMPREPLY[@]}\" | sort | tr '\\n' ' '")
-            .arg(script, words);
-    return run(QStringLiteral("bash"), {QStringLiteral("-c"), command}, folder).out.trimmed();
+    const QString words = line.endsWith(u' ') ? line + "''" : line;
+    const QString command = QStringLiteral("source '%1'; COMP_WORDS=(%2); "
+                                           "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+                                           "_torvanbridge_cli; printf '%s\\n' \"${COMPREPLY[@]}\" | "
+                                           "sort | tr '\\n' ' '")
+                                .arg(script, words);
+    return run("bash", {"-c", command}, folder).out.trimmed();
 }
 
 } // namespace
@@ -64,8 +68,8 @@ private:
     QTemporaryDir m_root;
     QString m_usr;
     QString path(const QString &relative) const { return m_usr + u'/' + relative; }
-    QString cli() const { return path(QStringLiteral("bin/torvanbridge-cli")); }
-    QString example() const { return path(QStringLiteral("share/torvanbridge/examples/harbour-lights.tbf")); }
+    QString cli() const { return path("bin/torvanbridge-cli"); }
+    QString example() const { return path("share/torvanbridge/examples/harbour-lights.tbf"); }
 
 private Q_SLOTS:
     void initTestCase()
@@ -73,13 +77,13 @@ private Q_SLOTS:
         QVERIFY(m_root.isValid());
         QProcess install;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("DESTDIR"), m_root.path());
+        env.insert("DESTDIR", m_root.path());
         install.setProcessEnvironment(env);
-        install.start(QStringLiteral(TB_CMAKE_COMMAND), {QStringLiteral("--install"), QStringLiteral(TB_BINARY_DIR),
-                                                         QStringLiteral("--prefix"), QStringLiteral("/usr")});
+        install.start(QStringLiteral(TB_CMAKE_COMMAND),
+                      {"--install", QStringLiteral(TB_BINARY_DIR), "--prefix", "/usr"});
         QVERIFY(install.waitForFinished(120000));
         QVERIFY2(install.exitCode() == 0, install.readAllStandardError().constData());
-        m_usr = m_root.path() + QStringLiteral("/usr");
+        m_usr = m_root.path() + "/usr";
     }
 
     void layout_data()
@@ -96,7 +100,7 @@ private Q_SLOTS:
               "share/icons/hicolor/scalable/apps/com.brenholt.Torvanbridge.svg", "share/man/man1/torvanbridge.1.gz",
               "share/man/man1/torvanbridge-cli.1.gz", "share/bash-completion/completions/torvanbridge-cli",
               "share/doc/torvanbridge/changelog.gz"})
-            QTest::newRow(file) << QString::fromLatin1(file);
+            row(file, QString::fromLatin1(file));
     }
     void layout()
     {
@@ -107,28 +111,28 @@ private Q_SLOTS:
     // The installed tool finds the installed templates: nothing lies beside it.
     void commandLineToolRunsInstalled()
     {
-        QVERIFY(!QFile::exists(path(QStringLiteral("bin/ShootSch1.dfm"))));
-        const Run info = run(cli(), {QStringLiteral("info"), example()});
+        QVERIFY(!QFile::exists(path("bin/ShootSch1.dfm")));
+        const Run info = run(cli(), {"info", example()});
         QCOMPARE(info.code, 0);
-        QVERIFY(info.out.startsWith(QStringLiteral("Title:       Harbour Lights")));
-        const QString pdf = m_root.filePath(QStringLiteral("schedule.pdf"));
-        const Run report =
-            run(cli(), {QStringLiteral("report"), QStringLiteral("schedule"), example(), QStringLiteral("-o"), pdf});
+        QVERIFY(info.out.startsWith("Title:       Harbour Lights"));
+        const QString pdf = m_root.filePath("schedule.pdf");
+        const Run report = run(cli(), {"report", "schedule", example(), "-o", pdf});
         QVERIFY2(report.code == 0, qPrintable(report.err));
         QVERIFY(ReadFileBytes(pdf).startsWith("%PDF"));
     }
 
-    // The desktop program starts on the example and keeps running without a complaint.
+    // The desktop program starts on the example and keeps running without a
+    // complaint.
     void desktopProgramRunsInstalled()
     {
-        const QString program = path(QStringLiteral("bin/torvanbridge"));
-        const Run version = run(program, {QStringLiteral("--version")});
+        const QString program = path("bin/torvanbridge");
+        const Run version = run(program, {"--version"});
         QCOMPARE(version.out.trimmed(), QStringLiteral("torvanbridge " TB_VERSION));
-        QVERIFY(run(program, {QStringLiteral("--help")}).out.contains(QStringLiteral("Usage: torvanbridge [FILE]")));
+        QVERIFY(run(program, {"--help"}).out.contains("Usage: torvanbridge [FILE]"));
 
         QProcess gui;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        env.insert("QT_QPA_PLATFORM", "offscreen");
         gui.setProcessEnvironment(env);
         gui.start(program, {example()});
         QVERIFY(gui.waitForStarted());
@@ -143,27 +147,25 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("page");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("torvanbridge") << "torvanbridge"
-                                      << "torvanbridge [FILE]";
-        QTest::newRow("torvanbridge-cli") << "torvanbridge-cli"
-                                          << "export IN -o OUT.csv|OUT.html";
+        row("torvanbridge", "torvanbridge", "torvanbridge [FILE]");
+        row("torvanbridge-cli", "torvanbridge-cli", "export IN -o OUT.csv|OUT.html");
     }
     void manualPages()
     {
         QFETCH(QString, page);
         QFETCH(QString, expected);
-        const QString file = path(QStringLiteral("share/man/man1/") + page + QStringLiteral(".1.gz"));
-        const Run text = run(QStringLiteral("gzip"), {QStringLiteral("-dc"), file});
-        QVERIFY(text.out.startsWith(QStringLiteral(".TH ") + page.toUpper() + QStringLiteral(" 1 ")));
-        if (QStandardPaths::findExecutable(QStringLiteral("man")).isEmpty())
+        const QString file = path("share/man/man1/" + page + ".1.gz");
+        const Run text = run("gzip", {"-dc", file});
+        QVERIFY(text.out.startsWith(".TH " + page.toUpper() + " 1 "));
+        if (QStandardPaths::findExecutable("man").isEmpty())
             QSKIP("man is not installed");
         QProcess man;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("MANWIDTH"), QStringLiteral("200"));
-        env.remove(QStringLiteral("MAN_KEEP_FORMATTING"));
-        env.insert(QStringLiteral("LC_ALL"), QStringLiteral("C")); // plain hyphens
+        env.insert("MANWIDTH", "200");
+        env.remove("MAN_KEEP_FORMATTING");
+        env.insert("LC_ALL", "C"); // plain hyphens
         man.setProcessEnvironment(env);
-        man.start(QStringLiteral("man"), {QStringLiteral("-P"), QStringLiteral("cat"), QStringLiteral("-l"), file});
+        man.start("man", {"-P", "cat", "-l", file});
         QVERIFY(man.waitForFinished(30000));
         QCOMPARE(man.exitCode(), 0);
         QVERIFY(QString::fromUtf8(man.readAllStandardOutput()).contains(expected));
@@ -173,42 +175,29 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("commands") << "torvanbridge-cli ex"
-                                  << "export";
-        QTest::newRow("after --locale") << "torvanbridge-cli --locale C rem"
-                                        << "remove-banners remove-dividers";
-        QTest::newRow("schedules") << "torvanbridge-cli info "
-                                   << "a.tbf sub";
-        QTest::newRow("report kinds") << "torvanbridge-cli report s"
-                                      << "schedule";
-        QTest::newRow("report input") << "torvanbridge-cli report schedule "
-                                      << "a.tbf sub";
-        QTest::newRow("output kinds") << "torvanbridge-cli export a.tbf -o "
-                                      << "b.csv sub";
-        QTest::newRow("choices") << "torvanbridge-cli export a.tbf --colours "
-                                 << "classic plain";
-        QTest::newRow("options") << "torvanbridge-cli details a.tbf --pr"
-                                 << "--prepared-by --producer";
-        QTest::newRow("screenplay") << "torvanbridge-cli import-text "
-                                    << "script.txt sub";
-        QTest::newRow("any file") << "torvanbridge-cli import-fountain "
-                                  << "a.tbf b.csv c.pdf script.txt sub";
-        QTest::newRow("after an option's value") << "torvanbridge-cli board --scale 2 "
-                                                 << "a.tbf sub";
+        row("commands", "torvanbridge-cli ex", "export");
+        row("after --locale", "torvanbridge-cli --locale C rem", "remove-banners remove-dividers");
+        row("schedules", "torvanbridge-cli info ", "a.tbf sub");
+        row("report kinds", "torvanbridge-cli report s", "schedule");
+        row("report input", "torvanbridge-cli report schedule ", "a.tbf sub");
+        row("output kinds", "torvanbridge-cli export a.tbf -o ", "b.csv sub");
+        row("choices", "torvanbridge-cli export a.tbf --colours ", "classic plain");
+        row("options", "torvanbridge-cli details a.tbf --pr", "--prepared-by --producer");
+        row("screenplay", "torvanbridge-cli import-text ", "script.txt sub");
+        row("any file", "torvanbridge-cli import-fountain ", "a.tbf b.csv c.pdf script.txt sub");
+        row("after an option's value", "torvanbridge-cli board --scale 2 ", "a.tbf sub");
     }
     void completion()
     {
         QFETCH(QString, line);
         QFETCH(QString, expected);
-        if (QStandardPaths::findExecutable(QStringLiteral("bash")).isEmpty())
+        if (QStandardPaths::findExecutable("bash").isEmpty())
             QSKIP("bash is not installed");
         QTemporaryDir folder;
-        QDir(folder.path()).mkdir(QStringLiteral("sub"));
+        QDir(folder.path()).mkdir("sub");
         for (const char *name : {"a.tbf", "b.csv", "script.txt", "c.pdf"})
             QFile(folder.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly);
-        QCOMPARE(
-            complete(path(QStringLiteral("share/bash-completion/completions/torvanbridge-cli")), line, folder.path()),
-            expected);
+        QCOMPARE(complete(path("share/bash-completion/completions/torvanbridge-cli"), line, folder.path()), expected);
     }
 
     void fileTypes_data()
@@ -216,12 +205,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("type");
-        QTest::newRow("by name") << "a.tbf" << QByteArray("anything\n") << "application/x-torvanbridge-schedule";
-        QTest::newRow("by content") << "renamed.txt"
-                                    << QByteArray("Torvanbridge data file. DO NOT EDIT THIS FILE DIRECTLY!\r\n1.0\r\n")
-                                    << "application/x-torvanbridge-schedule";
-        QTest::newRow("call sheet") << "day1.tbs" << QByteArray("Torvanbridge call sheet file V1\r\n")
-                                    << "application/x-torvanbridge-call-sheet";
+        row("by name", "a.tbf", QByteArray("anything\n"), "application/x-torvanbridge-schedule");
+        row("by content", "renamed.txt",
+            QByteArray("Torvanbridge data file. DO NOT EDIT THIS FILE "
+                       "DIRECTLY!\r\n1.0\r\n"),
+            "application/x-torvanbridge-schedule");
+        row("call sheet", "day1.tbs", QByteArray("Torvanbridge call sheet file V1\r\n"),
+            "application/x-torvanbridge-call-sheet");
     }
     void fileTypes()
     {
@@ -242,11 +232,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("tool");
         QTest::addColumn<QStringList>("args");
-        QTest::newRow("desktop entry") << "desktop-file-validate"
-                                       << QStringList{path("share/applications/com.brenholt.Torvanbridge.desktop")};
-        QTest::newRow("metainfo") << "appstreamcli"
-                                  << QStringList{"validate", "--no-net",
-                                                 path("share/metainfo/com.brenholt.Torvanbridge.metainfo.xml")};
+        row("desktop entry", "desktop-file-validate",
+            QStringList{path("share/applications/com.brenholt.Torvanbridge.desktop")});
+        row("metainfo", "appstreamcli",
+            QStringList{"validate", "--no-net", path("share/metainfo/com.brenholt.Torvanbridge.metainfo.xml")});
     }
     void validators()
     {
@@ -258,47 +247,43 @@ private Q_SLOTS:
         QVERIFY2(r.code == 0, qPrintable(r.out + r.err));
     }
 
-    // The spreadsheet export opens in LibreOffice: converted back from its own reading,
-    // the cells hold what was written.
+    // The spreadsheet export opens in LibreOffice: converted back from its own
+    // reading, the cells hold what was written.
     void spreadsheetOpensInLibreOffice()
     {
-        QString office = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+        QString office = QStandardPaths::findExecutable("soffice");
         if (office.isEmpty())
             QSKIP("LibreOffice is not installed");
         QTemporaryDir folder;
-        const QString csv = folder.filePath(QStringLiteral("board.csv"));
-        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), csv}).code, 0);
-        const Run convert = run(
-            office,
-            {QStringLiteral("-env:UserInstallation=file://") + folder.filePath(QStringLiteral("lo")),
-             QStringLiteral("--headless"), QStringLiteral("--infilter=CSV:44,34,76,1"), QStringLiteral("--convert-to"),
-             QStringLiteral("html"), QStringLiteral("--outdir"), folder.filePath(QStringLiteral("out")), csv},
-            {}, 180000);
+        const QString csv = folder.filePath("board.csv");
+        QCOMPARE(run(cli(), {"export", example(), "-o", csv}).code, 0);
+        const Run convert =
+            run(office,
+                {"-env:UserInstallation=file://" + folder.filePath("lo"), "--headless", "--infilter=CSV:44,34,76,1",
+                 "--convert-to", "html", "--outdir", folder.filePath("out"), csv},
+                {}, 180000);
         QVERIFY2(convert.code == 0, qPrintable(convert.err));
-        const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath(QStringLiteral("out/board.html"))));
-        QCOMPARE(table.count(QStringLiteral("<tr")), 1 + 79); // the header and every strip, line breaks kept in cells
+        const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath("out/board.html")));
+        QCOMPARE(table.count("<tr"),
+                 1 + 79); // the header and every strip, line breaks kept in cells
         for (const char *cell : {"Shooting day", "MARY ELLEN - DECK", "Old Billy sings the drowned men's song"})
             QVERIFY2(table.contains(QString::fromLatin1(cell).toHtmlEscaped()), cell);
     }
 
-    // The web page export shows in a browser: a phone-sized screenshot holds the strips'
-    // colours.
+    // The web page export shows in a browser: a phone-sized screenshot holds the
+    // strips' colours.
     void webPageShowsInChromium()
     {
-        QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
+        QString browser = QStandardPaths::findExecutable("chromium");
         if (browser.isEmpty())
             QSKIP("Chromium is not installed");
         QTemporaryDir folder;
-        const QString html = folder.filePath(QStringLiteral("board.html"));
-        QCOMPARE(run(cli(), {QStringLiteral("export"), example(), QStringLiteral("-o"), html,
-                             QStringLiteral("--colours"), QStringLiteral("classic")})
-                     .code,
-                 0);
-        const QString shot = folder.filePath(QStringLiteral("board.png"));
+        const QString html = folder.filePath("board.html");
+        QCOMPARE(run(cli(), {"export", example(), "-o", html, "--colours", "classic"}).code, 0);
+        const QString shot = folder.filePath("board.png");
         const Run r = run(browser,
-                          {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
-                           QStringLiteral("--disable-gpu"), QStringLiteral("--window-size=412,1600"),
-                           QStringLiteral("--screenshot=") + shot, QStringLiteral("file://") + html},
+                          {"--headless", "--no-sandbox", "--disable-gpu", "--window-size=412,1600",
+                           "--screenshot=" + shot, "file://" + html},
                           {}, 120000);
         QVERIFY2(QFile::exists(shot), qPrintable(r.err));
         const QImage image(shot);

@@ -1,4 +1,4 @@
-// The main window with every subsystem installed, as the program runs it.
+// The main window with every area's dialogs, driven through its menu entries as a user would.
 
 #include "TestSupport.h"
 
@@ -40,9 +40,6 @@ namespace {
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
 const QString ImportData = QStringLiteral(TB_IMPORT_DATA);
 
-// Every report entry is served now.
-const QStringList Unserved = {};
-
 struct Program
 {
     Program()
@@ -50,7 +47,6 @@ struct Program
     {
         doc.setPrompter(&prompter);
         main = std::make_unique<TfrmMain>(doc, settings);
-        main->installSubsystemCommands();
         main->setFirstShowPause(0);
         main->hasPrinter = [] { return true; };
         main->setAutosavePath(TempPath("whole-autosave.tbf"));
@@ -103,32 +99,6 @@ class TestWholeProgram : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyEntryIsServed()
-    {
-        Program p;
-        QVERIFY(p.start());
-        QVERIFY(OpenDocument(p.doc, Example).ok());
-        p.doc.SelStart = p.doc.SelEnd = 1;
-        p.doc.SelElement = -1;
-        SetModified(p.doc);
-        QStringList disabled;
-        for (QAction *a : p.main->findChildren<QAction *>()) {
-            const QString name = a->objectName();
-            if (name.isEmpty() || name.startsWith("N") || a->menu())
-                continue;
-            if (!a->isEnabled())
-                disabled.append(name);
-        }
-        disabled.sort();
-        // With a scene selected, only the entries nobody serves, the element entries that
-        // need an element, the edit-banner entry, paste with an empty clipboard, undo with
-        // nothing to undo and the inert redo are off.
-        QStringList expected = Unserved + QStringList{"EditBanner1", "Editelement1", "Paste1", "PopEditelement1",
-                                                      "PopPaste1",   "Redo1",        "Undo1"};
-        expected.sort();
-        QCOMPARE(disabled, expected);
-    }
-
     void dialogsAreMadeOnce()
     {
         Program p;

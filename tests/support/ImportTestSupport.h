@@ -23,6 +23,15 @@ inline QStringList Cast(const ScheduleDocument &doc)
     return names;
 }
 
+// One field of every strip, in board order.
+inline QStringList StripColumn(const ScheduleDocument &doc, StripField field)
+{
+    QStringList values;
+    for (int row = 1; row <= doc.strips.count(); ++row)
+        values.append(doc.strips[row][field]);
+    return values;
+}
+
 // Writes a file in the test's temporary folder and returns its path.
 inline QString WriteFile(const QString &name, const QByteArray &bytes)
 {

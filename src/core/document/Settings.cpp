@@ -469,7 +469,8 @@ std::optional<PromptReply> AskUnlessRemembered(Prompter &prompter, Settings &set
 {
     if (settings.skipWarning(which))
         return std::nullopt;
-    prompt.checkBoxText = QString::fromLatin1(DontShowAgainText);
+    if (prompt.checkBoxText.isEmpty())
+        prompt.checkBoxText = QString::fromLatin1(DontShowAgainText);
     prompt.checkBoxChecked = false;
     const PromptReply reply = prompter.ask(prompt);
     // Should the file not be writable the warning simply comes again next time.

@@ -232,8 +232,9 @@ Result ApplyPreferences(ScheduleDocument &doc, Settings &settings, const Prefere
 inline constexpr const char *DontShowAgainText = "Don't show this message again";
 
 // Shows a warning that the user can switch off: nothing is shown, and no reply is
-// given, when it was switched off before; otherwise the prompt is shown with the
-// "Don't show this message again" box, and a ticked box is stored at once.
+// given, when it was switched off before; otherwise the prompt is shown with its
+// check box (the prompt's own caption, or "Don't show this message again"), and a
+// ticked box is stored at once. Every such question of the program goes through here.
 std::optional<PromptReply> AskUnlessRemembered(Prompter &prompter, Settings &settings, RememberedWarning which,
                                                Prompt prompt);
 

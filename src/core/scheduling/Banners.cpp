@@ -32,6 +32,15 @@ bool FirstSelectedIsBanner(const ScheduleDocument &doc)
     return hasSelectedStrip(doc) && doc.strips[doc.SelStart].isBanner();
 }
 
+bool HasAutoRestDays(const ScheduleDocument &doc)
+{
+    for (int i = 1; i <= doc.strips.count(); ++i) {
+        if (doc.strips[i].isAutoRestDay())
+            return true;
+    }
+    return false;
+}
+
 bool CanInsertBanner(ScheduleDocument &doc)
 {
     if (hasSelectedStrip(doc))

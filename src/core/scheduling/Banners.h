@@ -36,6 +36,9 @@ inline constexpr int MaxBannerDays = 365;
 bool HasBanners(const ScheduleDocument &doc);
 // Whether the first selected strip is a banner; "Edi&t banner..." is enabled by it.
 bool FirstSelectedIsBanner(const ScheduleDocument &doc);
+// Whether the board holds an automatic rest day; "Convert auto-rest days to banners..."
+// is enabled by it.
+bool HasAutoRestDays(const ScheduleDocument &doc);
 
 // The checks of "In&sert banner..." and "Edi&t banner..." before the dialog opens:
 // without a selected strip the user is told so and the result is false.

@@ -4,6 +4,7 @@
 
 #include "document/DayCalculation.h"
 #include "document/ScheduleDocument.h"
+#include "document/Settings.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -108,9 +109,10 @@ protected:
     }
 };
 
-BoardView::BoardView(ScheduleDocument &doc, QWidget *parent)
+BoardView::BoardView(ScheduleDocument &doc, Settings &settings, QWidget *parent)
     : QWidget(parent)
     , m_doc(doc)
+    , m_settings(settings)
     , m_pbox(new BoardPaintBox(this))
     , m_hScroll(new QScrollBar(Qt::Horizontal, this))
     , m_vScroll(new QScrollBar(Qt::Vertical, this))
@@ -350,16 +352,11 @@ void BoardView::PBoxMouseDown(QMouseEvent *event, bool doubleClick)
     if (pos.x() > g.colW && m_doc.strips.count() >= 1) {
         if (m_hovered >= 1 && m_hovered <= m_doc.strips.count() && m_doc.strips[m_hovered].isAutoRestDay()) {
             // Rest days are placed by the calendar; they cannot be picked up.
-            if (!(skipAutoRestWarning && skipAutoRestWarning())) {
-                Prompt prompt;
-                prompt.kind = MessageKind::Warning;
-                prompt.text = AutoRestClickText;
-                prompt.buttons = Buttons::Ok;
-                prompt.checkBoxText = DontShowAgainText;
-                const PromptReply reply = m_doc.prompter().ask(prompt);
-                if (reply.checkBoxChecked && setSkipAutoRestWarning)
-                    setSkipAutoRestWarning(true);
-            }
+            Prompt prompt;
+            prompt.kind = MessageKind::Warning;
+            prompt.text = AutoRestClickText;
+            prompt.buttons = Buttons::Ok;
+            (void)AskUnlessRemembered(m_doc.prompter(), m_settings, RememberedWarning::AutoRestClick, prompt);
             m_pbox->unsetCursor();
             m_doc.SelStart = 0;
             m_doc.SelEnd = 0;

@@ -18,6 +18,7 @@ class QWheelEvent;
 namespace tb {
 
 class ScheduleDocument;
+class Settings;
 class BoardPaintBox;
 class BoardDropArrow;
 
@@ -32,7 +33,8 @@ class BoardView : public QWidget
     Q_OBJECT
 
 public:
-    explicit BoardView(ScheduleDocument &doc, QWidget *parent = nullptr);
+    // The settings keep the remembered answer of the warning on clicking an auto rest day.
+    BoardView(ScheduleDocument &doc, Settings &settings, QWidget *parent = nullptr);
     ~BoardView() override;
 
     // The preference values the board is drawn with (colours, font, description
@@ -87,12 +89,6 @@ public:
     // What the last paint drew (the last strip and element row among it).
     const BoardDrawResult &lastDraw() const { return m_lastDraw; }
 
-    // The remembered answer of the auto rest day warning: when skipAutoRestWarning
-    // returns true the warning is not shown; setSkipAutoRestWarning receives the
-    // message's "Don't show this message again" box when ticked. Unset: always warn.
-    std::function<bool()> skipAutoRestWarning;
-    std::function<void(bool)> setSkipAutoRestWarning;
-
     // The parts, for the main window's layout code and for tests.
     QWidget *paintBox() const;
     QScrollBar *horizontalBar() const { return m_hScroll; }
@@ -133,6 +129,7 @@ private:
     void endDrag();
 
     ScheduleDocument &m_doc;
+    Settings &m_settings;
     BoardStyle m_style;
     double m_scale = 1.0;
     BoardBuffer m_buffer;

@@ -1,5 +1,4 @@
 #include "ui/breakdown/TfrmAddElement.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui_TfrmAddElement.h"
 
@@ -14,7 +13,7 @@ namespace tb {
 const QString TfrmAddElement::HelpPage = QStringLiteral("element.html");
 
 TfrmAddElement::TfrmAddElement(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , m_ui(std::make_unique<Ui::TfrmAddElement>())
 {
@@ -24,7 +23,6 @@ TfrmAddElement::TfrmAddElement(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmAddElement::CancelButClick);
     // Only a choice made by the user replaces the ID; filling the form does not.
     connect(m_ui->CatCombo, &QComboBox::activated, this, &TfrmAddElement::CatComboChange);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmAddElement::~TfrmAddElement() = default;

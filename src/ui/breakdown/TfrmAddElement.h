@@ -2,7 +2,7 @@
 
 #include "breakdown/ElementEditing.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QList>
 
 #include <memory>
@@ -16,7 +16,7 @@ namespace tb {
 class ScheduleDocument;
 
 // "Element": creates or edits one breakdown element and the scenes it is assigned to.
-class TfrmAddElement : public QDialog
+class TfrmAddElement : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -31,9 +31,6 @@ public:
     // The category a new element starts in (1 = cast). The scene editor sets it to the
     // column last right-clicked, and it stays until changed.
     int currentCategory = 1;
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -1,5 +1,4 @@
 #include "ui/breakdown/TfrmConform.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui_TfrmConform.h"
 
@@ -25,7 +24,7 @@ QColor bannerColour()
 const QString TfrmConform::HelpPage = QStringLiteral("conform-strip-order.html");
 
 TfrmConform::TfrmConform(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , m_ui(std::make_unique<Ui::TfrmConform>())
 {
@@ -44,7 +43,6 @@ TfrmConform::TfrmConform(ScheduleDocument &doc, QWidget *parent)
     grid->installEventFilter(this);
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmConform::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmConform::CancelButClick);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmConform::~TfrmConform() = default;

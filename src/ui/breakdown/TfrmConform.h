@@ -2,7 +2,7 @@
 
 #include "breakdown/StripOrder.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <memory>
 
@@ -16,7 +16,7 @@ class ScheduleDocument;
 
 // "Conform strip order": the user types the wanted order of breakdown sheet numbers,
 // with dividers, rest days and banners between them, and the board is rebuilt so.
-class TfrmConform : public QDialog
+class TfrmConform : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -29,9 +29,6 @@ public:
     static constexpr int VisibleLines = 11;
 
     const ConformList &entries() const { return m_list; }
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -1,5 +1,4 @@
 #include "ui/breakdown/TfrmProdInfo.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui_TfrmProdInfo.h"
 
@@ -19,7 +18,7 @@ namespace tb {
 const QString TfrmProdInfo::HelpPage = QStringLiteral("production-details.html");
 
 TfrmProdInfo::TfrmProdInfo(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , m_ui(std::make_unique<Ui::TfrmProdInfo>())
 {
@@ -39,7 +38,6 @@ TfrmProdInfo::TfrmProdInfo(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmProdInfo::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmProdInfo::CancelbutClick);
     connect(m_ui->LogoBut, &QPushButton::clicked, this, &TfrmProdInfo::LogoButClick);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmProdInfo::~TfrmProdInfo() = default;

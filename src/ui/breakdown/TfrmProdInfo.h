@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QImage>
 
 #include <memory>
@@ -14,7 +14,7 @@ namespace tb {
 class ScheduleDocument;
 
 // "Production details": titles, names, address, logo, default call times and crew.
-class TfrmProdInfo : public QDialog
+class TfrmProdInfo : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -29,9 +29,6 @@ public:
     QString logoFile() const { return m_logoFile; }
     // What Logo... does once a file is chosen.
     void loadChosenLogo(const QString &path);
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -1,5 +1,4 @@
 #include "ui/breakdown/TfrmSort.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui_TfrmSort.h"
 
@@ -22,7 +21,7 @@ constexpr int ColumnWidths[SortColumn::Count] = {25, 40, 165, 30, 30, 200};
 const QString TfrmSort::HelpPage = QStringLiteral("sort-strips.html");
 
 TfrmSort::TfrmSort(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , m_ui(std::make_unique<Ui::TfrmSort>())
 {
@@ -53,7 +52,6 @@ TfrmSort::TfrmSort(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->UnSortBut, &QPushButton::clicked, this, &TfrmSort::UnSortButClick);
     connect(m_ui->OKBut, &QPushButton::clicked, this, &TfrmSort::OKButClick);
     connect(m_ui->CancelBut, &QPushButton::clicked, this, &TfrmSort::CancelButClick);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmSort::~TfrmSort() = default;

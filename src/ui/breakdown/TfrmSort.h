@@ -2,7 +2,7 @@
 
 #include "breakdown/StripOrder.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QList>
 
 #include <memory>
@@ -16,7 +16,7 @@ namespace tb {
 class ScheduleDocument;
 
 // "Sort strips": previews a sort of the scene strips by up to three keys and applies it.
-class TfrmSort : public QDialog
+class TfrmSort : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -25,9 +25,6 @@ public:
     ~TfrmSort() override;
 
     static const QString HelpPage;
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;

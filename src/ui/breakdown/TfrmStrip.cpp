@@ -1,5 +1,4 @@
 #include "ui/breakdown/TfrmStrip.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui_TfrmStrip.h"
 
@@ -8,6 +7,7 @@
 
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
+#include "document/Settings.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -45,9 +45,10 @@ QString menuText(QString text)
 
 const QString TfrmStrip::HelpPage = QStringLiteral("scene-breakdown.html");
 
-TfrmStrip::TfrmStrip(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+TfrmStrip::TfrmStrip(ScheduleDocument &doc, Settings &settings, QWidget *parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
+    , m_settings(settings)
     , m_ui(std::make_unique<Ui::TfrmStrip>())
 {
     m_ui->setupUi(this);
@@ -88,8 +89,6 @@ TfrmStrip::TfrmStrip(ScheduleDocument &doc, QWidget *parent)
     connect(m_ui->LocEdit, &QComboBox::editTextChanged, this, &TfrmStrip::SceneEditChange);
     connect(m_ui->SetEdit, &QComboBox::editTextChanged, this, &TfrmStrip::SceneEditChange);
     connect(m_ui->NotesMemo, &QPlainTextEdit::textChanged, this, &TfrmStrip::SceneEditChange);
-
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(HelpPage); });
 }
 
 TfrmStrip::~TfrmStrip() = default;
@@ -360,20 +359,15 @@ void TfrmStrip::PrevButClick()
 void TfrmStrip::stepStrip(int direction)
 {
     if (m_changed) {
-        bool save = true;
+        Prompt prompt;
+        prompt.kind = MessageKind::Warning;
+        prompt.text = SceneChangeWarning;
+        prompt.buttons = Buttons::YesNo;
+        prompt.checkBoxText = RememberChoice;
+        const std::optional<PromptReply> reply =
+            AskUnlessRemembered(m_doc.prompter(), m_settings, RememberedWarning::SceneChange, prompt);
         // A remembered answer skips the question and saves, as Yes would.
-        if (!(skipSceneChangeWarning && skipSceneChangeWarning())) {
-            Prompt prompt;
-            prompt.kind = MessageKind::Warning;
-            prompt.text = SceneChangeWarning;
-            prompt.buttons = Buttons::YesNo;
-            prompt.checkBoxText = RememberChoice;
-            const PromptReply reply = m_doc.prompter().ask(prompt);
-            if (reply.checkBoxChecked && setSkipSceneChangeWarning)
-                setSkipSceneChangeWarning(true);
-            save = reply.answer == Answer::Yes;
-        }
-        if (save)
+        if (!reply || reply->answer == Answer::Yes)
             AddContButClick();
     }
     m_changed = false;

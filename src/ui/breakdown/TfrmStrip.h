@@ -2,7 +2,7 @@
 
 #include "breakdown/SceneEditing.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QList>
 #include <QPointer>
 
@@ -20,17 +20,19 @@ class TfrmStrip;
 namespace tb {
 
 class ScheduleDocument;
+class Settings;
 class TfrmAddElement;
 
 // "Scene breakdown": adds, inserts or edits one scene strip with its elements. The
 // caller sets the strip editor mode editMode (1 add, 9 insert, 4 edit) and, for
 // insert and edit, currentStrip before showing it.
-class TfrmStrip : public QDialog
+class TfrmStrip : public DialogWithHelp
 {
     Q_OBJECT
 
 public:
-    explicit TfrmStrip(ScheduleDocument &doc, QWidget *parent = nullptr);
+    // The settings keep the remembered answer of the warning on Prev strip / Next strip.
+    TfrmStrip(ScheduleDocument &doc, Settings &settings, QWidget *parent = nullptr);
     ~TfrmStrip() override;
 
     static const QString HelpPage;
@@ -49,18 +51,10 @@ public:
     int currentStrip = 0;
     int linesPerPage = DefaultLinesPerPage;
 
-    // The remembered answer of the warning on Prev strip / Next strip. When not set,
-    // the warning is always shown.
-    std::function<bool()> skipSceneChangeWarning;
-    std::function<void(bool)> setSkipSceneChangeWarning;
-
     // The element pop-up menu while it is open (for tests and accessibility tools).
     QMenu *elementPopup() const;
     const AssignmentFlags &assignmentFlags() const { return m_flags; }
     bool isChanged() const { return m_changed; }
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -88,6 +82,7 @@ private:
     void SceneEditChange();
 
     ScheduleDocument &m_doc;
+    Settings &m_settings;
     std::unique_ptr<Ui::TfrmStrip> m_ui;
     QPointer<TfrmAddElement> m_elementDialog;
     AssignmentFlags m_flags;

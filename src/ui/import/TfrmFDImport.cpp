@@ -1,7 +1,6 @@
 #include "ui/import/TfrmFDImport.h"
 
 #include "import/ImportSummary.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "import/FinalDraftImport.h"
 #include "ui_TfrmFDImport.h"
@@ -13,12 +12,11 @@
 namespace tb {
 
 TfrmFDImport::TfrmFDImport(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , ui(std::make_unique<Ui::TfrmFDImport>())
 {
     ui->setupUi(this);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(QString::fromLatin1(HelpPage)); });
 
     chooseFile = [this](const QString &title, const QString &current) {
         return QFileDialog::getOpenFileName(this, title, current.isEmpty() ? QString() : QFileInfo(current).path(),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QString>
 
 #include <functional>
@@ -17,7 +17,7 @@ class ScheduleDocument;
 // The Final Draft import: the Scene Report and the Script Report, both saved from
 // Final Draft as text files, read into new scene strips and cast elements
 // (ImportFinalDraft). The caller empties the document before showing it.
-class TfrmFDImport : public QDialog
+class TfrmFDImport : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -31,9 +31,6 @@ public:
     // The open dialog: its title and the current file name in, the chosen file out
     // (empty when cancelled). Tests put their own answers here.
     std::function<QString(const QString &title, const QString &current)> chooseFile;
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     void showEvent(QShowEvent *event) override;

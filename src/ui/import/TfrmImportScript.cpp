@@ -1,5 +1,4 @@
 #include "ui/import/TfrmImportScript.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "import/CharacterReview.h"
 #include "import/FdxImport.h"
@@ -80,12 +79,11 @@ QStringList Items(const QListWidget *list)
 } // namespace
 
 TfrmImportScript::TfrmImportScript(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(HelpPage), parent)
     , m_doc(doc)
     , ui(std::make_unique<Ui::TfrmImportScript>())
 {
     ui->setupUi(this);
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(QString::fromLatin1(HelpPage)); });
     ui->ImportEdit->setFont(QFont(QStringLiteral("Courier New"), 10));
     ui->PBar->setRange(0, 100);
     ui->DayList->addItems(DefaultDayWords());

@@ -3,7 +3,7 @@
 #include "import/ScreenplayText.h"
 #include "import/ScriptImport.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 #include <QFont>
 #include <QStringList>
 
@@ -31,7 +31,7 @@ class ScheduleDocument;
 // the unticked ones, Keep all keeps everything. A summary ends every import. The word
 // lists are kept while the program runs; the dialog is created once and shown for
 // every import.
-class TfrmImportScript : public QDialog
+class TfrmImportScript : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -65,9 +65,6 @@ public:
     // The script as loaded when page 3 was reached, one string per line.
     const QStringList &scriptLines() const { return m_lines; }
     ScriptImportSettings settings() const;
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 public Q_SLOTS:
     void reject() override;

@@ -5,7 +5,6 @@
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
 
-#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -62,15 +61,19 @@ void BoardExporter::exportAs(BoardExportFormat format)
     doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("Exported to ") + QFileInfo(path).fileName());
 }
 
-void InstallExportCommands(CommandHost &host)
+MenuTable ExportMenuEntries(CommandHost &host)
 {
     auto *exporter = new BoardExporter(host);
     // The earlier edition showed these two entries without a command behind them; here
     // they export the board (see the help page of differences).
-    QObject::connect(host.action(actions::AsSpreadsheet1), &QAction::triggered, exporter,
-                     [exporter] { exporter->exportAs(BoardExportFormat::Spreadsheet); });
-    QObject::connect(host.action(actions::AsHTML1), &QAction::triggered, exporter,
-                     [exporter] { exporter->exportAs(BoardExportFormat::Html); });
+    return {
+        {.name = actions::AsSpreadsheet1,
+         .caption = "As &Spreadsheet...",
+         .handler = [exporter] { exporter->exportAs(BoardExportFormat::Spreadsheet); }},
+        {.name = actions::AsHTML1,
+         .caption = "As &HTML...",
+         .handler = [exporter] { exporter->exportAs(BoardExportFormat::Html); }},
+    };
 }
 
 } // namespace tb

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/BoardExport.h"
+#include "ui/shell/MenuEntry.h"
 
 #include <QObject>
 #include <QString>
@@ -30,7 +31,7 @@ private:
     CommandHost &m_host;
 };
 
-// Connects the two entries to a BoardExporter kept by the main window for the run.
-void InstallExportCommands(CommandHost &host);
+// The two entries, served by a BoardExporter made now and kept by the main window.
+MenuTable ExportMenuEntries(CommandHost &host);
 
 } // namespace tb

@@ -1,27 +1,19 @@
 #include "ui/reports/ReportPrintDialog.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "ui/reports/TfrmPrintingIt.h"
 
 #include "document/ScheduleDocument.h"
 
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QSpinBox>
 
 namespace tb {
 
 ReportPrintDialog::ReportPrintDialog(ScheduleDocument &doc, QString helpPage, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(std::move(helpPage), parent)
     , m_doc(doc)
-    , m_helpPage(std::move(helpPage))
-{
-    InstallHelpKey(this, [this] {
-        if (showHelp)
-            showHelp(m_helpPage);
-    });
-}
+{}
 
 ReportPrintDialog::~ReportPrintDialog() = default;
 

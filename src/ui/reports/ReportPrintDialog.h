@@ -3,9 +3,7 @@
 #include "reports/ReportBuilders.h"
 #include "ui/reports/ReportPrinting.h"
 
-#include <QDialog>
-
-#include <functional>
+#include "ui/shell/DialogWithHelp.h"
 
 class QComboBox;
 class QPushButton;
@@ -18,7 +16,7 @@ class ScheduleDocument;
 // What the report dialogs have in common: the printer box with its Setup button, the
 // copies, Print, Preview and Cancel, F1 help, and the filled report kept from the build
 // until the dialog closes. Each dialog adds its own choices and names its builder.
-class ReportPrintDialog : public QDialog
+class ReportPrintDialog : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -26,8 +24,6 @@ public:
     ~ReportPrintDialog() override;
 
     ReportPrinterChoice &printerChoice() { return m_printer; }
-    // Opens a dialog's help page (F1); set by whoever shows the dialog.
-    std::function<void(const QString &page)> showHelp;
 
 public Q_SLOTS:
     void done(int result) override;
@@ -69,7 +65,6 @@ private:
     // Builds the pages; false when there is nothing to print (the user has been told).
     bool CreatePages();
 
-    QString m_helpPage;
     PrintControls m_controls;
     ReportPrinterChoice m_printer;
     BuiltReport m_built; // the template with its values, kept until the dialog closes

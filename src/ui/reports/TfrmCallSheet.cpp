@@ -6,7 +6,6 @@
 #include "document/ScheduleDocument.h"
 #include "document/Settings.h"
 #include "reports/CallSheetFile.h"
-#include "ui/shell/HelpWindow.h"
 
 #include <QCalendarWidget>
 #include <QDesktopServices>
@@ -120,7 +119,7 @@ QTableWidget *makePopupGrid(QWidget *parent, const QString &name)
 } // namespace
 
 TfrmCallSheet::TfrmCallSheet(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QStringLiteral("call-sheet.html"), parent)
     , m_doc(doc)
     , ui(std::make_unique<Ui::TfrmCallSheet>())
     , m_saveFileName(QStringLiteral("*.tbs"))
@@ -166,11 +165,6 @@ TfrmCallSheet::TfrmCallSheet(ScheduleDocument &doc, QWidget *parent)
                                                                                        : QString();
     };
     openUrl = [](const QUrl &url) { QDesktopServices::openUrl(url); };
-
-    InstallHelpKey(this, [this] {
-        if (showHelp)
-            showHelp(QStringLiteral("call-sheet.html"));
-    });
 
     connect(ui->PrintBut, &QPushButton::clicked, this, &TfrmCallSheet::PrintButClick);
     connect(ui->PrevBut, &QPushButton::clicked, this, &TfrmCallSheet::PrevButClick);

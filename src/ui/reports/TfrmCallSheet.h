@@ -3,7 +3,7 @@
 #include "reports/CallSheet.h"
 #include "ui/reports/ReportPrinting.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <functional>
 #include <memory>
@@ -26,7 +26,7 @@ class Settings;
 // picked date, edited by hand, saved to and opened from call sheet files, previewed and
 // printed. The sheet itself and everything done to it is the core's (reports/CallSheet.h);
 // the dialog shows it in its controls and gathers it back.
-class TfrmCallSheet : public QDialog
+class TfrmCallSheet : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -45,8 +45,6 @@ public:
     QTableWidget *castPopup() const { return m_castPopup; }
     QListWidget *categoryPopup() const { return m_categoryPopup; }
 
-    // Opens a dialog's help page (F1); set by whoever shows the dialog.
-    std::function<void(const QString &page)> showHelp;
     // The print dialog: false when cancelled; *copies is the number of copies asked for.
     std::function<bool(QPrinter &printer, int *copies)> runPrintDialog;
     // The save and open dialogs; an empty name when cancelled.

@@ -2,8 +2,6 @@
 
 #include "ui_TfrmDOD.h"
 
-#include "ui/shell/HelpWindow.h"
-
 #include "document/ScheduleDocument.h"
 #include "reports/DayOutOfDaysPrint.h"
 
@@ -13,7 +11,8 @@
 namespace tb {
 
 TfrmDOD::TfrmDOD(ScheduleDocument &doc, QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint)
+    : DialogWithHelp(QStringLiteral("day-out-of-days.html"), parent,
+                     Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint)
     , m_doc(doc)
     , ui(std::make_unique<Ui::TfrmDOD>())
 {
@@ -23,10 +22,6 @@ TfrmDOD::TfrmDOD(ScheduleDocument &doc, QWidget *parent)
         QPrintDialog dialog(&printer, parent);
         return dialog.exec() == QDialog::Accepted;
     };
-    InstallHelpKey(this, [this] {
-        if (showHelp)
-            showHelp(QStringLiteral("day-out-of-days.html"));
-    });
     connect(ui->HoldCheck, &QCheckBox::clicked, this, &TfrmDOD::rebuild);
     connect(ui->TotalsCheck, &QCheckBox::clicked, this, &TfrmDOD::rebuild);
     connect(ui->CategoryCombo, &QComboBox::activated, this, &TfrmDOD::rebuild);

@@ -2,7 +2,7 @@
 
 #include "reports/DayOutOfDays.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <functional>
 #include <memory>
@@ -19,7 +19,7 @@ class ScheduleDocument;
 
 // "Day out of days": the chart of the days each cast member (or the elements of
 // another category) works, with hold days, colours, totals and printing.
-class TfrmDOD : public QDialog
+class TfrmDOD : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -30,8 +30,6 @@ public:
     Ui::TfrmDOD &form() { return *ui; }
     DayOutOfDaysOptions options() const;
 
-    // Opens a help page (F1); set by whoever shows the dialog.
-    std::function<void(const QString &page)> showHelp;
     // Asks for the printer; false when the user cancels. Tests replace the print dialog.
     std::function<bool(QPrinter &printer, QWidget *parent)> choosePrinter;
 

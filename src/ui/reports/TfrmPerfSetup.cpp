@@ -2,8 +2,6 @@
 
 #include "ui_TfrmPerfSetup.h"
 
-#include "ui/shell/HelpWindow.h"
-
 #include "board/BoardPrinting.h"
 #include "board/PerforatedCalibration.h"
 #include "document/ScheduleDocument.h"
@@ -46,7 +44,7 @@ QPixmap stockPicture()
 } // namespace
 
 TfrmPerfSetup::TfrmPerfSetup(ScheduleDocument &doc, Settings &settings, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QStringLiteral("perforated-setup.html"), parent)
     , m_doc(doc)
     , m_settings(settings)
     , ui(std::make_unique<Ui::TfrmPerfSetup>())
@@ -57,10 +55,6 @@ TfrmPerfSetup::TfrmPerfSetup(ScheduleDocument &doc, Settings &settings, QWidget 
         QPrintDialog dialog(&printer, parent);
         return dialog.exec() == QDialog::Accepted;
     };
-    InstallHelpKey(this, [this] {
-        if (showHelp)
-            showHelp(QStringLiteral("perforated-setup.html"));
-    });
     connect(ui->OKBut, &QPushButton::clicked, this, &TfrmPerfSetup::OKButClick);
     connect(ui->CancelBut, &QPushButton::clicked, this, &QDialog::reject);
     connect(ui->DefaultBut, &QPushButton::clicked, this, &TfrmPerfSetup::DefaultButClick);

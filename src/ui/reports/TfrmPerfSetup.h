@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <functional>
 #include <memory>
@@ -18,7 +18,7 @@ class Settings;
 
 // "Perforated strip paper setup": the left margin of the stock and the width of ten
 // strips, a page to check them against the stock, and the defaults.
-class TfrmPerfSetup : public QDialog
+class TfrmPerfSetup : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -28,8 +28,6 @@ public:
 
     Ui::TfrmPerfSetup &form() { return *ui; }
 
-    // Opens a help page (F1); set by whoever shows the dialog.
-    std::function<void(const QString &page)> showHelp;
     // Asks for the printer of the calibration page; false when the user cancels.
     // Tests replace the print dialog.
     std::function<bool(QPrinter &printer, QWidget *parent)> choosePrinter;

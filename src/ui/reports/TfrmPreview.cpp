@@ -16,7 +16,7 @@
 namespace tb {
 
 TfrmPreview::TfrmPreview(QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(), parent) // no help page of its own
     , ui(std::make_unique<Ui::TfrmPreview>())
 {
     ui->setupUi(this);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <memory>
 
@@ -17,7 +17,7 @@ class tAlPreview;
 // The print preview window: the recorded pages of a report, page by page, zoomed, and
 // printed again on request. Report dialogs fill Previewer's page list, show page 1 and
 // show the window modally.
-class TfrmPreview : public QDialog
+class TfrmPreview : public DialogWithHelp
 {
     Q_OBJECT
 

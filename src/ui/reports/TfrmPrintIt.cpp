@@ -4,7 +4,6 @@
 
 #include "ui/reports/TfrmPerfSetup.h"
 #include "ui/reports/TfrmPrintingIt.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "board/BoardStyle.h"
 #include "document/ScheduleDocument.h"
@@ -17,7 +16,7 @@
 namespace tb {
 
 TfrmPrintIt::TfrmPrintIt(ScheduleDocument &doc, Settings &settings, QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::WindowStaysOnTopHint)
+    : DialogWithHelp(QStringLiteral("print-board.html"), parent, Qt::Dialog | Qt::WindowStaysOnTopHint)
     , m_doc(doc)
     , m_settings(settings)
     , ui(std::make_unique<Ui::TfrmPrintIt>())
@@ -25,14 +24,6 @@ TfrmPrintIt::TfrmPrintIt(ScheduleDocument &doc, Settings &settings, QWidget *par
 {
     ui->setupUi(this);
     ui->PreviewBut->hide();
-    InstallHelpKey(this, [this] {
-        if (showHelp)
-            showHelp(QStringLiteral("print-board.html"));
-    });
-    m_perfSetup->showHelp = [this](const QString &page) {
-        if (showHelp)
-            showHelp(page);
-    };
     connect(ui->PrinterCombo, &QComboBox::currentTextChanged, this, &TfrmPrintIt::PrinterComboChange);
     connect(ui->PrintSetupBut, &QPushButton::clicked, this, [this] { m_printer.setup(this); });
     connect(ui->PortRadio, &QRadioButton::clicked, this, &TfrmPrintIt::OrientationClick);

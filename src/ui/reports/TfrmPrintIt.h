@@ -4,7 +4,7 @@
 
 #include "board/BoardPrinting.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <functional>
 #include <memory>
@@ -22,7 +22,7 @@ class TfrmPerfSetup;
 // "Print production board": the board on plain paper or on perforated strip stock,
 // all strips or a range, with copies, orientation, overall scale, headers and black
 // and white printing.
-class TfrmPrintIt : public QDialog
+class TfrmPrintIt : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -41,8 +41,6 @@ public:
     // What the last print made.
     const BoardPrintResult &lastPrint() const { return m_lastPrint; }
 
-    // Opens a help page (F1); set by whoever shows the dialog.
-    std::function<void(const QString &page)> showHelp;
     // Called after printing, which clears the board's selection.
     std::function<void()> boardChanged;
 

@@ -8,7 +8,7 @@
 namespace tb {
 
 TfrmPrintingIt::TfrmPrintingIt(QWidget *parent)
-    : QDialog(parent, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool)
+    : DialogWithHelp(QString(), parent, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool)
     , ui(std::make_unique<Ui::TfrmPrintingIt>())
 {
     ui->setupUi(this);

@@ -2,7 +2,7 @@
 
 #include "reports/ReportBuilders.h"
 
-#include <QDialog>
+#include "ui/shell/DialogWithHelp.h"
 
 #include <memory>
 
@@ -17,7 +17,7 @@ namespace tb {
 
 // The shared printing progress window: a borderless box that stays on top, with a label
 // and a bar the report code sets while it builds its pages.
-class TfrmPrintingIt : public QDialog, public PrintingProgress
+class TfrmPrintingIt : public DialogWithHelp, public PrintingProgress
 {
     Q_OBJECT
 

@@ -1,20 +1,14 @@
 #include "ui/scheduling/SchedulingDialog.h"
-#include "ui/shell/HelpWindow.h"
 
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
 
-#include <QKeyEvent>
-
 namespace tb {
 
 SchedulingDialog::SchedulingDialog(ScheduleDocument &doc, QString helpPage, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(std::move(helpPage), parent)
     , m_doc(doc)
-    , m_helpPage(std::move(helpPage))
-{
-    InstallHelpKey(this, [this] { Q_EMIT helpRequested(m_helpPage); });
-}
+{}
 
 void SchedulingDialog::report(const Result &result) const
 {

@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QDialog>
-#include <QString>
+#include "ui/shell/DialogWithHelp.h"
 
 namespace tb {
 
 class Result;
 class ScheduleDocument;
 
-// What the scheduling dialogs share: F1 asks for the dialog's help page (the main
-// window connects helpRequested to its help viewer), and a failed command's message
-// is shown through the document's prompter.
-class SchedulingDialog : public QDialog
+// What the scheduling dialogs share: the document, F1 help, and a failed command's
+// message shown through the document's prompter.
+class SchedulingDialog : public DialogWithHelp
 {
     Q_OBJECT
 
@@ -19,11 +17,6 @@ public:
     SchedulingDialog(ScheduleDocument &doc, QString helpPage, QWidget *parent);
 
     ScheduleDocument &document() const { return m_doc; }
-    // The help page's file name under the help folder ("auto-pages.html").
-    const QString &helpPage() const { return m_helpPage; }
-
-Q_SIGNALS:
-    void helpRequested(const QString &page);
 
 protected:
     // Shows the message of a failure that the user has not been told about yet.
@@ -31,7 +24,6 @@ protected:
 
 private:
     ScheduleDocument &m_doc;
-    QString m_helpPage;
 };
 
 } // namespace tb

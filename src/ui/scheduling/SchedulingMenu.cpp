@@ -1,6 +1,9 @@
 #include "ui/scheduling/SchedulingMenu.h"
 
+#include "document/CommandState.h"
+#include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
+#include "document/Settings.h"
 #include "scheduling/Banners.h"
 #include "scheduling/DayDividers.h"
 #include "ui/scheduling/TfrmAutoPages.h"
@@ -14,14 +17,11 @@
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
 
-#include <QAction>
 #include <QWidget>
 
 namespace tb {
 
 namespace {
-
-const char *const ObjectName = "SchedulingCommands";
 
 void report(ScheduleDocument &doc, const Result &result)
 {
@@ -35,7 +35,7 @@ SchedulingCommands::SchedulingCommands(CommandHost &host)
     : QObject(host.window())
     , m_host(host)
 {
-    setObjectName(QLatin1String(ObjectName));
+    setObjectName(QStringLiteral("SchedulingCommands"));
     QWidget *window = host.window();
     ScheduleDocument &document = host.document();
     // Created in the program's start-up order, each once for the whole run.
@@ -47,35 +47,6 @@ SchedulingCommands::SchedulingCommands(CommandHost &host)
     m_lockStrip = new TfrmLockStrip(document, window);
     m_endOfDay = new TfrmEOD(document, window);
     m_hold = new TfrmHold(document, window);
-
-    const QList<SchedulingDialog *> dialogs{m_date,   m_calender,  m_autoPages, m_startDate,
-                                            m_banner, m_lockStrip, m_endOfDay,  m_hold};
-    for (SchedulingDialog *dialog : dialogs)
-        connect(dialog, &SchedulingDialog::helpRequested, this, [this](const QString &page) { m_host.showHelp(page); });
-
-    connectAction(actions::Adddaydivider1, &SchedulingCommands::AdddaydividerClick);
-    connectAction(actions::PopAdddaydivider1, &SchedulingCommands::AdddaydividerClick);
-    connectAction(actions::Insertdaydivider1, &SchedulingCommands::InsertdaydividerClick);
-    connectAction(actions::PopInsertdaydivider1, &SchedulingCommands::InsertdaydividerClick);
-    connectAction(actions::Removealldaydividers1, &SchedulingCommands::Removealldaydividers1Click);
-    connectAction(actions::Automaticdaydividers1, &SchedulingCommands::AutomaticdaydividersClick);
-    connectAction(actions::Addbanner1, &SchedulingCommands::Addbanner1Click);
-    connectAction(actions::Insertbanner1, &SchedulingCommands::Insertbanner1Click);
-    connectAction(actions::EditBanner1, &SchedulingCommands::EditBanner1Click);
-    connectAction(actions::Removeallbanners1, &SchedulingCommands::Removeallbanners1Click);
-    connectAction(actions::Convertautorestdaystobanners1, &SchedulingCommands::Convertautorestdaystobanners1Click);
-    connectAction(actions::Startdate1, &SchedulingCommands::Startdate1Click);
-    connectAction(actions::Autorestdays1, &SchedulingCommands::Autorestdays1Click);
-    connectAction(actions::Holddays1, &SchedulingCommands::Holddays1Click);
-    connectAction(actions::Endofday1, &SchedulingCommands::Endofday1Click);
-    connectAction(actions::Lockstriptodate1, &SchedulingCommands::Lockstriptodate1Click);
-    connectAction(actions::PopLockstrip1, &SchedulingCommands::Lockstriptodate1Click);
-}
-
-void SchedulingCommands::connectAction(const char *name, void (SchedulingCommands::*handler)())
-{
-    if (QAction *action = m_host.action(name))
-        connect(action, &QAction::triggered, this, handler);
 }
 
 ScheduleDocument &SchedulingCommands::doc() const
@@ -83,10 +54,19 @@ ScheduleDocument &SchedulingCommands::doc() const
     return m_host.document();
 }
 
-void SchedulingCommands::setBannerColours(const BannerColours &colours)
+BannerColours SchedulingCommands::bannerColours() const
 {
-    m_bannerColours = colours;
-    m_banner->setDefaultColours(colours);
+    const Settings &settings = m_host.settings();
+    return {legacy::ColorValueToString(settings.stripBackground[static_cast<int>(StripSlot::Banner)]),
+            legacy::ColorValueToString(settings.stripText[static_cast<int>(StripSlot::Banner)])};
+}
+
+void SchedulingCommands::openBannerDialog(BannerMode mode)
+{
+    // New banners start in the colours the preferences hold now.
+    m_banner->setDefaultColours(bannerColours());
+    m_banner->setMode(mode);
+    m_banner->exec();
 }
 
 void SchedulingCommands::AdddaydividerClick()
@@ -111,24 +91,21 @@ void SchedulingCommands::AutomaticdaydividersClick()
 
 void SchedulingCommands::Addbanner1Click()
 {
-    m_banner->setMode(BannerAddAtEnd);
-    m_banner->exec();
+    openBannerDialog(BannerAddAtEnd);
 }
 
 void SchedulingCommands::Insertbanner1Click()
 {
     if (!CanInsertBanner(doc()))
         return;
-    m_banner->setMode(BannerInsert);
-    m_banner->exec();
+    openBannerDialog(BannerInsert);
 }
 
 void SchedulingCommands::EditBanner1Click()
 {
     if (!CanEditBanner(doc()))
         return;
-    m_banner->setMode(BannerEdit);
-    m_banner->exec();
+    openBannerDialog(BannerEdit);
 }
 
 void SchedulingCommands::Removeallbanners1Click()
@@ -138,7 +115,7 @@ void SchedulingCommands::Removeallbanners1Click()
 
 void SchedulingCommands::Convertautorestdaystobanners1Click()
 {
-    ConvertAutoRestDaysToBanners(doc(), m_bannerColours);
+    ConvertAutoRestDaysToBanners(doc(), bannerColours());
 }
 
 void SchedulingCommands::Startdate1Click()
@@ -168,17 +145,75 @@ void SchedulingCommands::Lockstriptodate1Click()
     m_lockStrip->exec();
 }
 
-void InstallSchedulingCommands(CommandHost &host)
+MenuTable SchedulingMenuEntries(CommandHost &host)
 {
-    if (!FindSchedulingCommands(host))
-        new SchedulingCommands(host); // owned by the main window
-}
-
-SchedulingCommands *FindSchedulingCommands(CommandHost &host)
-{
-    QWidget *window = host.window();
-    return window ? window->findChild<SchedulingCommands *>(QLatin1String(ObjectName), Qt::FindDirectChildrenOnly)
-                  : nullptr;
+    auto *commands = new SchedulingCommands(host); // owned by the main window
+    const auto run = [commands](void (SchedulingCommands::*handler)()) {
+        return [commands, handler] { (commands->*handler)(); };
+    };
+    using namespace actions;
+    using C = SchedulingCommands;
+    return {
+        // Production
+        {.name = Startdate1, .caption = "&Start date...", .handler = run(&C::Startdate1Click)},
+        {.name = Holddays1, .caption = "Hold days...", .handler = run(&C::Holddays1Click)},
+        {.name = Endofday1, .caption = "&End of day...", .shortcut = "Ctrl+E", .handler = run(&C::Endofday1Click)},
+        // Strips
+        {.name = Lockstriptodate1,
+         .caption = "Lock / un-lock to date...",
+         .enabledWhen = HasSelectedStrip,
+         .handler = run(&C::Lockstriptodate1Click)},
+        {.name = Adddaydivider1,
+         .caption = "Add &day divider at end",
+         .shortcut = "Shift+Ins",
+         .handler = run(&C::AdddaydividerClick)},
+        {.name = Insertdaydivider1,
+         .caption = "I&nsert day divider",
+         .enabledWhen = HasSelectedStrip,
+         .handler = run(&C::InsertdaydividerClick)},
+        {.name = Removealldaydividers1,
+         .caption = "&Remove all day dividers...",
+         .enabledWhen = HasDayDividers,
+         .handler = run(&C::Removealldaydividers1Click)},
+        {.name = Addbanner1,
+         .caption = "Add &banner at end...",
+         .shortcut = "Ctrl+Ins",
+         .handler = run(&C::Addbanner1Click)},
+        {.name = Insertbanner1,
+         .caption = "In&sert banner...",
+         .enabledWhen = HasSelectedStrip,
+         .handler = run(&C::Insertbanner1Click)},
+        {.name = EditBanner1,
+         .caption = "Edi&t banner...",
+         .enabledWhen = FirstSelectedIsBanner,
+         .handler = run(&C::EditBanner1Click)},
+        {.name = Removeallbanners1,
+         .caption = "Re&move all banners...",
+         .enabledWhen = HasBanners,
+         .handler = run(&C::Removeallbanners1Click)},
+        {.name = Automaticdaydividers1,
+         .caption = "A&uto pages-per-day...",
+         .enabledWhen = HasStrips,
+         .handler = run(&C::AutomaticdaydividersClick)},
+        {.name = Autorestdays1, .caption = "Aut&o rest days...", .handler = run(&C::Autorestdays1Click)},
+        {.name = Convertautorestdaystobanners1,
+         .caption = "Convert auto-rest days to banners...",
+         .enabledWhen = HasAutoRestDays,
+         .handler = run(&C::Convertautorestdaystobanners1Click)},
+        // The board's pop-up
+        {.name = PopLockstrip1,
+         .caption = "Lock / un-lock to date...",
+         .enabledWhen = HasSelectedStrip,
+         .handler = run(&C::Lockstriptodate1Click)},
+        {.name = PopAdddaydivider1,
+         .caption = "Add day divider at end...",
+         .shortcut = "Shift+Ins",
+         .handler = run(&C::AdddaydividerClick)},
+        {.name = PopInsertdaydivider1,
+         .caption = "Insert day divider...",
+         .enabledWhen = HasSelectedStrip,
+         .handler = run(&C::InsertdaydividerClick)},
+    };
 }
 
 } // namespace tb

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scheduling/Banners.h"
+#include "ui/shell/MenuEntry.h"
 
 #include <QObject>
 
@@ -18,8 +19,8 @@ class TfrmLockStrip;
 class TfrmStartDate1;
 
 // The main window's scheduling commands: day dividers, banners, the calendar, hold
-// days, end of day and strip locks. Created once by InstallSchedulingCommands as a
-// child of the main window; it creates each dialog once and keeps it for the run.
+// days, end of day and strip locks. Created once by SchedulingMenuEntries as a child
+// of the main window; it creates each dialog once and keeps it for the run.
 class SchedulingCommands : public QObject
 {
     Q_OBJECT
@@ -29,7 +30,7 @@ public:
 
     // The "Banner" colour pair of the preferences: the colours of new banners and of
     // converted rest days.
-    void setBannerColours(const BannerColours &colours);
+    BannerColours bannerColours() const;
 
     // The handlers, by the names of the commands they serve.
     void AdddaydividerClick();
@@ -58,10 +59,9 @@ public:
 
 private:
     ScheduleDocument &doc() const;
-    void connectAction(const char *name, void (SchedulingCommands::*handler)());
+    void openBannerDialog(BannerMode mode);
 
     CommandHost &m_host;
-    BannerColours m_bannerColours;
     TfrmDate *m_date;
     TfrmCalender *m_calender;
     TfrmAutoPages *m_autoPages;
@@ -72,13 +72,8 @@ private:
     TfrmHold *m_hold;
 };
 
-// Connects the scheduling menu and pop-up entries (Adddaydivider1 .. Lockstriptodate1,
-// PopAdddaydivider1, PopInsertdaydivider1, PopLockstrip1) to their handlers. Enabling
-// the entries by state is the main window's: see HasDayDividers, HasBanners,
-// FirstSelectedIsBanner and HasStartDate.
-void InstallSchedulingCommands(CommandHost &host);
-
-// The commands installed for the host's window; null before InstallSchedulingCommands.
-SchedulingCommands *FindSchedulingCommands(CommandHost &host);
+// The scheduling entries of the Production and Strips menus and of the board's pop-up,
+// served by a SchedulingCommands made now.
+MenuTable SchedulingMenuEntries(CommandHost &host);
 
 } // namespace tb

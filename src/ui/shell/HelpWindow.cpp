@@ -1,9 +1,8 @@
 #include "ui/shell/HelpWindow.h"
 
-#include <QKeyEvent>
-
 #include <QAction>
 #include <QFile>
+#include <QPointer>
 #include <QStyle>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -82,37 +81,31 @@ QString HelpWindow::currentPage() const
 
 namespace {
 
-// Catches F1 on its way to the dialog. A key no control of the dialog uses travels
-// from the focused control up to the dialog, so this sees it wherever the focus is.
-class HelpKeyFilter : public QObject
+// The window has no owner, so nothing deletes it with the main window.
+QPointer<HelpWindow> &programHelpWindow()
 {
-public:
-    HelpKeyFilter(std::function<void()> showHelp, QObject *parent)
-        : QObject(parent)
-        , m_showHelp(std::move(showHelp))
-    {}
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() != QEvent::KeyPress)
-            return false;
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
-            return false;
-        m_showHelp();
-        return true;
-    }
-
-private:
-    std::function<void()> m_showHelp;
-};
+    static QPointer<HelpWindow> window;
+    return window;
+}
 
 } // namespace
 
-void InstallHelpKey(QWidget *dialog, std::function<void()> showHelp)
+HelpWindow *ProgramHelpWindow()
 {
-    dialog->installEventFilter(new HelpKeyFilter(std::move(showHelp), dialog));
+    return programHelpWindow();
+}
+
+void ShowHelpPage(const QString &page)
+{
+    QPointer<HelpWindow> &window = programHelpWindow();
+    if (!window)
+        window = new HelpWindow;
+    window->showPage(page);
+}
+
+void DeleteProgramHelpWindow()
+{
+    delete programHelpWindow().data();
 }
 
 } // namespace tb

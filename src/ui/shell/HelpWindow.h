@@ -2,8 +2,6 @@
 
 #include <QMainWindow>
 
-#include <functional>
-
 class QTextBrowser;
 class QWidget;
 
@@ -36,8 +34,12 @@ private:
     QTextBrowser *m_browser;
 };
 
-// F1 in a dialog calls showHelp (typically CommandHost::showHelp with the dialog's
-// page); the main window's own F1 is not active while a modal dialog is.
-void InstallHelpKey(QWidget *dialog, std::function<void()> showHelp);
+// The program's one help window, made on first use (null before); the menu's
+// "&Contents" and "&Index" and F1 in every dialog (DialogWithHelp) show their pages in
+// it. Whoever ends the program deletes it with DeleteProgramHelpWindow.
+HelpWindow *ProgramHelpWindow();
+// Shows a page in the program's help window, making the window when there is none.
+void ShowHelpPage(const QString &page);
+void DeleteProgramHelpWindow();
 
 } // namespace tb

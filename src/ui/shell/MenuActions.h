@@ -1,8 +1,8 @@
 #pragma once
 
 // Object names of the main window's menu entries and of the board's pop-up menu.
-// The main window creates one QAction per entry under these names; each subsystem
-// finds the actions it serves through CommandHost::action() and connects them.
+// Each area declares the entries it serves under these names in its table
+// (MenuEntry.h); the main window places them in its menus by these names.
 
 namespace tb::actions {
 
@@ -66,7 +66,15 @@ inline constexpr char Sortelements1[] = "Sortelements1";                 // "Sor
 
 // View
 inline constexpr char Fullscreen1[] = "Fullscreen1"; // "Fullscreen"
-// The zoom entries are N601, N701 .. N1401 ("60%" .. "140%").
+inline constexpr char N601[] = "N601";               // "60%"
+inline constexpr char N701[] = "N701";               // "70%"
+inline constexpr char N801[] = "N801";               // "80%"
+inline constexpr char N901[] = "N901";               // "90%"
+inline constexpr char N1001[] = "N1001";             // "100%"
+inline constexpr char N1101[] = "N1101";             // "110%"
+inline constexpr char N1201[] = "N1201";             // "120%"
+inline constexpr char N1301[] = "N1301";             // "130%"
+inline constexpr char N1401[] = "N1401";             // "140%"
 
 // Help
 inline constexpr char Contents1[] = "Contents1"; // "&Contents" F1

@@ -22,7 +22,7 @@ QPushButton *slotButton(Ui::TfrmPref &ui, int slot)
 } // namespace
 
 TfrmPref::TfrmPref(ScheduleDocument &doc, Settings &settings, const QString &autosavePath, QWidget *parent)
-    : QDialog(parent)
+    : DialogWithHelp(QString(), parent) // no help page of its own
     , m_ui(std::make_unique<Ui::TfrmPref>())
     , m_doc(doc)
     , m_settings(settings)

@@ -2,8 +2,8 @@
 
 #include "document/Settings.h"
 
+#include "ui/shell/DialogWithHelp.h"
 #include <QColor>
-#include <QDialog>
 
 #include <functional>
 #include <memory>
@@ -20,7 +20,7 @@ class ScheduleDocument;
 // The preferences: the "General" page (autosave, scene pop-ups, weather page, shooting
 // days, the three warnings) and the "Strip format" page (the ten colour slots, the two
 // description lines, the board font). OK writes the settings file; Cancel changes nothing.
-class TfrmPref : public QDialog
+class TfrmPref : public DialogWithHelp
 {
     Q_OBJECT
 

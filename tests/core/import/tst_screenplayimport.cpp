@@ -36,17 +36,11 @@ struct Imported
     static std::unique_ptr<Imported> fdx(const QByteArray &xml)
     {
         auto run = std::make_unique<Imported>();
-        run->result = ImportFdxFile(run->doc, WriteFile(QStringLiteral("script.fdx"), xml), ScriptImportSettings());
+        run->result = ImportFdxFile(run->doc, WriteFile("script.fdx", xml), ScriptImportSettings());
         return run;
     }
     QString field(int row, StripField f) const { return doc.strips[row][f]; }
-    QStringList column(StripField f) const
-    {
-        QStringList values;
-        for (int row = 1; row <= doc.strips.count(); ++row)
-            values.append(doc.strips[row][f]);
-        return values;
-    }
+    QStringList column(StripField f) const { return StripColumn(doc, f); }
     double pages() const { return SummarizeImport(doc).pages; }
 };
 
@@ -55,8 +49,7 @@ QByteArray Fdx(const QString &content, const QString &titlePage = QString())
 {
     return (QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\" ?>\n"
                            "<FinalDraft DocumentType=\"Script\" Template=\"No\" Version=\"5\">\n<Content>\n") +
-            content + QStringLiteral("</Content>\n<TitlePage><Content>") + titlePage +
-            QStringLiteral("</Content></TitlePage>\n</FinalDraft>\n"))
+            content + "</Content>\n<TitlePage><Content>" + titlePage + "</Content></TitlePage>\n</FinalDraft>\n")
         .toUtf8();
 }
 
@@ -79,443 +72,359 @@ class TestScreenplayImport : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void headings_data();
-    void headings();
-    void cueNames_data();
-    void cueNames();
-    void synopsis_data();
-    void synopsis();
-    void fountainRules();
-    void fountainPages();
-    void fdxRules();
-    void fdxWithoutProperties();
-    void fdxNotAScript_data();
-    void fdxNotAScript();
-    void realFountainScripts_data();
-    void realFountainScripts();
-    void fdxMatchesFountain();
-    void doubts_data();
-    void doubts();
-    void reviewRemovesWithAssignments();
-    void plainTextReview_data();
-    void plainTextReview();
-    void summary();
-};
+    void headings_data()
+    {
+        QTest::addColumn<QString>("heading");
+        QTest::addColumn<QString>("intExt");
+        QTest::addColumn<QString>("dayNight");
+        QTest::addColumn<QString>("location");
 
-void TestScreenplayImport::headings_data()
-{
-    QTest::addColumn<QString>("heading");
-    QTest::addColumn<QString>("intExt");
-    QTest::addColumn<QString>("dayNight");
-    QTest::addColumn<QString>("location");
-
-    Row("interior night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
-    Row("two dashes, no blanks", "EXT. PARK--DAY", "E", "D", "PARK");
-    Row("both, with a sub-location", "INT./EXT. CAR - MOVING - DAY", "I/E", "D", "CAR - MOVING");
-    Row("I/E", "I/E HOUSE - NIGHT", "I/E", "N", "HOUSE");
-    Row("established shot, dawn is a day word", "EST. CITY - DAWN", "E", "D", "CITY");
-    Row("continuous leaves the time open", "INT. HOUSE - HALL - CONTINUOUS", "I", "?", "HOUSE - HALL");
-    Row("time before a continuity note", "INT. HOUSE - NIGHT - CONTINUOUS", "I", "N", "HOUSE");
-    Row("no time word", "EXT. BEACH - MAGIC HOUR", "E", "?", "BEACH - MAGIC HOUR");
-    Row("time without a dash", "INT. ATTIC NIGHT", "I", "N", "ATTIC");
-    Row("day word wins as in the text import", "EXT. ROAD - LATE AFTERNOON", "E", "D", "ROAD");
-    Row("later is no late", "INT. BAR - LATER", "I", "?", "BAR");
-    Row("forced heading", "SNIPER SCOPE POV", "?", "?", "SNIPER SCOPE POV");
-    Row("lower case", "int. barn - day", "I", "D", "BARN");
-    Row("apostrophe kept", "EXT. BRICK'S PATIO - DAY", "E", "D", "BRICK'S PATIO");
-}
-
-void TestScreenplayImport::headings()
-{
-    QFETCH(QString, heading);
-    QFETCH(QString, intExt);
-    QFETCH(QString, dayNight);
-    QFETCH(QString, location);
-    QString i, d, l;
-    ReadSceneHeading(heading, ScriptImportSettings(), &i, &d, &l);
-    QCOMPARE(i, intExt);
-    QCOMPARE(d, dayNight);
-    QCOMPARE(l, location);
-}
-
-void TestScreenplayImport::cueNames_data()
-{
-    QTest::addColumn<QString>("cue");
-    QTest::addColumn<QString>("name");
-    Row("continued", "MIKE (CONT'D)", "MIKE");
-    Row("two extensions", "DONNA (V.O.) (CONT'D)", "DONNA");
-    Row("dual dialogue", "BRICK ^", "BRICK");
-    Row("forced, mixed case", "@McCLANE", "McCLANE");
-    Row("lower-case extension", "HANS (on the radio)", "HANS");
-    Row("continued without parentheses", "KATE CONT'D", "KATE");
-    Row("blanks folded", "FISHERMAN  #1", "FISHERMAN #1");
-}
-
-void TestScreenplayImport::cueNames()
-{
-    QFETCH(QString, cue);
-    QFETCH(QString, name);
-    QCOMPARE(CueName(cue), name);
-}
-
-void TestScreenplayImport::synopsis_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("synopsis");
-    Row("short, first line only", "A gorgeous day.\nThe sun shines.", "A gorgeous day.");
-    Row("first sentence of a long line",
-        "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.", "A gorgeous day.");
-    Row("cut at a blank", "The small bedroom is painted sky blue and has toys scattered all around the floor of it",
-        "The small bedroom is painted sky blue and has toys scattered...");
-    Row("markup removed", "*Did you know* _Brick_ is **retired**?", "Did you know Brick is retired?");
-}
-
-void TestScreenplayImport::synopsis()
-{
-    QFETCH(QString, action);
-    QFETCH(QString, synopsis);
-    QCOMPARE(SynopsisFrom(action), synopsis);
-}
-
-void TestScreenplayImport::fountainRules()
-{
-    const QString script = QStringLiteral("Title: **THE HEIST**\n"
-                                          "Author: Nobody\n"
-                                          "\n"
-                                          "# ACT ONE\n"
-                                          "= The crew meets.\n"
-                                          "\n"
-                                          "NARRATOR (V.O.)\n"
-                                          "Once upon a time.\n"
-                                          "\n"
-                                          "INT. VAULT - NIGHT #12A#\n"
-                                          "\n"
-                                          "Alarms blare. [[fix this]] Lights flash.\n"
-                                          "\n"
-                                          "MARY\n"
-                                          "(whispering)\n"
-                                          "Go.\n"
-                                          "\n"
-                                          "JOHN ^\n"
-                                          "Now.\n"
-                                          "\n"
-                                          "MARY (CONT'D)\n"
-                                          "Go!\n"
-                                          "\n"
-                                          "/* EXT. CUT SCENE - DAY\n"
-                                          "\n"
-                                          "GHOST\n"
-                                          "Boo. */\n"
-                                          "\n"
-                                          "CUT TO:\n"
-                                          "\n"
-                                          ".FLASHBACK\n"
-                                          "\n"
-                                          "@McCLANE\n"
-                                          "Yippee.\n"
-                                          "\n"
-                                          "EXT. ROOF - DAY #13#\n"
-                                          "\n"
-                                          "[[a note alone]]\n"
-                                          "\n"
-                                          "[[a note left open\n"
-                                          "\n"
-                                          "Wind.\n"
-                                          "\n"
-                                          "> THE END <\n");
-    auto run = Imported::fountain(script);
-    QVERIFY(run->result.ok());
-    QVERIFY(run->prompter.prompts.isEmpty());
-    QCOMPARE(run->doc.values.PictureTitle, QStringLiteral("THE HEIST"));
-    QCOMPARE(run->column(StripField::SceneNumber), (QStringList{"12A", "2", "13"}));
-    QCOMPARE(run->column(StripField::IntExt), (QStringList{"I", "?", "E"}));
-    QCOMPARE(run->column(StripField::DayNight), (QStringList{"N", "?", "D"}));
-    QCOMPARE(run->column(StripField::Location), (QStringList{"VAULT", "FLASHBACK", "ROOF"}));
-    QCOMPARE(run->column(StripField::Synopsis), (QStringList{"Alarms blare. Lights flash.", "", "Wind."}));
-    QCOMPARE(run->column(StripField::StripId), (QStringList{"1", "2", "3"}));
-    QCOMPARE(run->column(StripField::StripKind), (QStringList{"1", "1", "1"}));
-    QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "1", "1"}));
-    QCOMPARE(run->doc.values.NextStripId, 3);
-    // Cast in order of first appearance; the narrator before the first heading has no
-    // scene; the boneyard's ghost is gone; Mary once in her scene.
-    QCOMPARE(Cast(run->doc), (QStringList{"NARRATOR", "MARY", "JOHN", "McCLANE"}));
-    QCOMPARE(run->column(StripField::Assignments), (QStringList{"2,3", "4", ""}));
-    for (int e = 1; e <= run->doc.elements.count(); ++e) {
-        const ElementRecord &el = run->doc.elements[e];
-        QCOMPARE(el[ElementField::BoardId], QString::number(e));
-        QCOMPARE(el[ElementField::CategoryNumber], QStringLiteral("1"));
-        QCOMPARE(el[ElementField::PrintOnBoard], QStringLiteral("1"));
+        Row("interior night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
+        Row("two dashes, no blanks", "EXT. PARK--DAY", "E", "D", "PARK");
+        Row("both, with a sub-location", "INT./EXT. CAR - MOVING - DAY", "I/E", "D", "CAR - MOVING");
+        Row("I/E", "I/E HOUSE - NIGHT", "I/E", "N", "HOUSE");
+        Row("established shot, dawn is a day word", "EST. CITY - DAWN", "E", "D", "CITY");
+        Row("continuous leaves the time open", "INT. HOUSE - HALL - CONTINUOUS", "I", "?", "HOUSE - HALL");
+        Row("time before a continuity note", "INT. HOUSE - NIGHT - CONTINUOUS", "I", "N", "HOUSE");
+        Row("no time word", "EXT. BEACH - MAGIC HOUR", "E", "?", "BEACH - MAGIC HOUR");
+        Row("time without a dash", "INT. ATTIC NIGHT", "I", "N", "ATTIC");
+        Row("day word wins as in the text import", "EXT. ROAD - LATE AFTERNOON", "E", "D", "ROAD");
+        Row("later is no late", "INT. BAR - LATER", "I", "?", "BAR");
+        Row("forced heading", "SNIPER SCOPE POV", "?", "?", "SNIPER SCOPE POV");
+        Row("lower case", "int. barn - day", "I", "D", "BARN");
+        Row("apostrophe kept", "EXT. BRICK'S PATIO - DAY", "E", "D", "BRICK'S PATIO");
     }
-    QCOMPARE(run->doc.locationPickList, (QStringList{"VAULT", "FLASHBACK", "ROOF"}));
-    QVERIFY(run->doc.Modified);
-    // Headings' lines in the file are kept with the strips.
-    QCOMPARE(run->column(StripField::Reserved8), (QStringList{"9", "30", "35"}));
-}
 
-void TestScreenplayImport::fountainPages()
-{
-    // A heading and 200 lines of action: a blank line, then 54 lines on page 1, 55 on
-    // pages 2 and 3, 36 on page 4; then a second heading with 20 more lines.
-    QStringList lines{QStringLiteral("INT. HALL - DAY"), QString()};
-    for (int k = 0; k < 200; ++k)
-        lines << QStringLiteral("Line %1.").arg(k) << QString();
-    lines.removeLast();
-    QString script = lines.join(u'\n');
-    // One action paragraph of 200 lines.
-    script.replace(QStringLiteral(".\n\nLine"), QStringLiteral(".\nLine"));
-    script += QStringLiteral("\n\nEXT. YARD - NIGHT\n\n");
-    for (int k = 0; k < 20; ++k)
-        script += QStringLiteral("Yard %1.\n").arg(k);
-    auto run = Imported::fountain(script);
-    QVERIFY(run->result.ok());
-    QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "4"}));
-    // 1 + 1 + 200 = 202 lines: 3 pages and 37 lines, the second scene starts a line
-    // later and runs 22 lines.
-    const double first = 3 + 38.0 / 55;
-    QCOMPARE(run->field(1, StripField::PageLength).toDouble(), std::round(first * 8) / 8);
-    QVERIFY(qAbs(run->pages() - (first + 22.0 / 55)) <= 1.0 / 16);
-}
+    void headings()
+    {
+        QFETCH(QString, heading);
+        QFETCH(QString, intExt);
+        QFETCH(QString, dayNight);
+        QFETCH(QString, location);
+        QString i, d, l;
+        ReadSceneHeading(heading, ScriptImportSettings(), &i, &d, &l);
+        QCOMPARE(i, intExt);
+        QCOMPARE(d, dayNight);
+        QCOMPARE(l, location);
+    }
 
-void TestScreenplayImport::fdxRules()
-{
-    const QString content =
-        Para("Scene Heading", "INT. KITCHEN - NIGHT", "Number=\"4A\"") +
-        QStringLiteral("<Paragraph Type=\"Scene Heading\" Number=\"5\"><SceneProperties Length=\"1 3/8\" Page=\"7\" "
-                       "Title=\"\"/><Text>EXT. GARDEN</Text><Text> - DAY</Text></Paragraph>\n") +
-        Para("Action", "Rain on the window.") + Para("Character", "ANNA (V.O.)") + Para("Parenthetical", "(softly)") +
-        Para("Dialogue", "Hello.") + QStringLiteral("<Paragraph><DualDialogue>") + Para("Character", "BEN") +
-        Para("Dialogue", "Hi.") + Para("Character", "CAL (CONT'D)") + Para("Dialogue", "Hey.") +
-        QStringLiteral("</DualDialogue></Paragraph>") + Para("Character", "ANNA") + Para("Dialogue", "Again.") +
-        Para("Transition", "CUT TO:") + Para("Scene Heading", "INT. SHED - DAWN");
-    auto run = Imported::fdx(Fdx(content, Para("", "") + Para("Title", "Garden Party") + Para("", "by Someone")));
-    QVERIFY2(run->result.ok(), qPrintable(run->result.message()));
-    QCOMPARE(run->doc.values.PictureTitle, QStringLiteral("Garden Party"));
-    QCOMPARE(run->column(StripField::SceneNumber), (QStringList{"4A", "5", "3"}));
-    QCOMPARE(run->column(StripField::Location), (QStringList{"KITCHEN", "GARDEN", "SHED"}));
-    QCOMPARE(run->column(StripField::DayNight), (QStringList{"N", "D", "D"}));
-    QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "7", "1"}));
-    QCOMPARE(run->field(2, StripField::PageLength), QStringLiteral("1.375"));
-    QCOMPARE(run->field(2, StripField::Synopsis), QStringLiteral("Rain on the window."));
-    QCOMPARE(Cast(run->doc), (QStringList{"ANNA", "BEN", "CAL"}));
-    QCOMPARE(run->column(StripField::Assignments), (QStringList{"", "1,2,3", ""}));
-}
+    void cueNames_data()
+    {
+        QTest::addColumn<QString>("cue");
+        QTest::addColumn<QString>("name");
+        Row("continued", "MIKE (CONT'D)", "MIKE");
+        Row("two extensions", "DONNA (V.O.) (CONT'D)", "DONNA");
+        Row("dual dialogue", "BRICK ^", "BRICK");
+        Row("forced, mixed case", "@McCLANE", "McCLANE");
+        Row("lower-case extension", "HANS (on the radio)", "HANS");
+        Row("continued without parentheses", "KATE CONT'D", "KATE");
+        Row("blanks folded", "FISHERMAN  #1", "FISHERMAN #1");
+    }
 
-void TestScreenplayImport::fdxWithoutProperties()
-{
-    // Without SceneProperties the pages are counted as for Fountain: the same script
-    // gives the same strips either way.
-    QString fountain;
-    QString content;
-    for (int s = 1; s <= 6; ++s) {
-        fountain += QStringLiteral("EXT. FIELD %1 - DAY\n\n").arg(s);
-        content += Para("Scene Heading", QStringLiteral("EXT. FIELD %1 - DAY").arg(s));
-        for (int k = 0; k < 12; ++k) {
-            const QString action = QStringLiteral("The wheat moves in the wind, row after row after row, %1.").arg(k);
-            fountain += action + QStringLiteral("\n\nFARMER\nAnother line of speech that is long enough to wrap.\n\n");
-            content += Para("Action", action) + Para("Character", "FARMER") +
-                       Para("Dialogue", "Another line of speech that is long enough to wrap.");
+    void cueNames()
+    {
+        QFETCH(QString, cue);
+        QFETCH(QString, name);
+        QCOMPARE(CueName(cue), name);
+    }
+
+    void synopsis_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("synopsis");
+        Row("short, first line only", "A gorgeous day.\nThe sun shines.", "A gorgeous day.");
+        Row("first sentence of a long line",
+            "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.",
+            "A gorgeous day.");
+        Row("cut at a blank", "The small bedroom is painted sky blue and has toys scattered all around the floor of it",
+            "The small bedroom is painted sky blue and has toys scattered...");
+        Row("markup removed", "*Did you know* _Brick_ is **retired**?", "Did you know Brick is retired?");
+    }
+
+    void synopsis()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, synopsis);
+        QCOMPARE(SynopsisFrom(action), synopsis);
+    }
+
+    void fountainRules()
+    {
+        const QString script = QStringLiteral("Title: **THE HEIST**\nAuthor: Nobody\n\n# ACT ONE\n= The crew meets.\n\n"
+                                              "NARRATOR (V.O.)\nOnce upon a time.\n\nINT. VAULT - NIGHT #12A#\n\n"
+                                              "Alarms blare. [[fix this]] Lights flash.\n\nMARY\n(whispering)\nGo.\n\n"
+                                              "JOHN ^\nNow.\n\nMARY (CONT'D)\nGo!\n\n/* EXT. CUT SCENE - DAY\n\nGHOST\n"
+                                              "Boo. */\n\nCUT TO:\n\n.FLASHBACK\n\n@McCLANE\nYippee.\n\n"
+                                              "EXT. ROOF - DAY #13#\n\n[[a note alone]]\n\n[[a note left open\n\n"
+                                              "Wind.\n\n> THE END <\n");
+        auto run = Imported::fountain(script);
+        QVERIFY(run->result.ok());
+        QVERIFY(run->prompter.prompts.isEmpty());
+        QCOMPARE(run->doc.values.PictureTitle, "THE HEIST");
+        QCOMPARE(run->column(StripField::SceneNumber), (QStringList{"12A", "2", "13"}));
+        QCOMPARE(run->column(StripField::IntExt), (QStringList{"I", "?", "E"}));
+        QCOMPARE(run->column(StripField::DayNight), (QStringList{"N", "?", "D"}));
+        QCOMPARE(run->column(StripField::Location), (QStringList{"VAULT", "FLASHBACK", "ROOF"}));
+        QCOMPARE(run->column(StripField::Synopsis), (QStringList{"Alarms blare. Lights flash.", "", "Wind."}));
+        QCOMPARE(run->column(StripField::StripId), (QStringList{"1", "2", "3"}));
+        QCOMPARE(run->column(StripField::StripKind), (QStringList{"1", "1", "1"}));
+        QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "1", "1"}));
+        QCOMPARE(run->doc.values.NextStripId, 3);
+        // Cast in order of first appearance; the narrator before the first heading has no
+        // scene; the boneyard's ghost is gone; Mary once in her scene.
+        QCOMPARE(Cast(run->doc), (QStringList{"NARRATOR", "MARY", "JOHN", "McCLANE"}));
+        QCOMPARE(run->column(StripField::Assignments), (QStringList{"2,3", "4", ""}));
+        for (int e = 1; e <= run->doc.elements.count(); ++e) {
+            const ElementRecord &el = run->doc.elements[e];
+            QCOMPARE(el[ElementField::BoardId], QString::number(e));
+            QCOMPARE(el[ElementField::CategoryNumber], "1");
+            QCOMPARE(el[ElementField::PrintOnBoard], "1");
+        }
+        QCOMPARE(run->doc.locationPickList, (QStringList{"VAULT", "FLASHBACK", "ROOF"}));
+        QVERIFY(run->doc.Modified);
+        // Headings' lines in the file are kept with the strips.
+        QCOMPARE(run->column(StripField::Reserved8), (QStringList{"9", "30", "35"}));
+    }
+
+    void fountainPages()
+    {
+        // A heading and 200 lines of action: a blank line, then 54 lines on page 1, 55 on
+        // pages 2 and 3, 36 on page 4; then a second heading with 20 more lines.
+        QStringList lines{"INT. HALL - DAY", QString()};
+        for (int k = 0; k < 200; ++k)
+            lines << QStringLiteral("Line %1.").arg(k) << QString();
+        lines.removeLast();
+        QString script = lines.join(u'\n');
+        // One action paragraph of 200 lines.
+        script.replace(".\n\nLine", ".\nLine");
+        script += "\n\nEXT. YARD - NIGHT\n\n";
+        for (int k = 0; k < 20; ++k)
+            script += QStringLiteral("Yard %1.\n").arg(k);
+        auto run = Imported::fountain(script);
+        QVERIFY(run->result.ok());
+        QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "4"}));
+        // 1 + 1 + 200 = 202 lines: 3 pages and 37 lines, the second scene starts a line
+        // later and runs 22 lines.
+        const double first = 3 + 38.0 / 55;
+        QCOMPARE(run->field(1, StripField::PageLength).toDouble(), std::round(first * 8) / 8);
+        QVERIFY(qAbs(run->pages() - (first + 22.0 / 55)) <= 1.0 / 16);
+    }
+
+    void fdxRules()
+    {
+        const QString content =
+            Para("Scene Heading", "INT. KITCHEN - NIGHT", "Number=\"4A\"") +
+            QStringLiteral(
+                "<Paragraph Type=\"Scene Heading\" Number=\"5\"><SceneProperties Length=\"1 3/8\" Page=\"7\" "
+                "Title=\"\"/><Text>EXT. GARDEN</Text><Text> - DAY</Text></Paragraph>\n") +
+            Para("Action", "Rain on the window.") + Para("Character", "ANNA (V.O.)") +
+            Para("Parenthetical", "(softly)") + Para("Dialogue", "Hello.") + "<Paragraph><DualDialogue>" +
+            Para("Character", "BEN") + Para("Dialogue", "Hi.") + Para("Character", "CAL (CONT'D)") +
+            Para("Dialogue", "Hey.") + "</DualDialogue></Paragraph>" + Para("Character", "ANNA") +
+            Para("Dialogue", "Again.") + Para("Transition", "CUT TO:") + Para("Scene Heading", "INT. SHED - DAWN");
+        auto run = Imported::fdx(Fdx(content, Para("", "") + Para("Title", "Garden Party") + Para("", "by Someone")));
+        QVERIFY2(run->result.ok(), qPrintable(run->result.message()));
+        QCOMPARE(run->doc.values.PictureTitle, "Garden Party");
+        QCOMPARE(run->column(StripField::SceneNumber), (QStringList{"4A", "5", "3"}));
+        QCOMPARE(run->column(StripField::Location), (QStringList{"KITCHEN", "GARDEN", "SHED"}));
+        QCOMPARE(run->column(StripField::DayNight), (QStringList{"N", "D", "D"}));
+        QCOMPARE(run->column(StripField::ScriptPage), (QStringList{"1", "7", "1"}));
+        QCOMPARE(run->field(2, StripField::PageLength), "1.375");
+        QCOMPARE(run->field(2, StripField::Synopsis), "Rain on the window.");
+        QCOMPARE(Cast(run->doc), (QStringList{"ANNA", "BEN", "CAL"}));
+        QCOMPARE(run->column(StripField::Assignments), (QStringList{"", "1,2,3", ""}));
+    }
+
+    void fdxNotAScript_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        Row("empty", QByteArray());
+        Row("not XML", QByteArray("INT. KITCHEN - NIGHT\n"));
+        Row("other XML", QByteArray("<?xml version=\"1.0\"?><html><body/></html>"));
+        Row("cut short", Fdx(Para("Scene Heading", "INT. A - DAY")).left(120));
+    }
+
+    void fdxNotAScript()
+    {
+        QFETCH(QByteArray, bytes);
+        auto run = std::make_unique<Imported>();
+        AddScene(run->doc, "1", "1");
+        run->result = ImportFdxFile(run->doc, WriteFile("bad.fdx", bytes), ScriptImportSettings());
+        QVERIFY(!run->result.ok());
+        QCOMPARE(run->prompter.prompts.size(), 1);
+        QVERIFY(run->prompter.prompts.first().text.startsWith(QString::fromLatin1(FdxReadErrorText)));
+        // The open schedule is left as it was.
+        QCOMPARE(run->doc.strips.count(), 1);
+    }
+
+    void realFountainScripts_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("headings");
+        QTest::addColumn<QStringList>("cast");
+        QTest::addColumn<double>("printedPages");
+        // Printed pages: the scripts' PDFs on US Letter (without the title page), the last
+        // page counted by its lines.
+        Row("Brick & Steel", "brick_and_steel.fountain", 8,
+            QStringList{"STEEL", "BRICK", "DAN", "JACK", "COGNITO", "MINION", "HANDSOME MAN"}, 2.95);
+        Row("My Living Memory", "my_living_memory.fountain", 9,
+            QStringList{"JOE", "KATE", "MESSAGE MACHINE", "BETTY", "HARRY", "MATTHEW", "BURTON", "CONDUCTOR"}, 14.4);
+        Row("Printing Trouble", "printing_trouble.fountain", 29,
+            QStringList{"MIKE", "PRINTER", "INTERCOM", "MINA", "DONNA"}, 10.4);
+    }
+
+    void realFountainScripts()
+    {
+        QFETCH(QString, file);
+        QFETCH(QStringList, cast);
+        QFETCH(double, printedPages);
+        const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath(file));
+        QVERIFY(lines.ok());
+        auto run = std::make_unique<Imported>();
+        run->result = ImportFountain(run->doc, *lines, ScriptImportSettings());
+        QVERIFY(run->result.ok());
+        QFETCH(int, headings);
+        QCOMPARE(run->doc.strips.count(), headings);
+        QStringList names = Cast(run->doc);
+        QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>(cast.begin(), cast.end()));
+        QCOMPARE(names.size(), cast.size());
+        for (const QString &name : names)
+            QVERIFY2(LooksLikeName(name), qPrintable(name));
+        const double pages = run->pages();
+        QVERIFY2(qAbs(pages - printedPages) <= 0.05 * printedPages,
+                 qPrintable(QStringLiteral("%1 pages, printed %2").arg(pages).arg(printedPages)));
+        // Every scene has a location and a length of at least an eighth.
+        for (int s = 1; s <= run->doc.strips.count(); ++s) {
+            QVERIFY(!run->field(s, StripField::Location).isEmpty());
+            QVERIFY(run->field(s, StripField::PageLength).toDouble() >= 0.125);
         }
     }
-    auto fromFountain = Imported::fountain(fountain);
-    auto fromFdx = Imported::fdx(Fdx(content));
-    QVERIFY(fromFdx->result.ok());
-    QCOMPARE(fromFdx->column(StripField::PageLength), fromFountain->column(StripField::PageLength));
-    QCOMPARE(fromFdx->column(StripField::ScriptPage), fromFountain->column(StripField::ScriptPage));
-    QCOMPARE(fromFdx->column(StripField::SceneNumber), (QStringList{"1", "2", "3", "4", "5", "6"}));
-}
 
-void TestScreenplayImport::fdxNotAScript_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("not XML") << QByteArray("INT. KITCHEN - NIGHT\n");
-    QTest::newRow("other XML") << QByteArray("<?xml version=\"1.0\"?><html><body/></html>");
-    QTest::newRow("cut short") << Fdx(Para("Scene Heading", "INT. A - DAY")).left(120);
-}
-
-void TestScreenplayImport::fdxNotAScript()
-{
-    QFETCH(QByteArray, bytes);
-    auto run = std::make_unique<Imported>();
-    AddScene(run->doc, QStringLiteral("1"), QStringLiteral("1"));
-    run->result = ImportFdxFile(run->doc, WriteFile(QStringLiteral("bad.fdx"), bytes), ScriptImportSettings());
-    QVERIFY(!run->result.ok());
-    QCOMPARE(run->prompter.prompts.size(), 1);
-    QVERIFY(run->prompter.prompts.first().text.startsWith(QString::fromLatin1(FdxReadErrorText)));
-    // The open schedule is left as it was.
-    QCOMPARE(run->doc.strips.count(), 1);
-}
-
-void TestScreenplayImport::realFountainScripts_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("headings");
-    QTest::addColumn<QStringList>("cast");
-    QTest::addColumn<double>("printedPages");
-    // Printed pages: the scripts' PDFs on US Letter (without the title page), the last
-    // page counted by its lines.
-    QTest::newRow("Brick & Steel") << "brick_and_steel.fountain" << 8
-                                   << QStringList{"STEEL", "BRICK", "DAN", "JACK", "COGNITO", "MINION", "HANDSOME MAN"}
-                                   << 2.95;
-    QTest::newRow("My Living Memory") << "my_living_memory.fountain" << 9
-                                      << QStringList{"JOE",   "KATE",    "MESSAGE MACHINE", "BETTY",
-                                                     "HARRY", "MATTHEW", "BURTON",          "CONDUCTOR"}
-                                      << 14.4;
-    QTest::newRow("Printing Trouble") << "printing_trouble.fountain" << 29
-                                      << QStringList{"MIKE", "PRINTER", "INTERCOM", "MINA", "DONNA"} << 10.4;
-}
-
-void TestScreenplayImport::realFountainScripts()
-{
-    QFETCH(QString, file);
-    QFETCH(QStringList, cast);
-    QFETCH(double, printedPages);
-    const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath(file));
-    QVERIFY(lines.ok());
-    auto run = std::make_unique<Imported>();
-    run->result = ImportFountain(run->doc, *lines, ScriptImportSettings());
-    QVERIFY(run->result.ok());
-    QFETCH(int, headings);
-    QCOMPARE(run->doc.strips.count(), headings);
-    QStringList names = Cast(run->doc);
-    QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>(cast.begin(), cast.end()));
-    QCOMPARE(names.size(), cast.size());
-    for (const QString &name : names)
-        QVERIFY2(LooksLikeName(name), qPrintable(name));
-    const double pages = run->pages();
-    QVERIFY2(qAbs(pages - printedPages) <= 0.05 * printedPages,
-             qPrintable(QStringLiteral("%1 pages, printed %2").arg(pages).arg(printedPages)));
-    // Every scene has a location and a length of at least an eighth.
-    for (int s = 1; s <= run->doc.strips.count(); ++s) {
-        QVERIFY(!run->field(s, StripField::Location).isEmpty());
-        QVERIFY(run->field(s, StripField::PageLength).toDouble() >= 0.125);
+    void fdxMatchesFountain()
+    {
+        // A real script written out as .fdx (without scene properties) gives the strips
+        // and cast of its Fountain import: pages are counted as for Fountain.
+        const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath("my_living_memory.fountain"));
+        QVERIFY(lines.ok());
+        const ScreenplayText parsed = ParseFountain(*lines);
+        static const char *const types[] = {"Scene Heading", "Action",     "Character", "Parenthetical",
+                                            "Dialogue",      "Transition", "Action",    "Action"};
+        QString content;
+        for (const ScreenplayParagraph &p : parsed.paragraphs)
+            content += Para(QString::fromLatin1(types[int(p.kind)]), p.text);
+        auto fromFdx = Imported::fdx(Fdx(content, Para("Title", parsed.title)));
+        auto fromFountain = std::make_unique<Imported>();
+        fromFountain->result = ImportFountain(fromFountain->doc, *lines, ScriptImportSettings());
+        QVERIFY(fromFdx->result.ok());
+        QCOMPARE(Cast(fromFdx->doc), Cast(fromFountain->doc));
+        for (StripField f :
+             {StripField::SceneNumber, StripField::Location, StripField::DayNight, StripField::Assignments,
+              StripField::PageLength, StripField::ScriptPage, StripField::Synopsis})
+            QCOMPARE(fromFdx->column(f), fromFountain->column(f));
+        QCOMPARE(fromFdx->doc.values.PictureTitle, "My Living Memory");
     }
-}
 
-void TestScreenplayImport::fdxMatchesFountain()
-{
-    // A real script written out as .fdx (without scene properties) gives the strips
-    // and cast of its Fountain import.
-    const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath("my_living_memory.fountain"));
-    QVERIFY(lines.ok());
-    const ScreenplayText parsed = ParseFountain(*lines);
-    static const char *const types[] = {"Scene Heading", "Action",     "Character", "Parenthetical",
-                                        "Dialogue",      "Transition", "Action",    "Action"};
-    QString content;
-    for (const ScreenplayParagraph &p : parsed.paragraphs)
-        content += Para(QString::fromLatin1(types[int(p.kind)]), p.text);
-    auto fromFdx = Imported::fdx(Fdx(content, Para("Title", parsed.title)));
-    auto fromFountain = std::make_unique<Imported>();
-    fromFountain->result = ImportFountain(fromFountain->doc, *lines, ScriptImportSettings());
-    QVERIFY(fromFdx->result.ok());
-    QCOMPARE(Cast(fromFdx->doc), Cast(fromFountain->doc));
-    for (StripField f : {StripField::Location, StripField::DayNight, StripField::Assignments, StripField::PageLength,
-                         StripField::ScriptPage, StripField::Synopsis})
-        QCOMPARE(fromFdx->column(f), fromFountain->column(f));
-    QCOMPARE(fromFdx->doc.values.PictureTitle, QStringLiteral("My Living Memory"));
-}
-
-void TestScreenplayImport::doubts_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("doubt");
-    Row("page number", "12.", "no letters");
-    Row("bare number", "2", "no letters");
-    Row("page with a letter", "12a.", "a page number");
-    Row("page word", "Page 3", "a page number");
-    Row("line of action", "A river.", "ends with a full stop");
-    Row("exclamation", "BOOM!", "ends like a sentence");
-    Row("long line", "Grabbing the snake and running", "more than three words");
-    Row("transition", "Cut to black", "a transition");
-    Row("continued", "Continued", "a transition");
-    Row("name", "John smith", "");
-    Row("name with a number", "Fisherman #1", "");
-    Row("initials", "J.J.", "ends with a full stop");
-    Row("three words", "Old man river", "");
-    Row("quotation", "\"shrinker-teleporter.\"", "a quotation");
-}
-
-void TestScreenplayImport::doubts()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, doubt);
-    QCOMPARE(CharacterDoubt(name), doubt);
-}
-
-void TestScreenplayImport::reviewRemovesWithAssignments()
-{
-    auto run = Imported::fountain(QStringLiteral("INT. A - DAY\n\nANN\nHi.\n\nBOB\nHi.\n\nCAL\nHi.\n\n"
-                                                 "INT. B - DAY\n\nCAL\nYo.\n\nDAN\nYo.\n\nBOB\nYo.\n"));
-    QCOMPARE(run->column(StripField::Assignments), (QStringList{"1,2,3", "3,4,2"}));
-    const QList<ReviewedCharacter> review = ReviewCharacters(run->doc);
-    QCOMPARE(review.size(), 4);
-    QCOMPARE(review.at(1).scenes, 2);
-    QCOMPARE(review.at(3).scenes, 1);
-    QCOMPARE(RemoveCharacters(run->doc, {2}), QStringList{"BOB"});
-    QCOMPARE(Cast(run->doc), (QStringList{"ANN", "CAL", "DAN"}));
-    QCOMPARE(run->column(StripField::Assignments), (QStringList{"1,2", "2,3"}));
-    for (int e = 1; e <= 3; ++e)
-        QCOMPARE(run->doc.elements[e][ElementField::BoardId], QString::number(e));
-    QCOMPARE(RemoveCharacters(run->doc, {}), QStringList());
-}
-
-void TestScreenplayImport::plainTextReview_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("headings");
-    QTest::addColumn<QStringList>("speakers");
-    // Speaking characters as the text import names them; BOB and CYBER BOB are two
-    // cues of one character in the script, and stay two names.
-    QTest::newRow("trelby") << "trelby-test.txt" << 11
-                            << QStringList{"Jason", "Kevin",   "Fisherman #1", "Fisherman #2",
-                                           "Sarah", "Captain", "Reporter"};
-    QTest::newRow("cyber bob") << "cyber-bob-ep1.txt" << 3
-                               << QStringList{"Bob", "Dog", "Margaret", "Cyber bob", "Cyber boss", "Boss"};
-}
-
-void TestScreenplayImport::plainTextReview()
-{
-    QFETCH(QString, file);
-    QFETCH(QStringList, speakers);
-    const QString path = QDir(ScreenplaysDir).filePath(file);
-    if (!QFile::exists(path))
-        QSKIP("the shared screenplays are not there");
-    const ResultOf<QStringList> lines = ReadScriptFile(path);
-    QVERIFY(lines.ok());
-    auto run = std::make_unique<Imported>();
-    QVERIFY(DoImport(run->doc, *lines, ScriptImportSettings()).ok());
-    QFETCH(int, headings);
-    QCOMPARE(run->doc.strips.count(), headings);
-    const int before = run->doc.elements.count();
-    const QStringList dropped = RemoveDoubtfulCharacters(run->doc);
-    QCOMPARE(run->doc.elements.count(), before - dropped.size());
-    // What is left are names: no page numbers, no transitions, no lines of action.
-    for (const QString &name : Cast(run->doc)) {
-        QVERIFY2(LooksLikeName(name), qPrintable(name));
-        QVERIFY2(!QRegularExpression(QStringLiteral("^\\d")).match(name).hasMatch(), qPrintable(name));
+    void doubts_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("doubt");
+        Row("page number", "12.", "no letters");
+        Row("bare number", "2", "no letters");
+        Row("page with a letter", "12a.", "a page number");
+        Row("page word", "Page 3", "a page number");
+        Row("line of action", "A river.", "ends with a full stop");
+        Row("exclamation", "BOOM!", "ends like a sentence");
+        Row("long line", "Grabbing the snake and running", "more than three words");
+        Row("transition", "Cut to black", "a transition");
+        Row("continued", "Continued", "a transition");
+        Row("name", "John smith", "");
+        Row("name with a number", "Fisherman #1", "");
+        Row("initials", "J.J.", "ends with a full stop");
+        Row("three words", "Old man river", "");
+        Row("quotation", "\"shrinker-teleporter.\"", "a quotation");
     }
-    // Every speaking character is kept, and nothing else.
-    const QStringList cast = Cast(run->doc);
-    QCOMPARE(QSet<QString>(cast.begin(), cast.end()), QSet<QString>(speakers.begin(), speakers.end()));
-    // Assignments only name elements that exist.
-    for (int s = 1; s <= run->doc.strips.count(); ++s) {
-        for (int e : AssignedElements(run->doc, s))
-            QVERIFY(e >= 1 && e <= run->doc.elements.count());
-    }
-}
 
-void TestScreenplayImport::summary()
-{
-    auto run = Imported::fountain(QStringLiteral("INT. A - DAY\n\nANN\nHi.\n\nEXT. B\n\nBOB\nHi.\n\n.C\n\nWind.\n"));
-    ImportSummary s = SummarizeImport(run->doc, {QStringLiteral("12.")});
-    QCOMPARE(s.scenes, 3);
-    QCOMPARE(s.characters, 2);
-    QCOMPARE(s.withoutTimeOfDay, 2);
-    QCOMPARE(s.withoutLocation, 0);
-    QCOMPARE(s.text(), QStringLiteral("Imported 3 scenes, 2 characters, 3/8 page.\r"
-                                      "Guessed: 2 headings without a time of day (shown as ?).\r"
-                                      "Dropped in the review: 12.."));
-}
+    void doubts()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, doubt);
+        QCOMPARE(CharacterDoubt(name), doubt);
+    }
+
+    void reviewRemovesWithAssignments()
+    {
+        auto run = Imported::fountain(QStringLiteral("INT. A - DAY\n\nANN\nHi.\n\nBOB\nHi.\n\nCAL\nHi.\n\n"
+                                                     "INT. B - DAY\n\nCAL\nYo.\n\nDAN\nYo.\n\nBOB\nYo.\n"));
+        QCOMPARE(run->column(StripField::Assignments), (QStringList{"1,2,3", "3,4,2"}));
+        const QList<ReviewedCharacter> review = ReviewCharacters(run->doc);
+        QCOMPARE(review.size(), 4);
+        QCOMPARE(review.at(1).scenes, 2);
+        QCOMPARE(review.at(3).scenes, 1);
+        QCOMPARE(RemoveCharacters(run->doc, {2}), QStringList{"BOB"});
+        QCOMPARE(Cast(run->doc), (QStringList{"ANN", "CAL", "DAN"}));
+        QCOMPARE(run->column(StripField::Assignments), (QStringList{"1,2", "2,3"}));
+        for (int e = 1; e <= 3; ++e)
+            QCOMPARE(run->doc.elements[e][ElementField::BoardId], QString::number(e));
+        QCOMPARE(RemoveCharacters(run->doc, {}), QStringList());
+    }
+
+    void plainTextReview_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("headings");
+        QTest::addColumn<QStringList>("speakers");
+        // Speaking characters as the text import names them; BOB and CYBER BOB are two
+        // cues of one character in the script, and stay two names.
+        Row("trelby", "trelby-test.txt", 11,
+            QStringList{"Jason", "Kevin", "Fisherman #1", "Fisherman #2", "Sarah", "Captain", "Reporter"});
+        Row("cyber bob", "cyber-bob-ep1.txt", 3,
+            QStringList{"Bob", "Dog", "Margaret", "Cyber bob", "Cyber boss", "Boss"});
+    }
+
+    void plainTextReview()
+    {
+        QFETCH(QString, file);
+        QFETCH(QStringList, speakers);
+        const QString path = QDir(ScreenplaysDir).filePath(file);
+        if (!QFile::exists(path))
+            QSKIP("the shared screenplays are not there");
+        const ResultOf<QStringList> lines = ReadScriptFile(path);
+        QVERIFY(lines.ok());
+        auto run = std::make_unique<Imported>();
+        QVERIFY(DoImport(run->doc, *lines, ScriptImportSettings()).ok());
+        QFETCH(int, headings);
+        QCOMPARE(run->doc.strips.count(), headings);
+        const int before = run->doc.elements.count();
+        const QStringList dropped = RemoveDoubtfulCharacters(run->doc);
+        QCOMPARE(run->doc.elements.count(), before - dropped.size());
+        // What is left are names: no page numbers, no transitions, no lines of action.
+        for (const QString &name : Cast(run->doc)) {
+            QVERIFY2(LooksLikeName(name), qPrintable(name));
+            QVERIFY2(!QRegularExpression("^\\d").match(name).hasMatch(), qPrintable(name));
+        }
+        // Every speaking character is kept, and nothing else.
+        const QStringList cast = Cast(run->doc);
+        QCOMPARE(QSet<QString>(cast.begin(), cast.end()), QSet<QString>(speakers.begin(), speakers.end()));
+        // Assignments only name elements that exist.
+        for (int s = 1; s <= run->doc.strips.count(); ++s) {
+            for (int e : AssignedElements(run->doc, s))
+                QVERIFY(e >= 1 && e <= run->doc.elements.count());
+        }
+    }
+
+    void summary()
+    {
+        auto run = Imported::fountain("INT. A - DAY\n\nANN\nHi.\n\nEXT. B\n\nBOB\nHi.\n\n.C\n\nWind.\n");
+        ImportSummary s = SummarizeImport(run->doc, {"12."});
+        QCOMPARE(s.scenes, 3);
+        QCOMPARE(s.characters, 2);
+        QCOMPARE(s.withoutTimeOfDay, 2);
+        QCOMPARE(s.withoutLocation, 0);
+        QCOMPARE(s.text(), QStringLiteral("Imported 3 scenes, 2 characters, 3/8 page.\r"
+                                          "Guessed: 2 headings without a time of day (shown as ?).\r"
+                                          "Dropped in the review: 12.."));
+    }
+};
 
 TB_TEST_GUILESS_MAIN(TestScreenplayImport)
 #include "tst_screenplayimport.moc"

@@ -12,336 +12,292 @@
 using namespace tb;
 using namespace tb::test;
 
+namespace {
+
+// Adds one data row.
+template <typename... T>
+void row(const char *tag, const T &...values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
+} // namespace
+
 class TestDfmParser : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void valuesOfEveryKind();
-    void nestedObjectsInFileOrder();
-    void syntaxErrors_data();
-    void syntaxErrors();
-    void templateErrors_data();
-    void templateErrors();
-    void fontsFollowTheirParent();
-    void embeddedPicture();
-    void loadTemplateReportsWhyNot_data();
-    void loadTemplateReportsWhyNot();
-    void shippedTemplatesLoad_data();
-    void shippedTemplatesLoad();
-};
-
-void TestDfmParser::valuesOfEveryKind()
-{
-    const QString text = QStringLiteral("object F: TForm\n"
-                                        "  Int = -42\n"
-                                        "  Hex = $FF00000F\n"
-                                        "  Num = 1.5E2\n"
-                                        "  Single = 2.5s\n"
-                                        "  Str = 'It''s'#13#10'two' +\n"
-                                        "    ' lines'#$41\n"
-                                        "  Ident = alr_Detail\n"
-                                        "  Font.Style = [fsBold, fsItalic]\n"
-                                        "  Empty = []\n"
-                                        "  Lines.Strings = (\n"
-                                        "    'a'\n"
-                                        "    'b')\n"
-                                        "  Data = {\n"
-                                        "    0A0B\n"
-                                        "    ff}\n"
-                                        "  Items = <\n"
-                                        "    item\n"
-                                        "      Width = 3\n"
-                                        "    end>\n"
-                                        "end\n");
-    ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
-    QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
-    const DfmObject &f = parsed.value();
-    QCOMPARE(f.name, QStringLiteral("F"));
-    QCOMPARE(f.className, QStringLiteral("TForm"));
-    QCOMPARE(f.properties.size(), 11);
-    auto value = [&](int i) { return f.properties.at(i).second; };
-    QCOMPARE(value(0).integer, -42);
-    QCOMPARE(value(1).integer, qint64(qint32(0xFF00000F))); // 32-bit colour values read signed
-    QCOMPARE(value(2).number, 150.0);
-    QCOMPARE(value(3).kind, DfmValue::Float);
-    QCOMPARE(value(4).text, QStringLiteral("It's\r\ntwo linesA"));
-    QCOMPARE(value(4).line, 6);
-    QCOMPARE(value(5).kind, DfmValue::Identifier);
-    QCOMPARE(f.properties.at(6).first, QStringLiteral("Font.Style"));
-    QCOMPARE(value(6).setItems, QStringList({"fsBold", "fsItalic"}));
-    QVERIFY(value(7).setItems.isEmpty());
-    QCOMPARE(value(8).items.size(), 2);
-    QCOMPARE(value(9).bytes, QByteArray("\x0A\x0B\xFF"));
-    QCOMPARE(value(10).collection.size(), 1);
-    QCOMPARE(value(10).collection.first().properties.first().second.integer, 3);
-}
-
-void TestDfmParser::nestedObjectsInFileOrder()
-{
-    ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n"
-                                                             "  object A: tAlBand\n"
-                                                             "    object L: TAlLabel\n"
-                                                             "    end\n"
-                                                             "  end\n"
-                                                             "  inherited B: tAlBand\n"
-                                                             "  end\n"
-                                                             "  object TAlReport\n"
-                                                             "  end\n"
-                                                             "end"),
-                                              QStringLiteral("t.dfm"));
-    QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
-    const DfmObject &f = parsed.value();
-    QCOMPARE(f.children.size(), 3);
-    QCOMPARE(f.children.at(0).children.at(0).name, QStringLiteral("L"));
-    QCOMPARE(f.children.at(0).children.at(0).line, 3);
-    QCOMPARE(f.children.at(1).keyword, QStringLiteral("inherited"));
-    QVERIFY(f.children.at(2).name.isEmpty());
-    QCOMPARE(f.children.at(2).className, QStringLiteral("TAlReport"));
-}
-
-void TestDfmParser::syntaxErrors_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("no object") << "Left = 1\n"
-                               << "t.dfm, line 1: expected \"object\", found \"Left\"";
-    QTest::newRow("missing class") << "object F:\nend"
-                                   << "t.dfm, line 2: expected a class name after \"F:\", found \"end\"";
-    QTest::newRow("missing equals")
-        << "object F: TForm\n  Left 1\nend"
-        << "t.dfm, line 2: expected \"=\" after the property name \"Left\", found the number 1";
-    QTest::newRow("missing value") << "object F: TForm\n  Left =\nend"
-                                   << "t.dfm, line 3: expected a value for \"Left\", found \"end\"";
-    QTest::newRow("missing end")
-        << "object F: TForm\n  Left = 1\n"
-        << "t.dfm, line 3: expected a property, \"object\" or \"end\" in F, found the end of the file";
-    QTest::newRow("open string") << "object F: TForm\n  Caption = 'abc\nend"
-                                 << "t.dfm, line 2: expected \"'\" to close the string before the end of the line";
-    QTest::newRow("plus without string") << "object F: TForm\n  Caption = 'a' +\n  1\nend"
-                                         << "t.dfm, line 3: expected a string after \"+\", found the number 1";
-    QTest::newRow("bad set")
-        << "object F: TForm\n  Font.Style = [fsBold fsItalic]\nend"
-        << "t.dfm, line 2: expected \",\" or \"]\" in the set of \"Font.Style\", found \"fsItalic\"";
-    QTest::newRow("odd hex") << "object F: TForm\n  Data = {ABC}\nend"
-                             << "t.dfm, line 2: binary data has an odd number of hexadecimal digits";
-    QTest::newRow("bad hex") << "object F: TForm\n  Data = {AG}\nend"
-                             << "t.dfm, line 2: expected a hexadecimal digit in the binary data, found \"G\"";
-    QTest::newRow("bad character") << "object F: TForm\n  Left = 1\n  ; \nend"
-                                   << "t.dfm, line 3: unexpected character \";\"";
-    QTest::newRow("number glued to name")
-        << "object F: TForm\n  Left = 12px\nend"
-        << "t.dfm, line 2: expected a blank or a symbol after the number, found \"p\"";
-    QTest::newRow("text after end")
-        << "object F: TForm\nend\nobject G: TForm\nend"
-        << "t.dfm, line 3: expected the end of the file after the last \"end\", found \"object\"";
-    QTest::newRow("unclosed list")
-        << "object F: TForm\n  L = ('a'\n"
-        << "t.dfm, line 3: expected \")\" to close the list of \"L\", found the end of the file";
-    QTest::newRow("collection") << "object F: TForm\n  C = < Width = 1 >\nend"
-                                << "t.dfm, line 2: expected \"item\" or \">\" in the collection \"C\", found \"Width\"";
-}
-
-void TestDfmParser::syntaxErrors()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, message);
-    ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
-    QVERIFY(!parsed.ok());
-    QCOMPARE(parsed.message(), message);
-}
-
-void TestDfmParser::templateErrors_data()
-{
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("unknown class") << "  object X: TLabel\n  end\n"
-                                   << "t.dfm, line 2: expected a report class (TAlReport, tAlBand, TAlLabel, TAlField, "
-                                      "TAlSysField, TAlShape, tAlImage, TAlDetailLink), found \"TLabel\"";
-    QTest::newRow("unknown property") << "  object B: tAlBand\n    Colour = clRed\n  end\n"
-                                      << "t.dfm, line 3: unknown property \"Colour\" of tAlBand";
-    QTest::newRow("wrong kind") << "  object B: tAlBand\n    Height = 'tall'\n  end\n"
-                                << "t.dfm, line 3: expected a whole number for \"Height\", found a quoted string";
-    QTest::newRow("bad enumeration") << "  object B: tAlBand\n    BandType = alr_Body\n  end\n"
-                                     << "t.dfm, line 3: expected one of alr_Title, alr_PageHeader, alr_DetailHeader, "
-                                        "alr_Detail, alr_DetailFooter, alr_PageFooter, alr_ReportFooter, alr_NewPage, "
-                                        "alr_GroupHeader, alr_GroupFooter for \"BandType\", found \"alr_Body\"";
-    QTest::newRow("bad boolean") << "  object B: tAlBand\n    Enabled = Yes\n  end\n"
-                                 << "t.dfm, line 3: expected True or False for \"Enabled\"";
-    QTest::newRow("bad colour") << "  object B: tAlBand\n    Color = clPurpleish\n  end\n"
-                                << "t.dfm, line 3: \"clPurpleish\" is not a colour name (for \"Color\")";
-    QTest::newRow("bad font style") << "  object B: tAlBand\n    Font.Style = [fsHeavy]\n  end\n"
-                                    << "t.dfm, line 3: expected fsBold, fsItalic, fsUnderline or fsStrikeOut in "
-                                       "\"Font.Style\", found \"fsHeavy\"";
-    QTest::newRow("caption on a system field")
-        << "  object B: tAlBand\n    object S: TAlSysField\n      Caption = 'x'\n"
-           "    end\n  end\n"
-        << "t.dfm, line 4: unknown property \"Caption\" of TAlSysField";
-    QTest::newRow("missing reference")
-        << "  object K: TAlDetailLink\n    GroupBand = Nowhere\n  end\n"
-        << "t.dfm, line 3: \"GroupBand\" of K names \"Nowhere\", which the template does "
-           "not hold";
-    QTest::newRow("reference of the wrong class")
-        << "  object B: tAlBand\n  end\n  object K: TAlDetailLink\n    DataSource = B\n  end\n"
-        << "t.dfm, line 5: expected a TAlField for \"DataSource\", found tAlBand \"B\"";
-    QTest::newRow("band on a band") << "  object B: tAlBand\n    object C: tAlBand\n    end\n  end\n"
-                                    << "t.dfm, line 3: a band cannot sit on another band (C on B)";
-    QTest::newRow("children of a label") << "  object L: TAlLabel\n    object M: TAlLabel\n    end\n  end\n"
-                                         << "t.dfm, line 3: L cannot hold other components";
-}
-
-void TestDfmParser::templateErrors()
-{
-    QFETCH(QString, body);
-    QFETCH(QString, message);
-    ResultOf<DfmObject> parsed =
-        ParseDfmText(QStringLiteral("object F: TForm\n") + body + QStringLiteral("end\n"), QStringLiteral("t.dfm"));
-    QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
-    auto built = BuildReportForm(parsed.value(), QStringLiteral("/somewhere/t.dfm"));
-    QVERIFY(!built.ok());
-    QCOMPARE(built.message(), message);
-}
-
-void TestDfmParser::fontsFollowTheirParent()
-{
-    ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n"
-                                                             "  Font.Name = 'Courier New'\n"
-                                                             "  Font.Height = -13\n"
-                                                             "  object B: tAlBand\n"
-                                                             "    Font.Style = [fsItalic]\n"
-                                                             "    object L1: TAlLabel\n"
-                                                             "    end\n"
-                                                             "    object L2: TAlLabel\n"
-                                                             "      Font.Height = -20\n"
-                                                             "    end\n"
-                                                             "    object L3: TAlLabel\n"
-                                                             "      Font.Height = -20\n"
-                                                             "      ParentFont = True\n"
-                                                             "    end\n"
-                                                             "  end\n"
-                                                             "end\n"),
-                                              QStringLiteral("t.dfm"));
-    QVERIFY(parsed.ok());
-    auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
-    QVERIFY2(built.ok(), qPrintable(built.message()));
-    const ReportForm &form = *built.value();
-    auto label = [&](const char *name) { return static_cast<TAlLabel *>(form.find(QString::fromLatin1(name))); };
-    QCOMPARE(label("L1")->Font.name, QStringLiteral("Courier New"));
-    QVERIFY(label("L1")->Font.italic);
-    QVERIFY(label("L1")->ParentFont);
-    // A font property turns ParentFont off; the rest of the font still comes from the band.
-    QCOMPARE(label("L2")->Font.height, -20);
-    QVERIFY(label("L2")->Font.italic);
-    QVERIFY(!label("L2")->ParentFont);
-    QCOMPARE(label("L3")->Font.height, -13);
-    // Output fonts are in dots of the layout resolution: 13 design pixels at 96 ppi.
-    QCOMPARE(label("L1")->outputFont.pixelSize(), qRound(13 * 1200 / 96.0));
-}
-
-void TestDfmParser::embeddedPicture()
-{
-    QImage image(4, 3, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QByteArray png;
+    void valuesOfEveryKind()
     {
-        QBuffer buffer(&png);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
+        const QString text = QStringLiteral("object F: TForm\n  Int = -42\n  Hex = $FF00000F\n  Num = 1.5E2\n"
+                                            "  Single = 2.5s\n  Str = 'It''s'#13#10'two' +\n    ' lines'#$41\n"
+                                            "  Ident = alr_Detail\n  Font.Style = [fsBold, fsItalic]\n  Empty = []\n"
+                                            "  Lines.Strings = (\n    'a'\n    'b')\n  Data = {\n    0A0B\n    ff}\n"
+                                            "  Items = <\n    item\n      Width = 3\n    end>\nend\n");
+        ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
+        QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
+        const DfmObject &f = parsed.value();
+        QCOMPARE(f.name, QStringLiteral("F"));
+        QCOMPARE(f.className, QStringLiteral("TForm"));
+        QCOMPARE(f.properties.size(), 11);
+        auto value = [&](int i) { return f.properties.at(i).second; };
+        QCOMPARE(value(0).integer, -42);
+        QCOMPARE(value(1).integer, qint64(qint32(0xFF00000F))); // 32-bit colour values read signed
+        QCOMPARE(value(2).number, 150.0);
+        QCOMPARE(value(3).kind, DfmValue::Float);
+        QCOMPARE(value(4).text, QStringLiteral("It's\r\ntwo linesA"));
+        QCOMPARE(value(4).line, 6);
+        QCOMPARE(value(5).kind, DfmValue::Identifier);
+        QCOMPARE(f.properties.at(6).first, QStringLiteral("Font.Style"));
+        QCOMPARE(value(6).setItems, QStringList({"fsBold", "fsItalic"}));
+        QVERIFY(value(7).setItems.isEmpty());
+        QCOMPARE(value(8).items.size(), 2);
+        QCOMPARE(value(9).bytes, QByteArray("\x0A\x0B\xFF"));
+        QCOMPARE(value(10).collection.size(), 1);
+        QCOMPARE(value(10).collection.first().properties.first().second.integer, 3);
     }
-    // Picture data: class name with its length byte, the stream's byte count, the stream.
-    QByteArray size(4, 0);
-    qToLittleEndian(quint32(png.size()), size.data());
-    const QByteArray data = QByteArray(1, char(9)) + "TPngImage" + size + png;
-    const QString text = QStringLiteral("object F: TForm\n  object B: tAlBand\n    object I: tAlImage\n"
-                                        "      Picture.Data = {%1}\n    end\n  end\nend\n")
-                             .arg(QString::fromLatin1(data.toHex()));
-    ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
-    QVERIFY(parsed.ok());
-    auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
-    QVERIFY2(built.ok(), qPrintable(built.message()));
-    const auto *img = static_cast<tAlImage *>(built.value()->find(QStringLiteral("I")));
-    QCOMPARE(img->Picture.size(), QSize(4, 3));
-}
 
-void TestDfmParser::loadTemplateReportsWhyNot_data()
-{
-    QTest::addColumn<QByteArray>("content"); // none: no file at all
-    QTest::addColumn<QString>("why");
-    QTest::newRow("missing") << QByteArray() << "%1: no such template file";
-    QTest::newRow("no report") << QByteArray("object F: TForm\r\n  object B: tAlBand\r\n  end\r\nend\r\n")
-                               << "t.dfm: the template holds no TAlReport";
-    QTest::newRow("bad value") << QByteArray("object F: TForm\n  object R: TAlReport\n    Papersize = A4\n  end\nend\n")
-                               << "t.dfm, line 3: expected one of alr_A4, alr_A5, alr_Legal, alr_Letter for "
-                                  "\"Papersize\", found \"A4\"";
-    // A binary form file of the older edition is named as such.
-    QTest::newRow("binary") << QByteArray("TPF0\x06TForm1\x05Form1")
-                            << "t.dfm, line 1: expected a template in text form, found a binary form file";
-}
-
-void TestDfmParser::loadTemplateReportsWhyNot()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, why);
-    const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/t.dfm");
-    QDir().mkpath(QFileInfo(path).path());
-    QFile f(path);
-    if (!content.isNull()) {
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(content);
-        f.close();
+    void nestedObjectsInFileOrder()
+    {
+        ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n  object A: tAlBand\n"
+                                                                 "    object L: TAlLabel\n    end\n  end\n"
+                                                                 "  inherited B: tAlBand\n  end\n  object TAlReport\n"
+                                                                 "  end\nend"),
+                                                  QStringLiteral("t.dfm"));
+        QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
+        const DfmObject &f = parsed.value();
+        QCOMPARE(f.children.size(), 3);
+        QCOMPARE(f.children.at(0).children.at(0).name, QStringLiteral("L"));
+        QCOMPARE(f.children.at(0).children.at(0).line, 3);
+        QCOMPARE(f.children.at(1).keyword, QStringLiteral("inherited"));
+        QVERIFY(f.children.at(2).name.isEmpty());
+        QCOMPARE(f.children.at(2).className, QStringLiteral("TAlReport"));
     }
-    QStringList trace;
-    auto loaded = LoadTemplate(path, [&](const QString &line) { trace.append(line); });
-    QVERIFY(!loaded.ok());
-    why.replace(QStringLiteral("%1"), path);
-    QCOMPARE(loaded.message(), why);
-    QCOMPARE(trace, QStringList{why}); // the detail goes to the trace
-}
 
-void TestDfmParser::shippedTemplatesLoad_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("fields");
-    const QString header = QStringLiteral("PictureField AddressField CompanyField ");
-    QTest::newRow("shooting schedule") << "ShootSch1.dfm"
-                                       << "PictureField CompanyField DayField GroupEndField SceneField PageField "
-                                          "PagesField LocationField SynopsisField CatagoryField1 CatagoryField2 "
-                                          "CatagoryField3 GrandTotal DayPagesField";
-    QTest::newRow("one-line") << "Oneline1.dfm"
-                              << "PictureField CompanyField DayField GroupEndField SceneField PagesField "
-                                 "LocationField SynopsisField CastField GrandTotal";
-    QTest::newRow("breakdown") << "Breakdown1.dfm"
-                               << header + "RefField DirField ProdField BSField SceneField PageField PagesField "
-                                           "DNField SetField SynopsisField NotesField NotesCat";
-    QTest::newRow("element summary") << "ElementSummary1.dfm"
-                                     << "HeaderField CompanyField FirstField LastField TotalField UsedField "
-                                        "NameField DescField TypeField NotesField PBField HoldField";
-    QTest::newRow("call sheet")
-        << "CallSheet1.dfm"
-        << header + "DateField DirField ProdField ADField UPMField UnitField MakeupField CostumeField WeatherField "
-                    "WrapField SceneField LocationField PagesField DNField IEField SetField SynopsisField "
-                    "ACharacterField ANameField AMakeupField ACostumeField AOnsetField ATransportField ExtraField "
-                    "ExtraCallField OtherField OtherDescriptionField CrewField1 CrewCallField1 CrewField2 "
-                    "CrewCallField2 NotesField";
-}
-
-void TestDfmParser::shippedTemplatesLoad()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, fields);
-    auto loaded = LoadTemplate(QStringLiteral(TB_SOURCE_DIR) + "/templates/" + file);
-    QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
-    const ReportForm &form = *loaded.value();
-    QVERIFY(form.report);
-    QStringList names;
-    for (const TAlField *field : form.fields())
-        names.append(field->Name);
-    for (const QString &field : fields.split(u' ')) {
-        QVERIFY2(names.contains(field), qPrintable(field));
-        // Every field name appears once: only the first of a name would receive values.
-        QCOMPARE(names.count(field), 1);
+    void syntaxErrors_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("message");
+        row("no object", "Left = 1\n", "t.dfm, line 1: expected \"object\", found \"Left\"");
+        row("missing class", "object F:\nend", "t.dfm, line 2: expected a class name after \"F:\", found \"end\"");
+        row("missing equals", "object F: TForm\n  Left 1\nend",
+            "t.dfm, line 2: expected \"=\" after the property name \"Left\", found the number 1");
+        row("missing value", "object F: TForm\n  Left =\nend",
+            "t.dfm, line 3: expected a value for \"Left\", found \"end\"");
+        row("missing end", "object F: TForm\n  Left = 1\n",
+            "t.dfm, line 3: expected a property, \"object\" or \"end\" in F, found the end of the file");
+        row("open string", "object F: TForm\n  Caption = 'abc\nend",
+            "t.dfm, line 2: expected \"'\" to close the string before the end of the line");
+        row("plus without string", "object F: TForm\n  Caption = 'a' +\n  1\nend",
+            "t.dfm, line 3: expected a string after \"+\", found the number 1");
+        row("bad set", "object F: TForm\n  Font.Style = [fsBold fsItalic]\nend",
+            "t.dfm, line 2: expected \",\" or \"]\" in the set of \"Font.Style\", found \"fsItalic\"");
+        row("odd hex", "object F: TForm\n  Data = {ABC}\nend",
+            "t.dfm, line 2: binary data has an odd number of hexadecimal digits");
+        row("bad hex", "object F: TForm\n  Data = {AG}\nend",
+            "t.dfm, line 2: expected a hexadecimal digit in the binary data, found \"G\"");
+        row("bad character", "object F: TForm\n  Left = 1\n  ; \nend", "t.dfm, line 3: unexpected character \";\"");
+        row("number glued to name", "object F: TForm\n  Left = 12px\nend",
+            "t.dfm, line 2: expected a blank or a symbol after the number, found \"p\"");
+        row("text after end", "object F: TForm\nend\nobject G: TForm\nend",
+            "t.dfm, line 3: expected the end of the file after the last \"end\", found \"object\"");
+        row("unclosed list", "object F: TForm\n  L = ('a'\n",
+            "t.dfm, line 3: expected \")\" to close the list of \"L\", found the end of the file");
+        row("collection", "object F: TForm\n  C = < Width = 1 >\nend",
+            "t.dfm, line 2: expected \"item\" or \">\" in the collection \"C\", found \"Width\"");
     }
-}
+
+    void syntaxErrors()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, message);
+        ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
+        QVERIFY(!parsed.ok());
+        QCOMPARE(parsed.message(), message);
+    }
+
+    void templateErrors_data()
+    {
+        QTest::addColumn<QString>("body");
+        QTest::addColumn<QString>("message");
+        row("unknown class", "  object X: TLabel\n  end\n",
+            "t.dfm, line 2: expected a report class (TAlReport, tAlBand, TAlLabel, TAlField, "
+            "TAlSysField, TAlShape, tAlImage, TAlDetailLink), found \"TLabel\"");
+        row("unknown property", "  object B: tAlBand\n    Colour = clRed\n  end\n",
+            "t.dfm, line 3: unknown property \"Colour\" of tAlBand");
+        row("wrong kind", "  object B: tAlBand\n    Height = 'tall'\n  end\n",
+            "t.dfm, line 3: expected a whole number for \"Height\", found a quoted string");
+        row("bad enumeration", "  object B: tAlBand\n    BandType = alr_Body\n  end\n",
+            "t.dfm, line 3: expected one of alr_Title, alr_PageHeader, alr_DetailHeader, "
+            "alr_Detail, alr_DetailFooter, alr_PageFooter, alr_ReportFooter, alr_NewPage, "
+            "alr_GroupHeader, alr_GroupFooter for \"BandType\", found \"alr_Body\"");
+        row("bad boolean", "  object B: tAlBand\n    Enabled = Yes\n  end\n",
+            "t.dfm, line 3: expected True or False for \"Enabled\"");
+        row("bad colour", "  object B: tAlBand\n    Color = clPurpleish\n  end\n",
+            "t.dfm, line 3: \"clPurpleish\" is not a colour name (for \"Color\")");
+        row("bad font style", "  object B: tAlBand\n    Font.Style = [fsHeavy]\n  end\n",
+            "t.dfm, line 3: expected fsBold, fsItalic, fsUnderline or fsStrikeOut in "
+            "\"Font.Style\", found \"fsHeavy\"");
+        row("caption on a system field",
+            "  object B: tAlBand\n    object S: TAlSysField\n      Caption = 'x'\n    end\n  end\n",
+            "t.dfm, line 4: unknown property \"Caption\" of TAlSysField");
+        row("missing reference", "  object K: TAlDetailLink\n    GroupBand = Nowhere\n  end\n",
+            "t.dfm, line 3: \"GroupBand\" of K names \"Nowhere\", which the template does "
+            "not hold");
+        row("reference of the wrong class",
+            "  object B: tAlBand\n  end\n  object K: TAlDetailLink\n    DataSource = B\n  end\n",
+            "t.dfm, line 5: expected a TAlField for \"DataSource\", found tAlBand \"B\"");
+        row("band on a band", "  object B: tAlBand\n    object C: tAlBand\n    end\n  end\n",
+            "t.dfm, line 3: a band cannot sit on another band (C on B)");
+        row("children of a label", "  object L: TAlLabel\n    object M: TAlLabel\n    end\n  end\n",
+            "t.dfm, line 3: L cannot hold other components");
+    }
+
+    void templateErrors()
+    {
+        QFETCH(QString, body);
+        QFETCH(QString, message);
+        ResultOf<DfmObject> parsed =
+            ParseDfmText(QStringLiteral("object F: TForm\n") + body + QStringLiteral("end\n"), QStringLiteral("t.dfm"));
+        QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
+        auto built = BuildReportForm(parsed.value(), QStringLiteral("/somewhere/t.dfm"));
+        QVERIFY(!built.ok());
+        QCOMPARE(built.message(), message);
+    }
+
+    void fontsFollowTheirParent()
+    {
+        ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n  Font.Name = 'Courier New'\n"
+                                                                 "  Font.Height = -13\n  object B: tAlBand\n"
+                                                                 "    Font.Style = [fsItalic]\n"
+                                                                 "    object L1: TAlLabel\n    end\n"
+                                                                 "    object L2: TAlLabel\n      Font.Height = -20\n"
+                                                                 "    end\n    object L3: TAlLabel\n"
+                                                                 "      Font.Height = -20\n      ParentFont = True\n"
+                                                                 "    end\n  end\nend\n"),
+                                                  QStringLiteral("t.dfm"));
+        QVERIFY(parsed.ok());
+        auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
+        QVERIFY2(built.ok(), qPrintable(built.message()));
+        const ReportForm &form = *built.value();
+        auto label = [&](const char *name) { return static_cast<TAlLabel *>(form.find(QString::fromLatin1(name))); };
+        QCOMPARE(label("L1")->Font.name, QStringLiteral("Courier New"));
+        QVERIFY(label("L1")->Font.italic);
+        QVERIFY(label("L1")->ParentFont);
+        // A font property turns ParentFont off; the rest of the font still comes from the band.
+        QCOMPARE(label("L2")->Font.height, -20);
+        QVERIFY(label("L2")->Font.italic);
+        QVERIFY(!label("L2")->ParentFont);
+        QCOMPARE(label("L3")->Font.height, -13);
+        // Output fonts are in dots of the layout resolution: 13 design pixels at 96 ppi.
+        QCOMPARE(label("L1")->outputFont.pixelSize(), qRound(13 * 1200 / 96.0));
+    }
+
+    void embeddedPicture()
+    {
+        QImage image(4, 3, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QByteArray png;
+        {
+            QBuffer buffer(&png);
+            buffer.open(QIODevice::WriteOnly);
+            image.save(&buffer, "PNG");
+        }
+        // Picture data: class name with its length byte, the stream's byte count, the stream.
+        QByteArray size(4, 0);
+        qToLittleEndian(quint32(png.size()), size.data());
+        const QByteArray data = QByteArray(1, char(9)) + "TPngImage" + size + png;
+        const QString text = QStringLiteral("object F: TForm\n  object B: tAlBand\n    object I: tAlImage\n"
+                                            "      Picture.Data = {%1}\n    end\n  end\nend\n")
+                                 .arg(QString::fromLatin1(data.toHex()));
+        ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
+        QVERIFY(parsed.ok());
+        auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
+        QVERIFY2(built.ok(), qPrintable(built.message()));
+        const auto *img = static_cast<tAlImage *>(built.value()->find(QStringLiteral("I")));
+        QCOMPARE(img->Picture.size(), QSize(4, 3));
+    }
+
+    void loadTemplateReportsWhyNot_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // none: no file at all
+        QTest::addColumn<QString>("why");
+        row("missing", QByteArray(), "%1: no such template file");
+        row("no report", QByteArray("object F: TForm\r\n  object B: tAlBand\r\n  end\r\nend\r\n"),
+            "t.dfm: the template holds no TAlReport");
+        row("bad value", QByteArray("object F: TForm\n  object R: TAlReport\n    Papersize = A4\n  end\nend\n"),
+            "t.dfm, line 3: expected one of alr_A4, alr_A5, alr_Legal, alr_Letter for "
+            "\"Papersize\", found \"A4\"");
+        // A binary form file of the older edition is named as such.
+        row("binary", QByteArray("TPF0\x06TForm1\x05Form1"),
+            "t.dfm, line 1: expected a template in text form, found a binary form file");
+    }
+
+    void loadTemplateReportsWhyNot()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, why);
+        const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/t.dfm");
+        QDir().mkpath(QFileInfo(path).path());
+        QFile f(path);
+        if (!content.isNull()) {
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(content);
+            f.close();
+        }
+        QStringList trace;
+        auto loaded = LoadTemplate(path, [&](const QString &line) { trace.append(line); });
+        QVERIFY(!loaded.ok());
+        why.replace(QStringLiteral("%1"), path);
+        QCOMPARE(loaded.message(), why);
+        QCOMPARE(trace, QStringList{why}); // the detail goes to the trace
+    }
+
+    void shippedTemplatesLoad_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("fields");
+        const QString header = QStringLiteral("PictureField AddressField CompanyField ");
+        row("shooting schedule", "ShootSch1.dfm",
+            "PictureField CompanyField DayField GroupEndField SceneField PageField "
+            "PagesField LocationField SynopsisField CatagoryField1 CatagoryField2 "
+            "CatagoryField3 GrandTotal DayPagesField");
+        row("one-line", "Oneline1.dfm",
+            "PictureField CompanyField DayField GroupEndField SceneField PagesField "
+            "LocationField SynopsisField CastField GrandTotal");
+        row("breakdown", "Breakdown1.dfm",
+            header + "RefField DirField ProdField BSField SceneField PageField PagesField "
+                     "DNField SetField SynopsisField NotesField NotesCat");
+        row("element summary", "ElementSummary1.dfm",
+            "HeaderField CompanyField FirstField LastField TotalField UsedField "
+            "NameField DescField TypeField NotesField PBField HoldField");
+        row("call sheet", "CallSheet1.dfm",
+            header + "DateField DirField ProdField ADField UPMField UnitField MakeupField CostumeField WeatherField "
+                     "WrapField SceneField LocationField PagesField DNField IEField SetField SynopsisField "
+                     "ACharacterField ANameField AMakeupField ACostumeField AOnsetField ATransportField ExtraField "
+                     "ExtraCallField OtherField OtherDescriptionField CrewField1 CrewCallField1 CrewField2 "
+                     "CrewCallField2 NotesField");
+    }
+
+    void shippedTemplatesLoad()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, fields);
+        auto loaded = LoadTemplate(QStringLiteral(TB_SOURCE_DIR) + "/templates/" + file);
+        QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
+        const ReportForm &form = *loaded.value();
+        QVERIFY(form.report);
+        QStringList names;
+        for (const TAlField *field : form.fields())
+            names.append(field->Name);
+        for (const QString &field : fields.split(u' ')) {
+            QVERIFY2(names.contains(field), qPrintable(field));
+            // Every field name appears once: only the first of a name would receive values.
+            QCOMPARE(names.count(field), 1);
+        }
+    }
+};
 
 TB_TEST_MAIN(TestDfmParser)
 #include "tst_dfmparser.moc"

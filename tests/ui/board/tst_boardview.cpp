@@ -1,10 +1,12 @@
 #include "TestSupport.h"
 
 #include "document/DocumentOperations.h"
+#include "document/Settings.h"
 #include "ui/board/BoardView.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFile>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -108,6 +110,7 @@ private:
 
     ScheduleDocument *doc = nullptr;
     TickingPrompter *prompter = nullptr;
+    Settings *settings = nullptr;
     QWidget *host = nullptr;
     BoardView *board = nullptr;
 };
@@ -121,10 +124,12 @@ void TestBoardView::init()
         AddScene(*doc, QString::number(i), "1", i % 2 ? "D" : "N", "I");
     for (int i = 1; i <= 30; ++i)
         AddElement(*doc, QStringLiteral("ELEMENT %1").arg(i), 1, QString::number(i));
+    QFile::remove(TempPath("board.ini"));
+    settings = new Settings(TempPath("board.ini"));
     host = new QWidget;
     auto *layout = new QVBoxLayout(host);
     layout->setContentsMargins(0, 0, 0, 0);
-    board = new BoardView(*doc, host);
+    board = new BoardView(*doc, *settings, host);
     layout->addWidget(board);
     host->resize(1400, 900);
     host->show();
@@ -137,6 +142,7 @@ void TestBoardView::cleanup()
     delete host;
     delete doc;
     delete prompter;
+    delete settings;
 }
 
 void TestBoardView::scrollBarsFollowTheTables()
@@ -220,9 +226,7 @@ void TestBoardView::clickOnARestDay()
     rest.set(StripField::StripKind, StripKinds::AutoRestDay);
     QVERIFY(doc->strips.insert(6, rest).ok());
     board->SetScrolls();
-    bool skip = false;
-    board->skipAutoRestWarning = [&] { return skip; };
-    board->setSkipAutoRestWarning = [&](bool on) { skip = on; };
+    const auto skip = [this] { return settings->skipWarning(RememberedWarning::AutoRestClick); };
     doc->SelStart = 2;
     doc->SelEnd = 3;
     QSignalSpy changed(board, &BoardView::selectionChanged);
@@ -238,7 +242,7 @@ void TestBoardView::clickOnARestDay()
     QCOMPARE(doc->SelStart, 0);
     QCOMPARE(doc->SelEnd, 0);
     QCOMPARE(changed.count(), 1);
-    QVERIFY(!skip);
+    QVERIFY(!skip());
     // The day recalculation has run: the rest day, placed by hand, is gone again.
     QCOMPARE(doc->strips.count(), 20);
 
@@ -250,7 +254,7 @@ void TestBoardView::clickOnARestDay()
         QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(3));
         QCOMPARE(prompter->prompts.size(), asked);
         QCOMPARE(doc->SelStart, 0);
-        QVERIFY(skip);
+        QVERIFY(skip());
     }
 }
 

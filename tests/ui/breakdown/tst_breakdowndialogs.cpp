@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include "document/DocumentOperations.h"
+#include "document/Settings.h"
 #include "ui/breakdown/TfrmAddElement.h"
 #include "ui/breakdown/TfrmConform.h"
 #include "ui/breakdown/TfrmProdInfo.h"
@@ -124,6 +125,7 @@ class TestBreakdownDialogs : public QObject
     // Every test starts from a fresh document answered by a fresh prompter.
     std::unique_ptr<ScheduleDocument> docp;
     std::unique_ptr<RememberingPrompter> prompterp;
+    std::unique_ptr<Settings> settingsp;
     std::unique_ptr<TfrmStrip> sceneDialog;
 
     ScheduleDocument &small()
@@ -135,7 +137,7 @@ class TestBreakdownDialogs : public QObject
     // Shows the scene editor in the mode on the strip.
     TfrmStrip &openScene(int mode, int current)
     {
-        sceneDialog = std::make_unique<TfrmStrip>(*docp);
+        sceneDialog = std::make_unique<TfrmStrip>(*docp, *settingsp);
         sceneDialog->editMode = mode;
         sceneDialog->currentStrip = current;
         sceneDialog->show();
@@ -148,6 +150,8 @@ private Q_SLOTS:
         docp = std::make_unique<ScheduleDocument>();
         prompterp = std::make_unique<RememberingPrompter>();
         docp->setPrompter(prompterp.get());
+        QFile::remove(TempPath("breakdown.ini"));
+        settingsp = std::make_unique<Settings>(TempPath("breakdown.ini"));
     }
     void cleanup()
     {
@@ -275,9 +279,6 @@ void TestBreakdownDialogs::editedFieldWarnsOnNext()
     ScheduleDocument &doc = small();
     RememberingPrompter &prompter = *prompterp;
     TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
-    bool skip = false;
-    dialog.skipSceneChangeWarning = [&skip] { return skip; };
-    dialog.setSkipSceneChangeWarning = [&skip](bool value) { skip = value; };
     QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Changed");
     QVERIFY(dialog.isChanged());
     prompter.answers = {answer};
@@ -291,7 +292,7 @@ void TestBreakdownDialogs::editedFieldWarnsOnNext()
     QTEST(doc.strips[1][StripField::Synopsis], "synopsis");
     QCOMPARE(dialog.currentStrip, 2);
     QVERIFY(!dialog.isChanged());
-    QCOMPARE(skip, remember);
+    QCOMPARE(settingsp->skipWarning(RememberedWarning::SceneChange), remember);
     if (remember) {
         QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Two");
         click(dialog, "NextBut");

@@ -100,6 +100,27 @@ void SelectFile(TfrmImportScript &wizard, const QString &name)
     QCOMPARE(wizard.selectedFile(), QDir(wizard.directory()).filePath(name));
 }
 
+// The script import wizard on a schedule with a prompter, showing the script folder.
+struct Wizard
+{
+    ScriptFolder folder;
+    ScheduleDocument doc;
+    ScriptedPrompter prompter;
+    TfrmImportScript wizard{doc};
+    Wizard()
+    {
+        doc.setPrompter(&prompter);
+        wizard.setDirectory(folder.dir.path());
+        wizard.show();
+    }
+    // Goes to the file page and chooses the file.
+    void choose(const QString &file)
+    {
+        Click(&wizard, "NextBut");
+        SelectFile(wizard, file);
+    }
+};
+
 } // namespace
 
 class TestImportDialogs : public QObject
@@ -107,419 +128,357 @@ class TestImportDialogs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void wizardPages();
-    void wizardFileList();
-    void wizardUnreadableFileAndCancel();
-    void wizardFont();
-    void wizardWordLists();
-    void wizardScreenplayFiles_data();
-    void wizardScreenplayFiles();
-    void wizardNotAnFdx();
-    void wizardReview_data();
-    void wizardReview();
-    void finalDraftDialog();
-};
+    void wizardPages()
+    {
+        Wizard w;
+        TfrmImportScript &wizard = w.wizard;
+        auto *next = child<QPushButton>(&wizard, "NextBut");
+        auto *back = child<QPushButton>(&wizard, "BackBut");
+        QCOMPARE(wizard.windowTitle(), "Script import (TXT file)");
+        QCOMPARE(wizard.currentStep(), 0);
+        QVERIFY(!back->isEnabled());
+        QCOMPARE(next->text(), "Next >");
+        QCOMPARE(child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
 
-void TestImportDialogs::wizardPages()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-
-    auto *next = child<QPushButton>(&wizard, "NextBut");
-    auto *back = child<QPushButton>(&wizard, "BackBut");
-    QCOMPARE(wizard.windowTitle(), QStringLiteral("Script import (TXT file)"));
-    QCOMPARE(wizard.currentStep(), 0);
-    QVERIFY(!back->isEnabled());
-    QCOMPARE(next->text(), QStringLiteral("Next >"));
-    QCOMPARE(child<QPushButton>(&wizard, "CancelBut")->text(), QStringLiteral("&Cancel"));
-
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 1);
-    QVERIFY(back->isEnabled());
-
-    // No file chosen: the message, and the wizard stays on the file page.
-    Click(&wizard, "NextBut");
-    QCOMPARE(prompter.texts(), QStringList{"You must select a txt file in the right side box before continuing"});
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
-    QCOMPARE(wizard.currentStep(), 1);
-    QCOMPARE(next->text(), QStringLiteral("Next >"));
-
-    SelectFile(wizard, "kitchen.txt");
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 2);
-    auto *view = child<QPlainTextEdit>(&wizard, "ImportEdit");
-    QVERIFY(view->toPlainText().startsWith("FADE IN:\n\nINT. KITCHEN - NIGHT\n"));
-    QCOMPARE(view->textCursor().selectedText().size(), view->toPlainText().size()); // all selected
-    QCOMPARE(wizard.scriptLines().size(), 13);
-    QCOMPARE(child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
-
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 3);
-    QCOMPARE(next->text(), QStringLiteral("Next >"));
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 4);
-    QCOMPARE(next->text(), QStringLiteral("Import!"));
-
-    Click(&wizard, "BackBut");
-    QCOMPARE(wizard.currentStep(), 3);
-    QCOMPARE(next->text(), QStringLiteral("Next >"));
-    for (int step = 2; step >= 0; --step) {
-        Click(&wizard, "BackBut");
-        QCOMPARE(wizard.currentStep(), step);
-    }
-    QVERIFY(!back->isEnabled());
-    QCOMPARE(prompter.prompts.size(), 1);
-
-    // Showing it again starts over, with an empty script view.
-    wizard.hide();
-    Click(&wizard, "NextBut"); // clicks reach a hidden widget too; the show resets
-    wizard.show();
-    QCOMPARE(wizard.currentStep(), 0);
-    QVERIFY(view->toPlainText().isEmpty());
-    QCOMPARE(child<QProgressBar>(&wizard, "PBar")->value(), 0);
-}
-
-void TestImportDialogs::wizardFileList()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    // Text, Fountain and Final Draft files only, whatever the case of the extension.
-    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")),
-             (QStringList{"B-SIDE.TXT", "bad.fdx", "heist.fdx", "heist.fountain", "junk.txt", "kitchen.txt"}));
-    QCOMPARE(wizard.selectedFile(), QString());
-
-    // Choosing a folder in the tree lists its files.
-    wizard.setDirectory(folder.path("drafts"));
-    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")), QStringList{});
-    auto *tree = child<QTreeView>(&wizard, "DirectoryListBox1");
-    QCOMPARE(tree->currentIndex().data().toString(), QStringLiteral("drafts"));
-    tree->setCurrentIndex(tree->currentIndex().parent());
-    QCOMPARE(wizard.directory(), folder.dir.path());
-    QCOMPARE(ListTexts(child<QListWidget>(&wizard, "FileListBox1")).size(), 6);
-}
-
-void TestImportDialogs::wizardUnreadableFileAndCancel()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    AddScene(doc, "99", "3");
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "B-SIDE.TXT");
-    QVERIFY(QFile::remove(folder.path("B-SIDE.TXT")));
-    Click(&wizard, "NextBut");
-    QCOMPARE(prompter.prompts.size(), 1);
-    QVERIFY(prompter.texts().first().startsWith("Error with import procedure.\r\r"));
-    QCOMPARE(wizard.currentStep(), 1);
-
-    SelectFile(wizard, "kitchen.txt");
-    Click(&wizard, "NextBut");
-    Click(&wizard, "CancelBut");
-    QVERIFY(!wizard.isVisible());
-    QCOMPARE(wizard.result(), int(QDialog::Rejected));
-    QCOMPARE(doc.strips.count(), 1);
-    QVERIFY(!doc.Modified);
-}
-
-void TestImportDialogs::wizardFont()
-{
-    ScheduleDocument doc;
-    TfrmImportScript wizard(doc);
-    auto *button = child<QPushButton>(&wizard, "FontBut");
-    QCOMPARE(button->text(), QStringLiteral("Courier 12pt"));
-    QCOMPARE(child<QPlainTextEdit>(&wizard, "ImportEdit")->font().family(), QStringLiteral("Courier New"));
-
-    QFont offered;
-    wizard.chooseFont = [&offered](const QFont &current) -> std::optional<QFont> {
-        offered = current;
-        return QFont(QStringLiteral("Liberation Mono"), 14, QFont::Bold);
-    };
-    wizard.show();
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(button->text(), QStringLiteral("Liberation Mono 14pt"));
-    QVERIFY(button->font().bold());
-    const QFont view = child<QPlainTextEdit>(&wizard, "ImportEdit")->font();
-    QCOMPARE(view.family(), QStringLiteral("Liberation Mono"));
-    QCOMPARE(view.pointSize(), 14);
-    QVERIFY(!view.bold()); // name and size only
-
-    // Cancelling the font dialog changes nothing.
-    wizard.chooseFont = [](const QFont &) -> std::optional<QFont> { return std::nullopt; };
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(button->text(), QStringLiteral("Liberation Mono 14pt"));
-}
-
-void TestImportDialogs::wizardWordLists()
-{
-    ScheduleDocument doc;
-    TfrmImportScript wizard(doc);
-    wizard.show();
-    child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
-    auto *day = child<QListWidget>(&wizard, "DayList");
-    auto *night = child<QListWidget>(&wizard, "NightList");
-    auto *bad = child<QListWidget>(&wizard, "BadList");
-    QCOMPARE(ListTexts(day), DefaultDayWords());
-    QCOMPARE(ListTexts(night), DefaultNightWords());
-    QCOMPARE(ListTexts(bad), DefaultIgnoreWords());
-    QCOMPARE(child<QLabel>(&wizard, "DayLab")->text(), QStringLiteral(" Words that mean DAY"));
-    QCOMPARE(child<QLabel>(&wizard, "NightLab")->text(), QStringLiteral(" Words that mean NIGHT"));
-    QCOMPARE(child<QLabel>(&wizard, "BadLab")->text(), QStringLiteral(" Words in CAPS to ignore"));
-
-    QStringList captions;
-    std::optional<QString> answer = QStringLiteral("  twilight ");
-    wizard.askWord = [&](const QString &caption, const QString &) {
-        captions.append(caption);
-        return answer;
-    };
-    QTest::mouseClick(child<QToolButton>(&wizard, "NightAddBut"), Qt::LeftButton);
-    QCOMPARE(ListTexts(night).last(), QStringLiteral("twilight"));
-    answer = QStringLiteral("MONTAGE");
-    QTest::mouseClick(child<QToolButton>(&wizard, "BadAddBut"), Qt::LeftButton);
-    answer = QStringLiteral("NOON");
-    QTest::mouseClick(child<QToolButton>(&wizard, "DayAddBut"), Qt::LeftButton);
-    answer = std::nullopt; // cancelled
-    QTest::mouseClick(child<QToolButton>(&wizard, "DayAddBut"), Qt::LeftButton);
-    answer = QStringLiteral("   "); // nothing typed
-    QTest::mouseClick(child<QToolButton>(&wizard, "DayAddBut"), Qt::LeftButton);
-    QCOMPARE(captions, (QStringList{"Add new NIGHT word", "Add new word to ignore", "Add new DAY word",
-                                    "Add new DAY word", "Add new DAY word"}));
-    QCOMPARE(ListTexts(day).size(), DefaultDayWords().size() + 1);
-
-    // Double-click edits a word; - removes the selected one.
-    QListWidgetItem *late = night->findItems("LATE", Qt::MatchExactly).first();
-    answer = QStringLiteral("LATE NIGHT");
-    QVERIFY(QTest::qWaitFor([&] { return night->visualItemRect(late).isValid(); }));
-    QTest::mouseClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
-    QTest::mouseDClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
-    QCOMPARE(captions.last(), QStringLiteral("Edit word"));
-    QCOMPARE(late->text(), QStringLiteral("LATE NIGHT"));
-    night->setCurrentItem(night->findItems("DUSK", Qt::MatchExactly).first());
-    QTest::mouseClick(child<QToolButton>(&wizard, "NightDelBut"), Qt::LeftButton);
-    QVERIFY(night->findItems("DUSK", Qt::MatchExactly).isEmpty());
-    night->clearSelection();
-    const int left = night->count();
-    QTest::mouseClick(child<QToolButton>(&wizard, "NightDelBut"), Qt::LeftButton); // nothing selected
-    QCOMPARE(night->count(), left);
-
-    const ScriptImportSettings s = wizard.settings();
-    QCOMPARE(s.nightWords, ListTexts(night));
-    QVERIFY(s.ignoreWords.contains("MONTAGE"));
-    QVERIFY(s.dayWords.contains("NOON"));
-
-    // The lists are kept while the program runs.
-    wizard.hide();
-    wizard.show();
-    QCOMPARE(wizard.settings().nightWords, s.nightWords);
-}
-
-void TestImportDialogs::wizardScreenplayFiles_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<bool>("markedFountain");
-    QTest::newRow("Fountain") << "heist.fountain" << false;
-    QTest::newRow("Final Draft") << "heist.fdx" << false;
-    QTest::newRow("txt marked as Fountain") << "heist.txt" << true;
-}
-
-void TestImportDialogs::wizardScreenplayFiles()
-{
-    QFETCH(QString, file);
-    QFETCH(bool, markedFountain);
-    ScriptFolder folder;
-    QFile::copy(folder.path("heist.fountain"), folder.path("heist.txt"));
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    auto *next = child<QPushButton>(&wizard, "NextBut");
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, file);
-    child<QCheckBox>(&wizard, "FountainCheck")->setChecked(markedFountain);
-
-    // The line and font pages are skipped both ways.
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 4);
-    QCOMPARE(next->text(), QStringLiteral("Import!"));
-    Click(&wizard, "BackBut");
-    QCOMPARE(wizard.currentStep(), 1);
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 4);
-    QVERIFY(child<QPlainTextEdit>(&wizard, "ImportEdit")->toPlainText().contains("VAULT"));
-
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), int(TfrmImportScript::ReviewStep));
-    QCOMPARE(doc.strips.count(), 2);
-    QCOMPARE(doc.strips[1][StripField::SceneNumber], QStringLiteral("7"));
-    QCOMPARE(doc.strips[2][StripField::SceneNumber], QStringLiteral("8"));
-    QCOMPARE(Cast(doc), (QStringList{"MARY", "JOHN"}));
-    QVERIFY(prompter.prompts.isEmpty());
-    Click(&wizard, "NextBut");
-    QVERIFY(!wizard.isVisible());
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Information);
-    QVERIFY(prompter.texts().first().startsWith("Imported 2 scenes, 2 characters,"));
-}
-
-void TestImportDialogs::wizardNotAnFdx()
-{
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "bad.fdx");
-    Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), 1);
-    QCOMPARE(prompter.prompts.size(), 1);
-    QVERIFY(prompter.texts().first().startsWith(QString::fromLatin1(FdxReadErrorText)));
-}
-
-void TestImportDialogs::wizardReview_data()
-{
-    QTest::addColumn<QString>("finish");
-    QTest::addColumn<QStringList>("cast");
-    QTest::addColumn<QStringList>("assignments");
-    QTest::addColumn<QString>("dropped");
-    // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
-    QTest::newRow("Import! removes the unticked") << "NextBut" << QStringList{"Mary", "John"} << QStringList{"1", "2,1"}
-                                                  << "Dropped in the review: 2., A river., 3..";
-    QTest::newRow("Keep all keeps the text import's result")
-        << "KeepAllBut" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
-    QTest::newRow("closing keeps all too")
-        << "close" << QStringList{"Mary", "2.", "A river.", "John", "3."} << QStringList{"1,2,3", "4,1,5"} << "";
-    QTest::newRow("Ignore character on a name")
-        << "ignore" << QStringList{"John"} << QStringList{"", "1"} << "Dropped in the review: Mary, 2., A river., 3..";
-}
-
-void TestImportDialogs::wizardReview()
-{
-    QFETCH(QString, finish);
-    QFETCH(QStringList, cast);
-    QFETCH(QStringList, assignments);
-    QFETCH(QString, dropped);
-    ScriptFolder folder;
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmImportScript wizard(doc);
-    wizard.setDirectory(folder.dir.path());
-    wizard.show();
-    Click(&wizard, "NextBut");
-    SelectFile(wizard, "junk.txt");
-    for (int k = 0; k < 4; ++k)
         Click(&wizard, "NextBut");
-    QCOMPARE(wizard.currentStep(), int(TfrmImportScript::ReviewStep));
-    QVERIFY(!child<QPushButton>(&wizard, "BackBut")->isEnabled());
-    QVERIFY(!child<QPushButton>(&wizard, "CancelBut")->isEnabled());
+        QCOMPARE(wizard.currentStep(), 1);
+        QVERIFY(back->isEnabled());
 
-    auto *list = child<QTreeWidget>(&wizard, "CharacterList");
-    QStringList shown;
-    QList<Qt::CheckState> ticks;
-    for (int k = 0; k < list->topLevelItemCount(); ++k) {
-        shown << list->topLevelItem(k)->text(0) + u' ' + list->topLevelItem(k)->text(1);
-        ticks << list->topLevelItem(k)->checkState(0);
-    }
-    QCOMPARE(shown, (QStringList{"Mary 2", "2. 1", "A river. 1", "John 1", "3. 1"}));
-    QCOMPARE(ticks, (QList<Qt::CheckState>{Qt::Checked, Qt::Unchecked, Qt::Unchecked, Qt::Checked, Qt::Unchecked}));
-
-    if (finish == "ignore") {
-        list->setCurrentItem(list->topLevelItem(0));
-        Click(&wizard, "IgnoreCharBut");
-        list->setCurrentItem(list->topLevelItem(3));
-        Click(&wizard, "IgnoreCharBut");
-        Click(&wizard, "AcceptCharBut");
+        // No file chosen: the message, and the wizard stays on the file page.
         Click(&wizard, "NextBut");
-    } else if (finish == "close") {
-        wizard.close();
-    } else {
-        Click(&wizard, qPrintable(finish));
+        QCOMPARE(w.prompter.texts(), QStringList{"You must select a txt file in the right side box before continuing"});
+        QCOMPARE(w.prompter.prompts.first().kind, MessageKind::Error);
+        QCOMPARE(wizard.currentStep(), 1);
+
+        SelectFile(wizard, "kitchen.txt");
+        Click(&wizard, "NextBut");
+        QCOMPARE(wizard.currentStep(), 2);
+        auto *view = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        QVERIFY(view->toPlainText().startsWith("FADE IN:\n\nINT. KITCHEN - NIGHT\n"));
+        QCOMPARE(view->textCursor().selectedText().size(), view->toPlainText().size()); // all selected
+        QCOMPARE(wizard.scriptLines().size(), 13);
+        QCOMPARE(child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
+
+        // Next becomes Import! on the last page only.
+        for (const char *button : {"NextBut", "NextBut", "BackBut"}) {
+            Click(&wizard, button);
+            QCOMPARE(next->text(), wizard.currentStep() == 4 ? "Import!" : "Next >");
+        }
+        QCOMPARE(wizard.currentStep(), 3);
+        for (int step = 2; step >= 0; --step) {
+            Click(&wizard, "BackBut");
+            QCOMPARE(wizard.currentStep(), step);
+        }
+        QVERIFY(!back->isEnabled());
+        QCOMPARE(w.prompter.prompts.size(), 1);
+
+        // Showing it again starts over, with an empty script view.
+        wizard.hide();
+        Click(&wizard, "NextBut"); // clicks reach a hidden widget too; the show resets
+        wizard.show();
+        QCOMPARE(wizard.currentStep(), 0);
+        QVERIFY(view->toPlainText().isEmpty());
+        QCOMPARE(child<QProgressBar>(&wizard, "PBar")->value(), 0);
     }
-    QVERIFY(!wizard.isVisible());
-    QCOMPARE(wizard.result(), int(QDialog::Accepted));
-    QCOMPARE(Cast(doc), cast);
-    QCOMPARE(doc.strips[1][StripField::Assignments], assignments.at(0));
-    QCOMPARE(doc.strips[2][StripField::Assignments], assignments.at(1));
-    QCOMPARE(prompter.prompts.size(), 1);
-    const QString summary = prompter.texts().first();
-    QVERIFY(summary.startsWith(QStringLiteral("Imported 2 scenes, %1 character").arg(cast.size())));
-    QCOMPARE(summary.contains("Dropped"), !dropped.isEmpty());
-    if (!dropped.isEmpty())
+
+    void wizardFileList()
+    {
+        Wizard w;
+        auto *files = child<QListWidget>(&w.wizard, "FileListBox1");
+        // Text, Fountain and Final Draft files only, whatever the case of the extension.
+        QCOMPARE(ListTexts(files),
+                 (QStringList{"B-SIDE.TXT", "bad.fdx", "heist.fdx", "heist.fountain", "junk.txt", "kitchen.txt"}));
+        QCOMPARE(w.wizard.selectedFile(), QString());
+
+        // Choosing a folder in the tree lists its files.
+        w.wizard.setDirectory(w.folder.path("drafts"));
+        QCOMPARE(ListTexts(files), QStringList{});
+        auto *tree = child<QTreeView>(&w.wizard, "DirectoryListBox1");
+        QCOMPARE(tree->currentIndex().data().toString(), "drafts");
+        tree->setCurrentIndex(tree->currentIndex().parent());
+        QCOMPARE(w.wizard.directory(), w.folder.dir.path());
+        QCOMPARE(ListTexts(files).size(), 6);
+    }
+
+    // A file that cannot be read or is no script: the message, and the wizard stays on
+    // the file page; Cancel later leaves the open schedule as it was.
+    void wizardRefusesFile_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("message");
+        Row("unreadable", "B-SIDE.TXT", "Error with import procedure.\r\r");
+        Row("not an fdx", "bad.fdx", QString::fromLatin1(FdxReadErrorText));
+    }
+    void wizardRefusesFile()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, message);
+        Wizard w;
+        AddScene(w.doc, "99", "3");
+        w.choose(file);
+        if (file == "B-SIDE.TXT")
+            QVERIFY(QFile::remove(w.folder.path(file)));
+        Click(&w.wizard, "NextBut");
+        QCOMPARE(w.prompter.prompts.size(), 1);
+        QVERIFY(w.prompter.texts().first().startsWith(message));
+        QCOMPARE(w.wizard.currentStep(), 1);
+
+        SelectFile(w.wizard, "kitchen.txt");
+        Click(&w.wizard, "NextBut");
+        Click(&w.wizard, "CancelBut");
+        QVERIFY(!w.wizard.isVisible());
+        QCOMPARE(w.wizard.result(), int(QDialog::Rejected));
+        QCOMPARE(w.doc.strips.count(), 1);
+        QVERIFY(!w.doc.Modified);
+    }
+
+    void wizardFont()
+    {
+        ScheduleDocument doc;
+        TfrmImportScript wizard(doc);
+        auto *button = child<QPushButton>(&wizard, "FontBut");
+        auto *edit = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        QCOMPARE(button->text(), "Courier 12pt");
+        QCOMPARE(edit->font().family(), "Courier New");
+
+        QFont offered;
+        wizard.chooseFont = [&offered](const QFont &current) -> std::optional<QFont> {
+            offered = current;
+            return QFont("Liberation Mono", 14, QFont::Bold);
+        };
+        wizard.show();
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(button->text(), "Liberation Mono 14pt");
+        QVERIFY(button->font().bold());
+        QCOMPARE(edit->font().family(), "Liberation Mono");
+        QCOMPARE(edit->font().pointSize(), 14);
+        QVERIFY(!edit->font().bold()); // name and size only
+
+        // Cancelling the font dialog changes nothing.
+        wizard.chooseFont = [](const QFont &) -> std::optional<QFont> { return std::nullopt; };
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(button->text(), "Liberation Mono 14pt");
+    }
+
+    void wizardWordLists()
+    {
+        ScheduleDocument doc;
+        TfrmImportScript wizard(doc);
+        wizard.show();
+        child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
+        auto *day = child<QListWidget>(&wizard, "DayList");
+        auto *night = child<QListWidget>(&wizard, "NightList");
+        QCOMPARE(ListTexts(day), DefaultDayWords());
+        QCOMPARE(ListTexts(night), DefaultNightWords());
+        QCOMPARE(ListTexts(child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
+        QCOMPARE(child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
+        QCOMPARE(child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
+        QCOMPARE(child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
+
+        QStringList captions;
+        std::optional<QString> answer;
+        wizard.askWord = [&](const QString &caption, const QString &) {
+            captions.append(caption);
+            return answer;
+        };
+        auto click = [&](const char *button, std::optional<QString> typed) {
+            answer = typed;
+            QTest::mouseClick(child<QToolButton>(&wizard, button), Qt::LeftButton);
+        };
+        click("NightAddBut", "  twilight ");
+        QCOMPARE(ListTexts(night).last(), "twilight");
+        click("BadAddBut", "MONTAGE");
+        click("DayAddBut", "NOON");
+        click("DayAddBut", std::nullopt); // cancelled
+        click("DayAddBut", "   ");        // nothing typed
+        QCOMPARE(captions, (QStringList{"Add new NIGHT word", "Add new word to ignore", "Add new DAY word",
+                                        "Add new DAY word", "Add new DAY word"}));
+        QCOMPARE(ListTexts(day).size(), DefaultDayWords().size() + 1);
+
+        // Double-click edits a word; - removes the selected one.
+        QListWidgetItem *late = night->findItems("LATE", Qt::MatchExactly).first();
+        answer = "LATE NIGHT";
+        QVERIFY(QTest::qWaitFor([&] { return night->visualItemRect(late).isValid(); }));
+        QTest::mouseClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
+        QTest::mouseDClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
+        QCOMPARE(captions.last(), "Edit word");
+        QCOMPARE(late->text(), "LATE NIGHT");
+        night->setCurrentItem(night->findItems("DUSK", Qt::MatchExactly).first());
+        click("NightDelBut", answer);
+        QVERIFY(night->findItems("DUSK", Qt::MatchExactly).isEmpty());
+        night->clearSelection();
+        const int left = night->count();
+        click("NightDelBut", answer); // nothing selected
+        QCOMPARE(night->count(), left);
+
+        const ScriptImportSettings s = wizard.settings();
+        QCOMPARE(s.nightWords, ListTexts(night));
+        QVERIFY(s.ignoreWords.contains("MONTAGE"));
+        QVERIFY(s.dayWords.contains("NOON"));
+
+        // The lists are kept while the program runs.
+        wizard.hide();
+        wizard.show();
+        QCOMPARE(wizard.settings().nightWords, s.nightWords);
+    }
+
+    void wizardScreenplayFiles_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("markedFountain");
+        Row("Fountain", "heist.fountain", false);
+        Row("Final Draft", "heist.fdx", false);
+        Row("txt marked as Fountain", "heist.txt", true);
+    }
+    void wizardScreenplayFiles()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, markedFountain);
+        Wizard w;
+        QFile::copy(w.folder.path("heist.fountain"), w.folder.path("heist.txt"));
+        w.wizard.setDirectory(w.folder.path("drafts")); // and back: the list is read again
+        w.wizard.setDirectory(w.folder.dir.path());
+        w.choose(file);
+        child<QCheckBox>(&w.wizard, "FountainCheck")->setChecked(markedFountain);
+
+        // The line and font pages are skipped both ways.
+        for (const char *button : {"NextBut", "BackBut", "NextBut"}) {
+            Click(&w.wizard, button);
+            QCOMPARE(w.wizard.currentStep(), *button == 'N' ? 4 : 1);
+        }
+        QCOMPARE(child<QPushButton>(&w.wizard, "NextBut")->text(), "Import!");
+        QVERIFY(child<QPlainTextEdit>(&w.wizard, "ImportEdit")->toPlainText().contains("VAULT"));
+
+        Click(&w.wizard, "NextBut");
+        QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
+        QCOMPARE(StripColumn(w.doc, StripField::SceneNumber), (QStringList{"7", "8"}));
+        QCOMPARE(Cast(w.doc), (QStringList{"MARY", "JOHN"}));
+        QVERIFY(w.prompter.prompts.isEmpty());
+        Click(&w.wizard, "NextBut");
+        QVERIFY(!w.wizard.isVisible());
+        QCOMPARE(w.prompter.prompts.size(), 1);
+        QCOMPARE(w.prompter.prompts.first().kind, MessageKind::Information);
+        QVERIFY(w.prompter.texts().first().startsWith("Imported 2 scenes, 2 characters,"));
+    }
+
+    void wizardReview_data()
+    {
+        QTest::addColumn<QString>("finish");
+        QTest::addColumn<QStringList>("cast");
+        QTest::addColumn<QStringList>("assignments");
+        QTest::addColumn<QString>("dropped");
+        // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
+        const QStringList all{"Mary", "2.", "A river.", "John", "3."};
+        Row("Import! removes the unticked", "NextBut", QStringList{"Mary", "John"}, QStringList{"1", "2,1"},
+            "Dropped in the review: 2., A river., 3..");
+        Row("Keep all keeps the text import's result", "KeepAllBut", all, QStringList{"1,2,3", "4,1,5"}, "");
+        Row("closing keeps all too", "close", all, QStringList{"1,2,3", "4,1,5"}, "");
+        Row("Ignore character on a name", "ignore", QStringList{"John"}, QStringList{"", "1"},
+            "Dropped in the review: Mary, 2., A river., 3..");
+    }
+    void wizardReview()
+    {
+        QFETCH(QString, finish);
+        QFETCH(QStringList, cast);
+        QFETCH(QStringList, assignments);
+        QFETCH(QString, dropped);
+        Wizard w;
+        w.choose("junk.txt");
+        for (int k = 0; k < 4; ++k)
+            Click(&w.wizard, "NextBut");
+        QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
+        QVERIFY(!child<QPushButton>(&w.wizard, "BackBut")->isEnabled());
+        QVERIFY(!child<QPushButton>(&w.wizard, "CancelBut")->isEnabled());
+
+        auto *list = child<QTreeWidget>(&w.wizard, "CharacterList");
+        QStringList shown;
+        for (int k = 0; k < list->topLevelItemCount(); ++k) {
+            const QTreeWidgetItem *item = list->topLevelItem(k);
+            shown << item->text(0) + u' ' + item->text(1) + (item->checkState(0) == Qt::Checked ? " ticked" : "");
+        }
+        QCOMPARE(shown, (QStringList{"Mary 2 ticked", "2. 1", "A river. 1", "John 1 ticked", "3. 1"}));
+
+        if (finish == "ignore") {
+            for (int row : {0, 3}) {
+                list->setCurrentItem(list->topLevelItem(row));
+                Click(&w.wizard, "IgnoreCharBut");
+            }
+            Click(&w.wizard, "AcceptCharBut");
+            Click(&w.wizard, "NextBut");
+        } else if (finish == "close") {
+            w.wizard.close();
+        } else {
+            Click(&w.wizard, qPrintable(finish));
+        }
+        QVERIFY(!w.wizard.isVisible());
+        QCOMPARE(w.wizard.result(), int(QDialog::Accepted));
+        QCOMPARE(Cast(w.doc), cast);
+        QCOMPARE(StripColumn(w.doc, StripField::Assignments), assignments);
+        QCOMPARE(w.prompter.prompts.size(), 1);
+        const QString summary = w.prompter.texts().first();
+        QVERIFY(summary.startsWith(QStringLiteral("Imported 2 scenes, %1 character").arg(cast.size())));
+        QCOMPARE(summary.contains("Dropped"), !dropped.isEmpty());
         QVERIFY2(summary.endsWith(dropped), qPrintable(summary));
-}
+    }
 
-void TestImportDialogs::finalDraftDialog()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    TfrmFDImport dialog(doc);
-    auto *scene = child<QLineEdit>(&dialog, "SceneEdit");
-    auto *script = child<QLineEdit>(&dialog, "ScriptEdit");
-    auto *import = child<QPushButton>(&dialog, "ImportBut");
-    scene->setText("left over");
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Final Draft import"));
-    QCOMPARE(scene->text(), QString());
-    QCOMPARE(script->text(), QString());
-    QVERIFY(!import->isEnabled());
+    void finalDraftDialog()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter;
+        doc.setPrompter(&prompter);
+        TfrmFDImport dialog(doc);
+        auto *scene = child<QLineEdit>(&dialog, "SceneEdit");
+        auto *script = child<QLineEdit>(&dialog, "ScriptEdit");
+        auto *import = child<QPushButton>(&dialog, "ImportBut");
+        scene->setText("left over");
+        dialog.show();
+        QCOMPARE(dialog.windowTitle(), "Final Draft import");
+        QCOMPARE(scene->text(), QString());
+        QCOMPARE(script->text(), QString());
+        QVERIFY(!import->isEnabled());
 
-    QTest::keyClicks(scene, "x");
-    QVERIFY(!import->isEnabled());
-    QTest::keyClicks(script, "y");
-    QVERIFY(import->isEnabled());
-    scene->clear();
-    QVERIFY(!import->isEnabled());
+        // Import is enabled only while both names are filled in.
+        QTest::keyClicks(scene, "x");
+        QVERIFY(!import->isEnabled());
+        QTest::keyClicks(script, "y");
+        QVERIFY(import->isEnabled());
+        scene->clear();
+        QVERIFY(!import->isEnabled());
 
-    scene->setText(QDir(DataDir).filePath("fd-scene-report.txt"));
-    script->setText(QDir(DataDir).filePath("fd-script-report.txt"));
-    QTest::mouseClick(import, Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(doc.strips.count(), 5);
-    QVERIFY(doc.Modified);
-    // The summary of what was imported.
-    QCOMPARE(prompter.texts().value(0).section(u'\r', 0, 0),
-             QStringLiteral("Imported 5 scenes, 3 characters, 2 5/8 pages."));
-    prompter.prompts.clear();
+        scene->setText(QDir(DataDir).filePath("fd-scene-report.txt"));
+        script->setText(QDir(DataDir).filePath("fd-script-report.txt"));
+        QTest::mouseClick(import, Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(doc.strips.count(), 5);
+        QVERIFY(doc.Modified);
+        QCOMPARE(prompter.texts().value(0).section(u'\r', 0, 0), "Imported 5 scenes, 3 characters, 2 5/8 pages.");
 
-    // Shown again: both names empty; the browse buttons fill them.
-    dialog.show();
-    QCOMPARE(scene->text(), QString());
-    QVERIFY(!import->isEnabled());
-    QStringList titles;
-    QString answer = "/reports/scenes.txt";
-    dialog.chooseFile = [&](const QString &title, const QString &) {
-        titles.append(title);
-        return answer;
-    };
-    QTest::mouseClick(child<QPushButton>(&dialog, "SceneBrowse"), Qt::LeftButton);
-    answer = "/reports/script.txt";
-    QTest::mouseClick(child<QPushButton>(&dialog, "ScriptBrowse"), Qt::LeftButton);
-    answer.clear(); // cancelled
-    QTest::mouseClick(child<QPushButton>(&dialog, "SceneBrowse"), Qt::LeftButton);
-    QCOMPARE(titles, (QStringList{"Open Scene Report file", "Open Script Report file", "Open Scene Report file"}));
-    QCOMPARE(scene->text(), "/reports/scenes.txt");
-    QCOMPARE(script->text(), "/reports/script.txt");
-    QVERIFY(import->isEnabled());
-    QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-}
+        // Shown again: both names empty; the browse buttons fill them.
+        dialog.show();
+        QCOMPARE(scene->text(), QString());
+        QVERIFY(!import->isEnabled());
+        QStringList titles;
+        QString answer;
+        dialog.chooseFile = [&](const QString &title, const QString &) {
+            titles.append(title);
+            return answer;
+        };
+        auto browse = [&](const char *button, const QString &chosen) {
+            answer = chosen;
+            QTest::mouseClick(child<QPushButton>(&dialog, button), Qt::LeftButton);
+        };
+        browse("SceneBrowse", "/reports/scenes.txt");
+        browse("ScriptBrowse", "/reports/script.txt");
+        browse("SceneBrowse", QString()); // cancelled
+        QCOMPARE(titles, (QStringList{"Open Scene Report file", "Open Script Report file", "Open Scene Report file"}));
+        QCOMPARE(scene->text(), "/reports/scenes.txt");
+        QCOMPARE(script->text(), "/reports/script.txt");
+        QVERIFY(import->isEnabled());
+        QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+    }
+};
 
 TB_TEST_MAIN(TestImportDialogs)
 #include "tst_importdialogs.moc"

@@ -6,7 +6,6 @@
 #include "reports/AlPrinter.h"
 #include "reports/ReportBuilders.h"
 #include "ui/reports/AlPreview.h"
-#include "ui/reports/ReportCommands.h"
 #include "ui/reports/ReportPrinting.h"
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPreview.h"

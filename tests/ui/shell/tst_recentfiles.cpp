@@ -1,11 +1,13 @@
 #include "TestSupport.h"
 
+#include "ui/shell/DialogWithHelp.h"
 #include "ui/shell/HelpWindow.h"
 #include "ui/shell/RecentFilesList.h"
 
 #include <QAction>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSettings>
 #include <QSignalSpy>
@@ -94,16 +96,30 @@ private slots:
         QCOMPARE(third.paths(), QStringList{"/c.tbf"});
     }
 
+    // F1 anywhere in a dialog opens its page in the program's one help window; a
+    // dialog without a page of its own opens nothing.
+    void helpKeyInDialog_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::newRow("page") << "board.html";
+        QTest::newRow("none") << "";
+    }
+
     void helpKeyInDialog()
     {
-        QDialog dialog;
-        int shown = 0;
-        InstallHelpKey(&dialog, [&] { ++shown; });
+        QFETCH(QString, page);
+        DeleteProgramHelpWindow();
+        DialogWithHelp dialog(page);
+        auto *edit = new QLineEdit(&dialog);
         dialog.show();
         dialog.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        QTest::keyClick(&dialog, Qt::Key_F1);
-        QCOMPARE(shown, 1);
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_F1);
+        QCOMPARE(ProgramHelpWindow() != nullptr, !page.isEmpty());
+        if (!page.isEmpty())
+            QCOMPARE(ProgramHelpWindow()->currentPage(), page);
+        DeleteProgramHelpWindow();
     }
 };
 
