@@ -7,7 +7,7 @@ EXAMPLE ?= examples/harbour-lights.tbf
 
 CMAKE_FLAGS = -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
 
-.PHONY: all deps configure build run test bench package install format clean
+.PHONY: all deps configure build run test bench package install format clean fuzz test-asan
 
 all: build
 
@@ -44,4 +44,22 @@ format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf $(BUILD_DIR) build-bench build-package
+	rm -rf $(BUILD_DIR) build-bench build-package build-asan build-fuzz
+
+# Fuzzing: builds the libFuzzer targets with clang in build-fuzz/ and runs each for
+# SECONDS seconds (make fuzz SECONDS=1800).
+SECONDS ?= 60
+fuzz:
+	@scripts/fuzz.sh $(SECONDS)
+
+# The whole test suite built with the address and undefined-behaviour sanitizers in
+# build-asan/; the first report stops the test that made it.
+ASAN_FLAGS = -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+test-asan: deps
+	@cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTB_BUILD_TESTS=ON \
+		$$(command -v ccache >/dev/null && echo -DCMAKE_CXX_COMPILER_LAUNCHER=ccache) \
+		$$(command -v mold >/dev/null && echo -DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=mold -DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=mold) \
+		"-DCMAKE_CXX_FLAGS=$(ASAN_FLAGS)" "-DCMAKE_C_FLAGS=$(ASAN_FLAGS)" >/dev/null
+	@cmake --build build-asan -j $(JOBS)
+	ASAN_OPTIONS=detect_leaks=0:abort_on_error=0:halt_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+		ctest --test-dir build-asan --output-on-failure -j $(JOBS)

@@ -276,7 +276,7 @@ void TfrmMain::addRecentFile(const QString &path)
 
 void TfrmMain::restartAutosave()
 {
-    setAutosaveInterval(m_settings.autosaveMinutes * 60000);
+    setAutosaveInterval(AutosaveIntervalMs(m_settings.autosaveMinutes));
 }
 
 void TfrmMain::setAutosaveInterval(int milliseconds)
@@ -488,7 +488,7 @@ void TfrmMain::Preferences1Click()
         m_pref = new TfrmPref(m_doc, m_settings, m_autosavePath, this);
     m_pref->exec();
     applySettings();
-    setAutosaveInterval(m_settings.autosaveMinutes * 60000);
+    setAutosaveInterval(AutosaveIntervalMs(m_settings.autosaveMinutes));
     m_board->repaintBoard();
 }
 

@@ -3,9 +3,11 @@
 #include "board/BoardExport.h"
 #include "board/BoardPrinting.h"
 #include "board/DrawBoard.h"
+#include "document/AtomicWrite.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QPageLayout>
@@ -77,12 +79,12 @@ BoardDrawResult drawInto(ScheduleDocument &doc, const BoardRender &r, QPainter &
     return DrawBoard(doc, r.style, r.options, painter);
 }
 
-// Writes through a temporary file, so a failed render leaves no half-written file.
+// Renders into memory and writes the file in one checked step, so a failed render or
+// a failed write leaves no file, or the earlier one untouched.
 QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &out, bool pdf, BoardDrawResult *drawn)
 {
-    QSaveFile file(out);
-    if (!file.open(QIODevice::WriteOnly))
-        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
     if (pdf) {
         QPdfWriter writer(&file);
         writer.setResolution(PdfResolution);
@@ -109,8 +111,10 @@ QString renderBoard(ScheduleDocument &doc, const BoardRender &r, const QString &
         if (!image.save(&file, "PNG"))
             return QStringLiteral("Cannot write %1").arg(out);
     }
-    if (!file.commit())
-        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    file.close();
+    const Result written = WriteFileAtomically(out, file.data());
+    if (!written)
+        return QStringLiteral("Cannot write %1: %2").arg(out, written.message());
     return {};
 }
 

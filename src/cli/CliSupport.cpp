@@ -1,6 +1,7 @@
 #include "CliCommand.h"
 
 #include "document/DocumentOperations.h"
+#include "document/Records.h"
 #include "document/ScheduleFile.h"
 
 #include <cstdio>
@@ -54,6 +55,16 @@ PromptReply CliPrompter::ask(const Prompt &prompt)
 
 bool ArgParser::parse(const QStringList &args, QString *error)
 {
+    // Every value a command stores is one line of the schedule file; a line break in
+    // one is refused here rather than silently made a blank.
+    for (const QString &arg : args) {
+        if (HasLineBreak(arg)) {
+            *error = QStringLiteral("a value cannot hold a line break (\"%1\"); join the lines with commas "
+                                    "or blanks")
+                         .arg(plainText(arg).replace(u'\n', QLatin1String("\\n")));
+            return false;
+        }
+    }
     for (int i = 0; i < args.size(); ++i) {
         const QString &arg = args.at(i);
         if (arg == QLatin1String("--")) {

@@ -89,13 +89,11 @@ int runImportText(CliContext &ctx, const CliCommand &self, const QStringList &ar
     doc.setPrompter(&ctx.prompter);
     const QString out = parser.value(QStringLiteral("-o"));
     const Result imported = DoImport(doc, *lines, settings);
-    QStringList dropped;
-    if (imported && review == QLatin1String("auto"))
-        dropped = RemoveDoubtfulCharacters(doc);
-    // A failed import keeps the elements made so far; they are saved like the rest.
-    if (!SaveDocument(doc, out))
-        return ExitUserError;
+    // A failed import writes nothing: the file named by -o, if any, stays as it was.
     if (!imported)
+        return ExitUserError;
+    const QStringList dropped = review == QLatin1String("auto") ? RemoveDoubtfulCharacters(doc) : QStringList();
+    if (!SaveDocument(doc, out))
         return ExitUserError;
     PrintImported(ctx, doc, out, dropped);
     return ExitOk;
@@ -129,12 +127,12 @@ int runImportFinalDraft(CliContext &ctx, const CliCommand &self, const QStringLi
     const int errorsBefore = ctx.prompter.errorCount;
     const Result imported = ImportFinalDraft(doc, sceneReport, scriptReport);
     const QString out = parser.value(QStringLiteral("-o"));
-    // What was read before a failure stays and is saved.
-    if (!SaveDocument(doc, out))
-        return ExitUserError;
-    // The lengths messages do not stop the import, but the result is not what the
-    // reports hold: exit 1 as for any error shown.
+    // A failed import writes nothing. The lengths messages do not stop the import, but
+    // the result is not what the reports hold: no file either, and exit 1 as for any
+    // error shown.
     if (!imported || ctx.prompter.errorCount > errorsBefore)
+        return ExitUserError;
+    if (!SaveDocument(doc, out))
         return ExitUserError;
     PrintImported(ctx, doc, out);
     return ExitOk;
@@ -160,10 +158,7 @@ int runImportScreenplay(CliContext &ctx, const CliCommand &self, const QStringLi
     doc.setPrompter(&ctx.prompter);
     Result imported = Result::success();
     if (fdx) {
-        // A file that is no .fdx has been reported; nothing is written.
         imported = ImportFdxFile(doc, path, settings);
-        if (!imported && doc.strips.count() == 0 && doc.elements.count() == 0)
-            return ExitUserError;
     } else {
         const ResultOf<QStringList> lines = ReadScriptFile(path);
         if (!lines) {
@@ -172,8 +167,12 @@ int runImportScreenplay(CliContext &ctx, const CliCommand &self, const QStringLi
         }
         imported = ImportFountain(doc, *lines, settings);
     }
+    // A failed import has been reported and writes nothing: the file named by -o, if
+    // any, stays as it was.
+    if (!imported)
+        return ExitUserError;
     const QString out = parser.value(QStringLiteral("-o"));
-    if (!SaveDocument(doc, out) || !imported)
+    if (!SaveDocument(doc, out))
         return ExitUserError;
     PrintImported(ctx, doc, out);
     return ExitOk;

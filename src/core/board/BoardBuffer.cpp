@@ -12,7 +12,15 @@ Result BoardBuffer::SetBufferSize(int width, int height, qreal devicePixelRatio)
     height = qMax(height, 1);
     if (!(devicePixelRatio > 0))
         devicePixelRatio = 1.0;
-    const QSize pixels(int(std::ceil(width * devicePixelRatio)), int(std::ceil(height * devicePixelRatio)));
+    // A display buffer is never larger than the raster engine can paint on; a size
+    // beyond that is refused before anything is allocated, as a failed allocation is.
+    constexpr double MaxSide = 32767;
+    const double pixelWidth = std::ceil(width * devicePixelRatio);
+    const double pixelHeight = std::ceil(height * devicePixelRatio);
+    if (pixelWidth > MaxSide || pixelHeight > MaxSide)
+        return Result::failure(QStringLiteral(
+            "Error with Torvanbridge display buffer. Try saving your work and re-starting the computer."));
+    const QSize pixels{int(pixelWidth), int(pixelHeight)};
     if (m_size == QSize(width, height) && m_image.size() == pixels && m_image.devicePixelRatio() == devicePixelRatio)
         return Result::success();
     QImage image(pixels, QImage::Format_RGB32);

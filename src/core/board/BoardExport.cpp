@@ -1,6 +1,7 @@
 #include "board/BoardExport.h"
 
 #include "board/DrawBoard.h"
+#include "document/AtomicWrite.h"
 #include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
@@ -8,7 +9,6 @@
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QSaveFile>
 
 #include <cmath>
 
@@ -371,15 +371,13 @@ private:
     bool m_dayOpen = false;
 };
 
-// The one place an export reaches the disk: through a temporary file that replaces
-// the target only when everything was written.
+// The one place an export reaches the disk: whole, or not at all (the earlier file,
+// if any, stays as it was).
 Result writeWhole(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
-    if (file.write(bytes) != bytes.size() || !file.commit())
-        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
+    const Result written = WriteFileAtomically(path, bytes);
+    if (!written)
+        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, written.message()));
     return Result::success();
 }
 

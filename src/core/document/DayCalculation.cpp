@@ -143,7 +143,7 @@ void RecalculateDays(ScheduleDocument &doc)
             ++doc.days.banners;
             // A banner of n days counts n production days but only one shooting-day
             // number; schedules have always been numbered this way.
-            const int days = legacy::StrToIntDef(rows[i][StripField::DayCount], 0);
+            const int days = BannerDayCount(rows[i][StripField::DayCount]);
             if (days > 0) {
                 ++s;
                 d += days;
@@ -176,8 +176,11 @@ void RecalculateDays(ScheduleDocument &doc)
                     // Shown once per pass: a full board would otherwise raise it at
                     // every divider.
                     insertionFailed = true;
-                    doc.prompter().error(byWeekday ? QStringLiteral("Error inserting day of week divider!")
-                                                   : QStringLiteral("Error inserting rest day divider!"));
+                    doc.prompter().error((byWeekday ? QStringLiteral("Error inserting day of week divider!")
+                                                    : QStringLiteral("Error inserting rest day divider!")) +
+                                         QStringLiteral("\r\rThe schedule can hold at most %1 strips; the rest "
+                                                        "days that do not fit are left out.")
+                                             .arg(MaxStrips));
                 }
             }
         }
@@ -206,6 +209,11 @@ QString SelectedPagesText(const ScheduleDocument &doc)
         }
     }
     return pages != 0.0f ? FormatPageLength(pages) + QStringLiteral(" pages") : QString();
+}
+
+int BannerDayCount(const QString &dayCount)
+{
+    return qBound(0, legacy::StrToIntDef(dayCount, 0), MaxBannerDayCount);
 }
 
 } // namespace tb

@@ -21,4 +21,10 @@ QString SelectedPagesText(const ScheduleDocument &doc);
 // The date text of a day: start + day - 1 as "ddd, mmmm d, yyyy".
 QString DayDateText(double startSerial, int day);
 
+// The number of days a banner stands for, from its DayCount field: 0 (no day change)
+// for blank, unreadable or negative text, and never more than MaxBannerDayCount, so
+// that day totals cannot overflow whatever a file holds.
+inline constexpr int MaxBannerDayCount = 10000;
+int BannerDayCount(const QString &dayCount);
+
 } // namespace tb

@@ -6,6 +6,7 @@
 #include "document/LegacyText.h"
 
 #include <cmath>
+#include <limits>
 
 namespace tb {
 
@@ -146,6 +147,12 @@ QString UpdateTitle(const ScheduleDocument &doc)
 {
     return QStringLiteral("Torvanbridge - ") + doc.values.PictureTitle + QStringLiteral("  (") + doc.FileName +
            QStringLiteral(") ");
+}
+
+int AutosaveIntervalMs(int minutes)
+{
+    constexpr int MinuteMs = 60000;
+    return qBound(0, minutes, std::numeric_limits<int>::max() / MinuteMs) * MinuteMs;
 }
 
 } // namespace tb

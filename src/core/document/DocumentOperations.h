@@ -47,6 +47,10 @@ void ClearModified(ScheduleDocument &doc);
 // Empties the document to the state of a new schedule.
 void NewDocument(ScheduleDocument &doc);
 
+// The autosave timer's interval in milliseconds for an interval in minutes from the
+// settings file: 0 (no autosave) for 0 or less, and at most what the timer can count.
+int AutosaveIntervalMs(int minutes);
+
 // The main window caption: "Torvanbridge - " + picture title + "  (" + file name + ") ".
 // The two blanks and the trailing blank are the program's own and are kept.
 QString UpdateTitle(const ScheduleDocument &doc);

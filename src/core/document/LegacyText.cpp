@@ -1,6 +1,7 @@
 #include "document/LegacyText.h"
 
 #include <QByteArrayView>
+#include <QStringDecoder>
 #include <QStringView>
 #include <QVarLengthArray>
 
@@ -1074,22 +1075,62 @@ QByteArray EncodeWindows1252(const QString &text)
     return bytes;
 }
 
+namespace {
+
+bool startsWithByteOrderMark(QByteArrayView bytes)
+{
+    return bytes.startsWith("\xEF\xBB\xBF") || bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+}
+
+} // namespace
+
 QString DecodeFileText(const QByteArray &bytes)
 {
+    // A byte order mark decides first: UTF-8, or UTF-16 as Windows Notepad saves
+    // "Unicode" text. The mark itself is not part of the text.
+    const QByteArrayView view(bytes);
+    if (view.startsWith("\xEF\xBB\xBF")) {
+        // Only the file's own mark goes; a second one is a character of the text.
+        QStringDecoder decoder(QStringConverter::Utf8,
+                               QStringConverter::Flag::ConvertInitialBom | QStringConverter::Flag::Stateless);
+        return decoder.decode(view.sliced(3));
+    }
+    if (view.startsWith("\xFF\xFE") || view.startsWith("\xFE\xFF")) {
+        const bool little = view.front() == '\xFF';
+        const QByteArrayView body = view.sliced(2);
+        QString text(body.size() / 2, Qt::Uninitialized);
+        auto *o = reinterpret_cast<char16_t *>(text.data());
+        const auto *b = reinterpret_cast<const unsigned char *>(body.data());
+        for (qsizetype i = 0; i + 1 < body.size(); i += 2)
+            *o++ = little ? char16_t(b[i] | b[i + 1] << 8) : char16_t(b[i] << 8 | b[i + 1]);
+        // An odd last byte cannot be a character; it is left out.
+        return text;
+    }
+    // Without a mark: well-formed UTF-8 that is not plain ASCII is UTF-8, anything
+    // else is the earlier edition's Windows-1252.
     const Utf8Scan scan = scanUtf8(bytes);
     if (!scan.valid || !scan.nonAscii)
         return DecodeWindows1252(bytes);
-    QByteArrayView view(bytes);
-    if (view.startsWith("\xEF\xBB\xBF"))
-        view = view.sliced(3);
     return QString::fromUtf8(view);
 }
 
 QByteArray EncodeFileText(const QString &text)
 {
+    // Windows-1252 keeps files readable by the earlier edition, but only when the bytes
+    // read back as the same text: Windows-1252 bytes that happen to form well-formed
+    // UTF-8 ("CAFÉ’S" is C3 89 E2 80 99 ...) would be read as UTF-8 and change. Such
+    // text, and text Windows-1252 cannot hold, is written as UTF-8, which the reader
+    // always recognises: UTF-8 of non-ASCII text never reads as anything else.
     QByteArray bytes;
-    if (encodeWindows1252(text, bytes, true))
-        return bytes;
+    if (encodeWindows1252(text, bytes, true) && !startsWithByteOrderMark(bytes)) {
+        const Utf8Scan scan = scanUtf8(bytes);
+        if (!scan.valid || !scan.nonAscii)
+            return bytes;
+    }
+    // Text that itself begins with a byte order mark character keeps it behind a mark
+    // of the file's own, which the reader takes away.
+    if (text.startsWith(QChar(0xFEFF)))
+        return QByteArray("\xEF\xBB\xBF") + text.toUtf8();
     return text.toUtf8();
 }
 

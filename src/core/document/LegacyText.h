@@ -126,11 +126,14 @@ bool CanEncodeWindows1252(const QString &text);
 // A character without a Windows-1252 byte is written "?".
 QByteArray EncodeWindows1252(const QString &text);
 
-// File text as the program reads it: UTF-8 when the bytes are valid UTF-8 and hold
-// at least one non-ASCII byte, Windows-1252 otherwise.
+// File text as the program reads it, for schedules, settings, templates and every
+// imported text: by its byte order mark first (UTF-8, UTF-16 little or big endian;
+// the mark is dropped), else UTF-8 when the bytes are well-formed UTF-8 and hold at
+// least one non-ASCII byte, else Windows-1252.
 QString DecodeFileText(const QByteArray &bytes);
-// File text as the program writes it: Windows-1252 when every character fits,
-// UTF-8 without byte order mark otherwise.
+// File text as the program writes it, such that DecodeFileText gives it back exactly:
+// Windows-1252 (what the earlier edition reads) when every character fits and the
+// bytes do not also read as UTF-8, UTF-8 without byte order mark otherwise.
 QByteArray EncodeFileText(const QString &text);
 
 } // namespace tb::legacy

@@ -69,6 +69,22 @@ inline const QString AutoRestDay = QStringLiteral("3");
 inline const QString Banner = QStringLiteral("4");
 } // namespace StripKinds
 
+// A schedule file holds one value per line, so a stored value can never hold a line
+// break: it would shift every later line of the file. Multi-line values (notes,
+// addresses, other information) are held as comma text, one item per line.
+inline bool HasLineBreak(const QString &value)
+{
+    return value.contains(u'\n') || value.contains(u'\r');
+}
+// The value with each line break (CR LF, CR or LF) replaced by a blank.
+inline QString OneLineValue(QString value)
+{
+    value.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    value.replace(u'\r', u' ');
+    value.replace(u'\n', u' ');
+    return value;
+}
+
 // A row of text fields. Rows are implicitly shared: copying one is a pointer copy,
 // and the fields are copied only when a shared row is written. A default row shares
 // no storage at all and reads as all blank.
@@ -82,6 +98,8 @@ public:
     const QString &at(int index) const { return d ? d->fields[index] : blank(); }
 
     void set(Field field, const QString &value) { setAt(static_cast<int>(field), value); }
+    // Every change of a field passes here; a line break is made a blank, so no caller
+    // can store a value that would break the file's layout.
     void setAt(int index, const QString &value)
     {
         if (!d) {
@@ -89,7 +107,10 @@ public:
                 return;
             d = new Data;
         }
-        d->fields[index] = value;
+        if (Q_UNLIKELY(HasLineBreak(value)))
+            d->fields[index] = OneLineValue(value);
+        else
+            d->fields[index] = value;
     }
 
     void clear() { d.reset(); }

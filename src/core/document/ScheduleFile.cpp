@@ -1,24 +1,36 @@
 #include "document/ScheduleFile.h"
 
+#include "document/AtomicWrite.h"
 #include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QStringView>
+
+#include <cmath>
 
 namespace tb {
 
 namespace {
 
 constexpr int HeaderLineCount = 23;
+constexpr int MaxNextStripId = 1000000000;
+constexpr int HoldDaysLimit = 1000000;
 
 // Calls back once per line; the document's values in file order. Shared by the
 // writer and ScheduleFileLines so that there is one statement of the layout.
-template <typename Put, typename Progress>
-void writeLines(const ScheduleDocument &doc, Put &&put, Progress &&progress)
+template <typename PutLine, typename Progress>
+void writeLines(const ScheduleDocument &doc, PutLine &&putLine, Progress &&progress)
 {
+    // Records never hold a line break (their setter sees to it); a production value
+    // that holds one is written with a blank instead, so that no later line shifts.
+    const auto put = [&putLine](const QString &line) {
+        if (Q_UNLIKELY(HasLineBreak(line)))
+            putLine(OneLineValue(line));
+        else
+            putLine(line);
+    };
     const ProductionValues &v = doc.values;
     put(QString::fromLatin1(ScheduleFileHeader));
     put(v.FileVersion);
@@ -101,9 +113,12 @@ private:
 };
 
 // Thrown inside the reader only, never across the interface: a line that is missing
-// or does not hold the number it must.
+// or does not hold the number it must. The detail, when there is one, says which
+// limit a value passes; it follows the reader's message.
 struct ReadFailure
-{};
+{
+    QString detail;
+};
 
 class DocumentReader
 {
@@ -111,6 +126,8 @@ public:
     explicit DocumentReader(QStringView text)
         : m_lines(text)
     {}
+
+    int lineNumber() const { return m_lines.lineNumber(); }
 
     QString text()
     {
@@ -135,12 +152,33 @@ public:
             throw ReadFailure{};
         return value;
     }
-    int count(int capacity)
+    // A number that must lie in [low, high]; what stands for it is named in the message.
+    int integerIn(int low, int high, const char *what)
     {
         const int value = integer();
-        // Counts outside the table sizes can only come from a damaged file.
-        if (value < 0 || value > capacity)
-            throw ReadFailure{};
+        if (value < low || value > high)
+            throw ReadFailure{QStringLiteral("Line %1 gives %2 as %3; it must lie between %4 and %5.")
+                                  .arg(lineNumber())
+                                  .arg(value)
+                                  .arg(QLatin1String(what))
+                                  .arg(low)
+                                  .arg(high)};
+        return value;
+    }
+    // The strip or element count: more than the table holds is said plainly.
+    int count(int capacity, const char *what)
+    {
+        const int value = integer();
+        if (value < 0)
+            throw ReadFailure{QStringLiteral("Line %1 gives %2 as the number of %3.")
+                                  .arg(lineNumber())
+                                  .arg(value)
+                                  .arg(QLatin1String(what))};
+        if (value > capacity)
+            throw ReadFailure{QStringLiteral("The file holds %1 %3; a schedule can hold at most %2 %3.")
+                                  .arg(value)
+                                  .arg(capacity)
+                                  .arg(QLatin1String(what))};
         return value;
     }
     template <typename Record>
@@ -169,19 +207,22 @@ void readBody(ScheduleDocument &doc, DocumentReader &in)
     v.CompanyAddress = in.text();
     v.LogoFile = in.text();
     v.BoardZoom = in.number();
-    // A missing or damaged zoom must never give an unusable board.
-    if (v.BoardZoom < 0.2)
+    // A missing or damaged zoom must never give an unusable board (nor one that is
+    // not a number at all, or infinite).
+    if (!(v.BoardZoom >= 0.2) || !std::isfinite(v.BoardZoom))
         v.BoardZoom = 1.0;
     doc.view().zoomChanged(v.BoardZoom);
     v.AutoRestDayRule = in.text();
     v.Reference = in.text();
     v.PreparedBy = in.text();
-    v.NextStripId = in.integer();
-    v.HoldDays = in.integer();
+    // Serial numbers are counted up from here; far below the limit of int, so that
+    // giving out the next one can never overflow.
+    v.NextStripId = in.integerIn(0, MaxNextStripId, "the last strip serial number");
+    v.HoldDays = in.integerIn(-HoldDaysLimit, HoldDaysLimit, "the hold days threshold");
     for (int i = 0; i < 3; ++i)
         in.text(); // reserved lines, whatever they hold
-    const int s = in.count(MaxStrips);
-    const int e = in.count(MaxElements);
+    const int s = in.count(MaxStrips, "strips");
+    const int e = in.count(MaxElements, "elements");
     doc.strips.setCount(s);
     doc.elements.setCount(e);
     for (int i = 1; i <= s; ++i) {
@@ -246,19 +287,13 @@ Result SaveDocument(ScheduleDocument &doc, const QString &path)
         });
 
     // Saving goes through a temporary file that replaces the document only once it is
-    // complete, so a failed or interrupted save leaves the earlier file whole. (The
-    // earlier edition wrote in place and could leave half a file behind.)
-    QSaveFile file(path);
-    bool ok = file.open(QIODevice::WriteOnly);
-    if (ok) {
-        const QByteArray bytes = legacy::EncodeFileText(text);
-        ok = file.write(bytes) == bytes.size();
-        ok = file.commit() && ok;
-    }
-    if (!ok) {
-        file.cancelWriting();
-        const QString message = QStringLiteral("Error saving file ") + path +
-                                QStringLiteral(". Try again using SaveAs from the file menu.");
+    // complete and on the disk, so a failed or interrupted save leaves the earlier file
+    // whole. (The earlier edition wrote in place and could leave half a file behind.)
+    const Result written = WriteFileAtomically(path, legacy::EncodeFileText(text));
+    if (!written) {
+        const QString message = WithCause(QStringLiteral("Error saving file ") + path +
+                                              QStringLiteral(". Try again using SaveAs from the file menu."),
+                                          written);
         doc.prompter().error(message);
         status.setProgress(0);
         status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error saving file."));
@@ -316,13 +351,15 @@ Result OpenDocument(ScheduleDocument &doc, const QString &path)
         if (readError)
             throw ReadFailure{};
         readBody(doc, in);
-    } catch (const ReadFailure &) {
+    } catch (const ReadFailure &failure) {
         // The file name in this message is still blank at this point; the program has
-        // always shown it so.
-        const QString message =
+        // always shown it so. A value past a limit is named after the message.
+        QString message =
             QStringLiteral("Error opening file ") + doc.FileName + QStringLiteral(".\r\r") +
             QStringLiteral("This file cannot be opened by Torvanbridge - it may be badly corrupted, or the system may "
                            "be unstable. Try again after re-booting the computer.");
+        if (!failure.detail.isEmpty())
+            message += QStringLiteral("\r\r") + failure.detail;
         doc.prompter().error(message);
         status.setPanelText(StatusSink::MessagePanel, QStringLiteral("Error opening file."));
         finishOpen(doc, path);

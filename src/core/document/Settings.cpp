@@ -1,5 +1,6 @@
 #include "document/Settings.h"
 
+#include "document/AtomicWrite.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleDocument.h"
 
@@ -7,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tb {
@@ -148,17 +148,9 @@ Result IniFile::save() const
 {
     const QFileInfo info(m_path);
     QDir().mkpath(info.absolutePath());
-    QSaveFile file(m_path);
-    bool ok = file.open(QIODevice::WriteOnly);
-    if (ok) {
-        const QByteArray bytes = legacy::EncodeFileText(text());
-        ok = file.write(bytes) == bytes.size();
-        ok = file.commit() && ok;
-    }
-    if (!ok) {
-        file.cancelWriting();
-        return writeFailure(m_path);
-    }
+    const Result written = WriteFileAtomically(m_path, legacy::EncodeFileText(text()));
+    if (!written)
+        return Result::failure(WithCause(writeFailure(m_path).message(), written));
     return Result::success();
 }
 

@@ -25,6 +25,8 @@ public:
 
     bool readScriptReport(const QStringList &lines);
     bool readSceneReport(const QStringList &lines);
+    // Scenes of the script report past the strip table's capacity, left out.
+    int scenesLeftOut() const { return m_scenesLeftOut; }
 
 private:
     void readHeading(StripRecord &row, const QString &heading);
@@ -38,6 +40,7 @@ private:
     // recognised in the first scene, and in later ones only where that position
     // happens to fall on it. Schedules imported so far were made this way; kept.
     qsizetype m_position = 1;
+    int m_scenesLeftOut = 0;
 };
 
 bool FinalDraftReader::readScriptReport(const QStringList &lines)
@@ -52,8 +55,13 @@ bool FinalDraftReader::readScriptReport(const QStringList &lines)
         if (!line.startsWith(QLatin1String("##")))
             continue;
         ++strip;
-        if (strip > MaxStrips)
-            return false;
+        // A report longer than the strip table keeps the scenes that fit and counts the
+        // rest for the message at the end (the earlier edition gave up with its read
+        // error and kept what it had read).
+        if (strip > MaxStrips) {
+            ++m_scenesLeftOut;
+            continue;
+        }
         ++m_doc.values.NextStripId;
         m_doc.strips.setCount(strip);
 
@@ -193,7 +201,7 @@ bool FinalDraftReader::readSceneReport(const QStringList &lines)
             continue;
         ++strip;
         if (strip > MaxStrips)
-            return false;
+            break; // scenes left out of the script report
 
         QString rest = line;
         for (int field = 0; field < 3; ++field)
@@ -253,6 +261,11 @@ Result ImportFinalDraft(ScheduleDocument &doc, const QString &sceneReportPath, c
     if (!scenes || !reader.readSceneReport(*scenes))
         return readError();
 
+    if (reader.scenesLeftOut() > 0)
+        doc.prompter().warning(QStringLiteral("The schedule can hold at most %1 strips: the first %1 scenes were "
+                                              "imported and the last %2 scenes were left out.")
+                                   .arg(MaxStrips)
+                                   .arg(reader.scenesLeftOut()));
     // An import takes no undo snapshot.
     DocumentEdit edit(doc);
     edit.scrollToStrip(1);

@@ -14,8 +14,10 @@ void ImportedStrips::begin(ScheduleDocument &doc)
 
 bool ImportedStrips::addScene(const ImportedScene &scene)
 {
-    if (m_next > MaxStrips)
-        return false;
+    if (m_next > MaxStrips) {
+        ++m_scenesLeftOut;
+        return true;
+    }
     StripRecord &row = m_doc.strips[m_next];
     row.clear();
     row.set(StripField::DayNight, scene.dayNight);
@@ -39,11 +41,15 @@ bool ImportedStrips::addScene(const ImportedScene &scene)
 
 void ImportedStrips::setLength(int strip, double pages)
 {
+    if (strip < 1 || strip > lastScene())
+        return; // a scene that was left out
     m_doc.strips[strip].set(StripField::PageLength, legacy::FloatToText(pages));
 }
 
 int ImportedStrips::castElement(const QString &name)
 {
+    if (m_scenesLeftOut > 0)
+        return -1; // the cast of scenes left out is left out too
     const QString folded = name.toCaseFolded();
     if (const int row = m_byFoldedName.value(folded, 0))
         return row;
@@ -54,8 +60,11 @@ int ImportedStrips::castElement(const QString &name)
     element.set(ElementField::HoldRule, QString());
     element.set(ElementField::PersonName, QString());
     element.set(ElementField::BoardId, QString::number(m_doc.elements.count() + 1));
-    if (!m_doc.elements.append(element))
-        return 0;
+    if (!m_doc.elements.append(element)) {
+        ++m_castLeftOut;
+        m_byFoldedName.insert(folded, -1);
+        return -1;
+    }
     const int row = m_doc.elements.count();
     m_byFoldedName.insert(folded, row);
     m_byName.insert(name, row);
@@ -65,6 +74,18 @@ int ImportedStrips::castElement(const QString &name)
 void ImportedStrips::finish()
 {
     m_doc.strips.setCount(m_next - 1);
+    QStringList leftOut;
+    if (m_scenesLeftOut > 0)
+        leftOut.append(QStringLiteral("The schedule can hold at most %1 strips: the first %1 scenes were imported "
+                                      "and the last %2 scenes were left out.")
+                           .arg(MaxStrips)
+                           .arg(m_scenesLeftOut));
+    if (m_castLeftOut > 0)
+        leftOut.append(QStringLiteral("The schedule can hold at most %1 elements: %2 cast names were left out.")
+                           .arg(MaxElements)
+                           .arg(m_castLeftOut));
+    if (!leftOut.isEmpty())
+        m_doc.prompter().warning(leftOut.join(QStringLiteral("\r\r")));
 }
 
 void EndScriptImport(ScheduleDocument &doc, bool ok)

@@ -39,13 +39,17 @@ public:
 
     static void begin(ScheduleDocument &doc);
 
-    // False when the schedule is full.
+    // A scene past the strip table's capacity is left out and counted; the import
+    // goes on, and finish() tells the user what was left out. (The earlier edition
+    // gave up with its import error and kept no scene.)
     bool addScene(const ImportedScene &scene);
+    int scenesLeftOut() const { return m_scenesLeftOut; }
     // The row of the scene added last; 0 before the first.
     int lastScene() const { return m_next - 1; }
     void setLength(int strip, double pages);
 
-    // 0 when the element table is full.
+    // -1 when the name is left out: the element table is full (the name is counted),
+    // or its scene was left out. 0 is never returned; importers treat it as failure.
     int castElement(const QString &name);
     // The element whose name equals this one exactly; 0 when there is none.
     int exactElement(const QString &name) const { return m_byName.value(name, 0); }
@@ -55,6 +59,8 @@ public:
 private:
     ScheduleDocument &m_doc;
     int m_next = 1; // the row the next scene fills
+    int m_scenesLeftOut = 0;
+    int m_castLeftOut = 0;
     QHash<QString, int> m_byFoldedName;
     QHash<QString, int> m_byName;
 };

@@ -219,7 +219,7 @@ Result BuildScheduleFromScreenplay(ScheduleDocument &doc, const ScreenplayText &
             ok = strips.addScene(scene);
             starts.append(at.at(k));
             givenLengths.append(p.length.isEmpty() ? -1.0 : ReadLength(p.length));
-            synopsisOpen = true;
+            synopsisOpen = strips.scenesLeftOut() == 0;
             assigned.clear();
         } else if (p.kind == ScreenplayElement::Action && synopsisOpen) {
             const QString synopsis = SynopsisFrom(p.text);
@@ -233,6 +233,8 @@ Result BuildScheduleFromScreenplay(ScheduleDocument &doc, const ScreenplayText &
             if (name.isEmpty())
                 continue;
             const int element = strips.castElement(name);
+            if (element < 0)
+                continue; // left out: the tables are full
             ok = element > 0;
             // One assignment per character and scene; a cue before the first heading
             // makes the element and assigns it nowhere.

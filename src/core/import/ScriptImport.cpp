@@ -199,7 +199,7 @@ bool ScriptImporter::run()
     // The last scene runs to the end of the script. Its length keeps the raw fraction
     // of a page, without the rounding to eighths and the one-eighth minimum of the
     // other scenes; schedules imported so far carry such lengths, so it stays.
-    if (m_strips.lastScene() > 0)
+    if (m_strips.lastScene() > 0 && m_strips.scenesLeftOut() == 0)
         m_strips.setLength(m_strips.lastScene(), double(lineCount - m_start) / m_settings.linesPerPage);
     m_strips.finish();
     return true;
@@ -226,8 +226,8 @@ bool ScriptImporter::readHeading(int i, QString line, const QString &intExt)
         }
     }
 
-    // The previous scene ends here.
-    if (m_strips.lastScene() > 0)
+    // The previous scene ends here (unless it was the last that fit).
+    if (m_strips.lastScene() > 0 && m_strips.scenesLeftOut() == 0)
         m_strips.setLength(m_strips.lastScene(), SceneLength(i - m_start, m_settings.linesPerPage));
 
     // Location: what is left, without trailing characters that are not capital
@@ -250,8 +250,11 @@ bool ScriptImporter::readCue(const QString &line)
     if (!LooksLikeCue(line) || IsIgnored(line.toUpper(), m_ignore))
         return true;
     const QString name = CharacterName(line);
-    if (m_strips.castElement(name) == 0)
+    const int cast = m_strips.castElement(name);
+    if (cast == 0)
         return false;
+    if (cast < 0)
+        return true; // left out: the tables are full
     // Assigned to the scene of the last heading; a cue before the first heading makes
     // the element and assigns it nowhere. A character who speaks twice in a scene is
     // assigned twice; AddAssignment decides whether the list then holds it twice.

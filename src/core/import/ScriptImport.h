@@ -39,8 +39,10 @@ ResultOf<QStringList> ReadScriptFile(const QString &path);
 // - other short capitals-only lines are character cues: each new name becomes a cast
 //   element, assigned to the scene of the last heading.
 // Progress goes to the status sink: the gauge, and "Import progress : N - LOCATION"
-// in the message panel; the window is kept alive after every line. On failure the
-// user is shown "Error with import procedure.", the strips read so far are not
+// in the message panel; the window is kept alive after every line. A script with
+// more scenes than the strip table holds keeps the first ones and the user is told
+// how many were left out (cast names past the element table likewise). On failure
+// the user is shown "Error with import procedure.", the strips read so far are not
 // counted, and the elements made so far stay; the document is marked modified either
 // way.
 Result DoImport(ScheduleDocument &doc, const QStringList &lines, const ScriptImportSettings &settings);

@@ -14,6 +14,7 @@
 
 #include <map>
 
+#include <climits>
 #include <cmath>
 
 namespace tb {
@@ -219,6 +220,20 @@ private:
         return v.integer;
     }
 
+    // A whole number that must lie in [low, high] before any arithmetic is done with
+    // it: positions and sizes stay far from the limits of int, so scaling them and
+    // adding them up cannot overflow.
+    int integerIn(const QString &prop, const DfmValue &v, qint64 low, qint64 high)
+    {
+        const qint64 value = integer(prop, v);
+        if (value < low || value > high)
+            fail(v.line,
+                 QStringLiteral("\"%1\" must lie between %2 and %3, found %4").arg(prop).arg(low).arg(high).arg(value));
+        return int(value);
+    }
+    // Positions and sizes in design pixels: ten metres of paper at 1200 dots per inch.
+    int designInt(const QString &prop, const DfmValue &v) { return integerIn(prop, v, -500000, 500000); }
+
     double number(const QString &prop, const DfmValue &v)
     {
         if (v.kind == DfmValue::Integer)
@@ -294,10 +309,10 @@ private:
         if (sameName(sub, "Name")) {
             font.name = string(name, v);
         } else if (sameName(sub, "Height")) {
-            font.height = int(integer(name, v));
+            font.height = integerIn(name, v, -10000, 10000);
         } else if (sameName(sub, "Size")) {
             // Points to design pixels, as the toolkit stores it: a negative height.
-            font.height = -int(std::lround(double(integer(name, v)) * m_form.PixelsPerInch / 72.0));
+            font.height = -int(std::lround(double(integerIn(name, v, -10000, 10000)) * m_form.PixelsPerInch / 72.0));
         } else if (sameName(sub, "Color")) {
             font.color = color(name, v);
         } else if (sameName(sub, "Style")) {
@@ -381,15 +396,15 @@ private:
     void applyControlBase(tAlControl &c, const QString &name, const DfmValue &v)
     {
         if (sameName(name, "Left"))
-            c.Left = int(integer(name, v));
+            c.Left = designInt(name, v);
         else if (sameName(name, "Top"))
-            c.Top = int(integer(name, v));
+            c.Top = designInt(name, v);
         else if (sameName(name, "Width"))
-            c.Width = int(integer(name, v));
+            c.Width = designInt(name, v);
         else if (sameName(name, "Height"))
-            c.Height = int(integer(name, v));
+            c.Height = designInt(name, v);
         else if (sameName(name, "Tag"))
-            c.Tag = int(integer(name, v));
+            c.Tag = integerIn(name, v, INT_MIN, INT_MAX);
         else if (sameName(name, "visible"))
             c.visible = boolean(name, v);
         else if (sameName(name, "VisibleInPreview"))
@@ -427,15 +442,15 @@ private:
     void applyBand(tAlBand &b, const QString &name, const DfmValue &v)
     {
         if (sameName(name, "Left"))
-            b.Left = int(integer(name, v));
+            b.Left = designInt(name, v);
         else if (sameName(name, "Top"))
-            b.Top = int(integer(name, v));
+            b.Top = designInt(name, v);
         else if (sameName(name, "Width"))
-            b.Width = int(integer(name, v));
+            b.Width = designInt(name, v);
         else if (sameName(name, "Height"))
-            b.Height = int(integer(name, v));
+            b.Height = designInt(name, v);
         else if (sameName(name, "Tag"))
-            b.Tag = int(integer(name, v));
+            b.Tag = integerIn(name, v, INT_MIN, INT_MAX);
         else if (sameName(name, "TabOrder"))
             (void)integer(name, v);
         else if (sameName(name, "Align")) {
@@ -460,11 +475,9 @@ private:
         else if (sameName(name, "ClipMode"))
             b.ClipMode = enumeration<tClipMode>(name, v, {"cm_Clip", "cm_Expand", "cm_Overwrite"});
         else if (sameName(name, "Columns")) {
-            b.Columns = int(integer(name, v));
-            if (b.Columns < 1 || b.Columns > 20)
-                fail(v.line, QStringLiteral("Columns must lie between 1 and 20"));
+            b.Columns = integerIn(name, v, 1, 20);
         } else if (sameName(name, "ColWidthMM"))
-            b.ColWidthMM = int(integer(name, v));
+            b.ColWidthMM = integerIn(name, v, 0, 10000);
         else if (sameName(name, "FirstPageHeaderOnly"))
             b.FirstPageHeaderOnly = boolean(name, v);
         else if (sameName(name, "NotFirstPageHeader"))
@@ -488,7 +501,7 @@ private:
         else if (sameName(name, "Pen.Color"))
             s.Pen.color = color(name, v);
         else if (sameName(name, "Pen.Width"))
-            s.Pen.width = int(integer(name, v));
+            s.Pen.width = integerIn(name, v, 0, 1000);
         else if (sameName(name, "Pen.Style")) {
             const int style = enumeration<int>(
                 name, v, {"psSolid", "psDash", "psDot", "psDashDot", "psDashDotDot", "psClear", "psInsideFrame"});
@@ -560,9 +573,9 @@ private:
         else if (sameName(name, "Papersize"))
             r.Papersize = enumeration<tPapersize>(name, v, {"alr_A4", "alr_A5", "alr_Legal", "alr_Letter"});
         else if (sameName(name, "LeftMarginMM"))
-            r.LeftMarginMM = int(integer(name, v));
+            r.LeftMarginMM = integerIn(name, v, 0, 1000);
         else if (sameName(name, "RightMarginMM"))
-            r.RightMarginMM = int(integer(name, v));
+            r.RightMarginMM = integerIn(name, v, 0, 1000);
         else if (sameName(name, "ReportTitle"))
             r.ReportTitle = string(name, v);
         else if (sameName(name, "Left") || sameName(name, "Top") || sameName(name, "Tag"))

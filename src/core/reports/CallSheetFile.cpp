@@ -1,9 +1,9 @@
 #include "reports/CallSheetFile.h"
 
+#include "document/AtomicWrite.h"
 #include "document/LegacyText.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace tb {
 
@@ -87,17 +87,10 @@ Result WriteCallSheetFile(const CallSheet &sheet, const QString &path)
         text += line;
         text += QLatin1String("\r\n");
     }
-    QSaveFile file(path);
-    bool ok = file.open(QIODevice::WriteOnly);
-    if (ok) {
-        const QByteArray bytes = legacy::EncodeFileText(text);
-        ok = file.write(bytes) == bytes.size();
-        ok = file.commit() && ok;
-    }
-    if (!ok) {
-        file.cancelWriting();
-        return Result::failure(QString::fromLatin1(CallSheetFileError));
-    }
+    // Whole or not at all: a failed write leaves the earlier file as it was.
+    const Result written = WriteFileAtomically(path, legacy::EncodeFileText(text));
+    if (!written)
+        return Result::failure(WithCause(QString::fromLatin1(CallSheetFileError), written));
     return Result::success();
 }
 

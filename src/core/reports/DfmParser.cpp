@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <limits>
+
 namespace tb {
 
 QString DfmValue::kindName(Kind kind)
@@ -229,7 +231,10 @@ private:
                 throw ParseError{m_line, QStringLiteral("expected hexadecimal digits after \"$\"")};
             t.kind = Token::Integer;
             // Eight digits are a 32-bit value as the toolkit writes colours: $FF00000F is negative.
-            qint64 v = (m_pos - digits <= 8) ? qint64(qint32(quint32(value))) : qint64(value);
+            if (m_pos - digits > 8 && value > quint64(std::numeric_limits<qint64>::max()))
+                throw ParseError{m_line,
+                                 QStringLiteral("\"%1\" is too large a number").arg(m_text.mid(start, m_pos - start))};
+            const qint64 v = (m_pos - digits <= 8) ? qint64(qint32(quint32(value))) : qint64(value);
             t.integer = negative ? -v : v;
             checkNumberEnd();
             return;
@@ -326,6 +331,10 @@ bool isSymbol(const Token &t, char16_t c)
     return t.kind == Token::Symbol && t.symbol == QChar(c);
 }
 
+// Objects, lists and collections nest; deeper than any template needs is an error,
+// not a stack overflow.
+constexpr int MaxNesting = 64;
+
 class Parser
 {
 public:
@@ -353,6 +362,25 @@ private:
 
     void advance() { m_tok = m_lexer.next(); }
 
+    // Counts one level of nesting while it lives.
+    class Nested
+    {
+    public:
+        explicit Nested(Parser &parser)
+            : m_parser(parser)
+        {
+            if (++m_parser.m_depth > MaxNesting)
+                throw ParseError{m_parser.m_tok.line,
+                                 QStringLiteral("objects and values nest deeper than %1 levels").arg(MaxNesting)};
+        }
+        ~Nested() { --m_parser.m_depth; }
+        Nested(const Nested &) = delete;
+        Nested &operator=(const Nested &) = delete;
+
+    private:
+        Parser &m_parser;
+    };
+
     void expectSymbol(char16_t c, const QString &context)
     {
         if (!isSymbol(m_tok, c))
@@ -362,6 +390,7 @@ private:
 
     DfmObject parseObject()
     {
+        const Nested nested(*this);
         DfmObject object;
         object.keyword = m_tok.text.toLower();
         object.line = m_tok.line;
@@ -417,6 +446,7 @@ private:
 
     DfmValue parseValue(const QString &property)
     {
+        const Nested nested(*this);
         DfmValue v;
         v.line = m_tok.line;
         switch (m_tok.kind) {
@@ -518,6 +548,7 @@ private:
 
     Lexer m_lexer;
     Token m_tok;
+    int m_depth = 0;
 };
 
 } // namespace

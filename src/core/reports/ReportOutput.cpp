@@ -1,11 +1,13 @@
 #include "reports/ReportOutput.h"
 
+#include "document/AtomicWrite.h"
+
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tb {
@@ -87,9 +89,10 @@ QByteArray XmpMetadata(const QString &title, const QString &author)
 Result WriteReportPdf(TAlReport &report, const QString &path, std::optional<tPapersize> paper)
 {
     const tPapersize chosen = paper.value_or(report.Papersize);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
+    // The whole PDF is made in memory and written in one checked step: a failed layout
+    // or a failed write leaves no file, or the earlier one untouched.
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
     Result printed = Result::success();
     {
         QPdfWriter writer(&file);
@@ -116,12 +119,12 @@ Result WriteReportPdf(TAlReport &report, const QString &path, std::optional<tPap
         writer.setPageLayout(QPageLayout(size, orientation, margins, QPageLayout::Millimeter, QMarginsF()));
         printed = report.Print(writer);
     }
-    if (!printed) {
-        file.cancelWriting();
+    if (!printed)
         return printed;
-    }
-    if (!file.commit())
-        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, file.errorString()));
+    file.close();
+    const Result written = WriteFileAtomically(path, file.data());
+    if (!written)
+        return Result::failure(QStringLiteral("Could not write %1: %2").arg(path, written.message()));
     return Result::success();
 }
 

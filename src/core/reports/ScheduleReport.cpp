@@ -7,6 +7,7 @@
 #include "reports/ReportOutput.h"
 
 #include "document/AssignmentList.h"
+#include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 
@@ -91,7 +92,7 @@ public:
                         ++*rows;
                     }
                 } else if (strip.isBanner()) {
-                    const int days = legacy::StrToIntDef(strip[StripField::DayCount], 0);
+                    const int days = BannerDayCount(strip[StripField::DayCount]);
                     if (days > 0) {
                         d -= days;
                         const QString &text = strip[StripField::Synopsis];

@@ -269,8 +269,13 @@ private Q_SLOTS:
         QTest::newRow("hold days not a number") << with(17, "ten") << OpenError << "Error opening file." << true;
         QTest::newRow("strip count not a number") << with(21, "x1") << OpenError << "Error opening file." << true;
         QTest::newRow("strip count huge") << with(21, "99999999999") << OpenError << "Error opening file." << true;
-        QTest::newRow("strip count past capacity") << with(21, "1001") << OpenError << "Error opening file." << true;
-        QTest::newRow("element count negative") << with(22, "-1") << OpenError << "Error opening file." << true;
+        QTest::newRow("strip count past capacity")
+            << with(21, "1001")
+            << OpenError + "\r\rThe file holds 1001 strips; a schedule can hold at most 1000 strips."
+            << "Error opening file." << true;
+        QTest::newRow("element count negative")
+            << with(22, "-1") << OpenError + "\r\rLine 23 gives -1 as the number of elements."
+            << "Error opening file." << true;
         QTest::newRow("strip count too large for the file")
             << with(21, "2") << OpenError << "Error opening file." << true;
     }
@@ -345,7 +350,8 @@ private Q_SLOTS:
         const Result result = SaveDocument(doc, path);
         QVERIFY(!result.ok());
         QCOMPARE(prompter.texts(),
-                 QStringList{"Error saving file " + path + ". Try again using SaveAs from the file menu."});
+                 QStringList{"Error saving file " + path +
+                             ". Try again using SaveAs from the file menu.\r\rNo such file or directory."});
         QCOMPARE(status.panels.value(StatusSink::MessagePanel), "Error saving file.");
         QCOMPARE(status.progress.last(), 0);
         QVERIFY(doc.Modified);

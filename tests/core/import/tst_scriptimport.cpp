@@ -56,7 +56,7 @@ private Q_SLOTS:
     void ignoreWordsAreSearchedForTheCue();
     void cuesGoToTheSceneOfTheLastHeading();
     void startsFromANewDocument();
-    void fullTableFails();
+    void fullTableKeepsWhatFits();
     void readingFiles_data();
     void readingFiles();
     void realScreenplays_data();
@@ -252,17 +252,21 @@ void TestScriptImport::startsFromANewDocument()
     QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "Modified");
 }
 
-void TestScriptImport::fullTableFails()
+void TestScriptImport::fullTableKeepsWhatFits()
 {
     QStringList lines{"ANN"};
-    for (int k = 0; k <= MaxStrips; ++k)
-        lines << QStringLiteral("INT. ROOM %1 - DAY").arg(k) << "BOB";
+    for (int k = 0; k <= MaxStrips + 1; ++k)
+        lines << QStringLiteral("INT. ROOM %1 - DAY").arg(k) << (k < MaxStrips ? "BOB" : "CAROL") << ""
+              << "";
     Imported run(lines);
-    QVERIFY(!run.result.ok());
-    QCOMPARE(run.prompter.texts(), QStringList{"Error with import procedure."});
-    QCOMPARE(run.prompter.prompts.first().kind, MessageKind::Error);
-    // Strips read before the failure are not counted; the elements made stay.
-    QCOMPARE(run.doc.strips.count(), 0);
+    QVERIFY(run.result.ok());
+    QCOMPARE(run.prompter.texts(), QStringList{"The schedule can hold at most 1000 strips: the first 1000 scenes "
+                                               "were imported and the last 2 scenes were left out."});
+    QCOMPARE(run.prompter.prompts.first().kind, MessageKind::Warning);
+    QCOMPARE(run.doc.strips.count(), MaxStrips);
+    QCOMPARE(run.doc.strips[MaxStrips][StripField::SceneNumber], "1000");
+    QCOMPARE(run.doc.strips[MaxStrips][StripField::PageLength], run.doc.strips[1][StripField::PageLength]);
+    // The cast of the scenes left out is left out too.
     QCOMPARE(Cast(run.doc), (QStringList{"Ann", "Bob"}));
     QVERIFY(run.doc.Modified);
     QVERIFY(!run.status.busy);

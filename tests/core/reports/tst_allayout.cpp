@@ -392,7 +392,8 @@ void TestAlLayout::clipModes()
         QStringLiteral("a text much too long for a field one hundred pixels wide and one line high");
     clip->report->AddNamedValue("Text", longText);
     over->report->AddNamedValue("Text", longText);
-    const PlacedControl *c = controlOf(LayOutReport(*clip->report, pageOf(5000)).pages[0].bands[0], "Text");
+    const ReportLayout clipLayout = LayOutReport(*clip->report, pageOf(5000)); // c points into it
+    const PlacedControl *c = controlOf(clipLayout.pages[0].bands[0], "Text");
     // Never cut silently: the line that fits ends in an ellipsis.
     QCOMPARE(c->lines.size(), 1);
     QVERIFY(c->cut);

@@ -316,7 +316,7 @@ void TestCallSheet::fileRoundTrip()
     QCOMPARE(CallSheetFileLines(read), CallSheetFileLines(sheet));
     QCOMPARE(CallSheetFileDate(path).value(), serial(Start) + 0.5);
     QCOMPARE(WriteCallSheetFile(sheet, QStringLiteral("/nonexistent-folder/x.tbs")).message(),
-             QString::fromLatin1(CallSheetFileError));
+             QString::fromLatin1(CallSheetFileError) + QStringLiteral("\r\rNo such file or directory."));
 }
 
 void TestCallSheet::fileBadInput_data()

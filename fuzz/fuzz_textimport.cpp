@@ -1,0 +1,33 @@
+// The plain-text screenplay import, on decoded bytes as the wizard reads them.
+
+#include "FuzzSupport.h"
+
+#include "document/LegacyText.h"
+#include "document/ScheduleFile.h"
+#include "import/ImportText.h"
+#include "import/ScriptImport.h"
+
+#include <QCoreApplication>
+
+using namespace tb;
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static QCoreApplication app(*argc, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    ScheduleDocument doc;
+    fuzz::SilentPrompter prompter;
+    doc.setPrompter(&prompter);
+    ScriptImportSettings settings;
+    // The first byte picks the lines per page, as the wizard's box allows 1..99.
+    if (size > 0)
+        settings.linesPerPage = 1 + data[0] % 99;
+    (void)DoImport(doc, SplitImportLines(legacy::DecodeFileText(bytes)), settings);
+    (void)ScheduleFileLines(doc);
+    return 0;
+}

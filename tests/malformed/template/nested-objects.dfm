@@ -1,0 +1,10002 @@
+object F: TForm
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+object A: TPanel
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
+end
