@@ -138,6 +138,13 @@ for d in $docs; do
     run "$d-report-elements-all" report elements "$in" -o "$d-report-elements-all.pdf" \
         --categories 1,2,3,4,5,6,7,8,9,10,11,12,13,14,15 --trace
     cp "$d-report-letter.pdf" "$d-report-oneline-all.pdf" "$d-report-elements-all.pdf" "$out/outputs/" 2>/dev/null
+    run "$d-dood" dood "$in"
+    run "$d-dood-totals" dood "$in" --no-holds --totals --category 2 -o "$d-dood-totals.csv"
+    run "$d-dood-pdf" dood "$in" -o "$d-dood.pdf" --color --totals
+    run "$d-print-board" print-board "$in" -o "$d-print-board.pdf"
+    run "$d-print-board-perf" print-board "$in" -o "$d-print-board-perf.pdf" --perforated --bw --all-headers \
+        --from 2 --to 9 --margin 3 --strip-width 9.565
+    cp "$d-dood-totals.csv" "$d-dood.pdf" "$d-print-board.pdf" "$d-print-board-perf.pdf" "$out/outputs/" 2>/dev/null
 done
 
 # The call sheet of a day of the example (with its call sheet file, printed again from

@@ -1,6 +1,7 @@
 #include "CliCommand.h"
 
 #include "board/BoardExport.h"
+#include "board/BoardPrinting.h"
 #include "board/DrawBoard.h"
 #include "document/AtomicWrite.h"
 #include "document/ScheduleFile.h"
@@ -13,6 +14,7 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSaveFile>
 
 namespace tb::cli {
 
@@ -210,6 +212,136 @@ int runExport(CliContext &ctx, const CliCommand &command, const QStringList &arg
     return ExitOk;
 }
 
+// The resolution of a printed board in a PDF file, as a printer's would be.
+constexpr int PrintResolution = 300;
+// The unprintable edge of the sheet a PDF stands for, in millimetres: a common
+// laser printer's.
+constexpr double PrintOffsetMm = 4.0;
+
+bool readMillimetres(const ArgParser &args, const QString &name, double low, double high, double *value, QString *error)
+{
+    if (!args.has(name))
+        return true;
+    bool ok = false;
+    const double n = args.value(name).toDouble(&ok);
+    if (!ok || !(n >= low && n <= high)) {
+        *error = QStringLiteral("%1 must be a number from %2 to %3").arg(name).arg(low).arg(high);
+        return false;
+    }
+    *value = n;
+    return true;
+}
+
+int runPrintBoard(CliContext &ctx, const CliCommand &command, const QStringList &argv)
+{
+    ArgParser args;
+    args.valueOption(QStringLiteral("-o"))
+        .valueOption(QStringLiteral("--from"))
+        .valueOption(QStringLiteral("--to"))
+        .valueOption(QStringLiteral("--margin"))
+        .valueOption(QStringLiteral("--strip-width"))
+        .valueOption(QStringLiteral("--scale"))
+        .valueOption(QStringLiteral("--paper"))
+        .flag(QStringLiteral("--perforated"))
+        .flag(QStringLiteral("--portrait"))
+        .flag(QStringLiteral("--landscape"))
+        .flag(QStringLiteral("--bw"))
+        .flag(QStringLiteral("--no-date"))
+        .flag(QStringLiteral("--no-page-number"))
+        .flag(QStringLiteral("--all-headers"));
+    QString error;
+    if (!args.parse(argv, &error))
+        return UsageError(ctx, command, error);
+    if (args.positional().size() != 1)
+        return UsageError(ctx, command, QStringLiteral("needs one schedule file"));
+    const QString out = args.value(QStringLiteral("-o"));
+    if (out.isEmpty() || QFileInfo(out).suffix().toLower() != QLatin1String("pdf"))
+        return UsageError(ctx, command, QStringLiteral("needs -o OUT.pdf"));
+    if (args.has(QStringLiteral("--portrait")) && args.has(QStringLiteral("--landscape")))
+        return UsageError(ctx, command, QStringLiteral("--portrait or --landscape, not both"));
+    if (args.has(QStringLiteral("--from")) != args.has(QStringLiteral("--to")))
+        return UsageError(ctx, command, QStringLiteral("--from and --to go together"));
+    QPageSize paper(QPageSize::A4);
+    const QString paperName = args.value(QStringLiteral("--paper"), QStringLiteral("a4")).toLower();
+    if (paperName == QLatin1String("letter"))
+        paper = QPageSize(QPageSize::Letter);
+    else if (paperName != QLatin1String("a4"))
+        return UsageError(ctx, command, QStringLiteral("--paper is a4 or letter"));
+
+    // The perforated stock as the setup dialog keeps it, unless told otherwise.
+    Settings settings;
+    for (const QString &problem : settings.LoadSettings())
+        ctx.err << problem << Qt::endl;
+    BoardPrintOptions options;
+    options.perforated = args.has(QStringLiteral("--perforated"));
+    options.perfMargin = settings.perfMargin;
+    options.perfWidth = settings.perfWidth;
+    options.showDate = !args.has(QStringLiteral("--no-date"));
+    options.showPageNumber = !args.has(QStringLiteral("--no-page-number"));
+    options.headerOnEveryPage = args.has(QStringLiteral("--all-headers"));
+    options.blackAndWhite = args.has(QStringLiteral("--bw"));
+    options.printed = PrintingTime();
+    int scalePercent = 100;
+    if (!readMillimetres(args, QStringLiteral("--margin"), 1, 25, &options.perfMargin, &error) ||
+        !readMillimetres(args, QStringLiteral("--strip-width"), 0.1, 10, &options.perfWidth, &error) ||
+        !readInt(args, QStringLiteral("--scale"), 50, 200, &scalePercent, &error) ||
+        !readInt(args, QStringLiteral("--from"), 1, MaxStrips, &options.firstStrip, &error) ||
+        !readInt(args, QStringLiteral("--to"), 1, MaxStrips, &options.lastStrip, &error))
+        return UsageError(ctx, command, error);
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, args.positional().first()))
+        return ExitUserError;
+    if (doc.strips.count() == 0) {
+        ctx.err << "Nothing to print: the schedule has no strips." << Qt::endl;
+        return ExitUserError;
+    }
+    if (args.has(QStringLiteral("--from")) &&
+        (options.lastStrip > doc.strips.count() || options.firstStrip > options.lastStrip)) {
+        ctx.err << QStringLiteral("The strips %1 to %2 are not within the board's strips 1 to %3.")
+                       .arg(options.firstStrip)
+                       .arg(options.lastStrip)
+                       .arg(doc.strips.count())
+                << Qt::endl;
+        return ExitUserError;
+    }
+    options.overallScale = scalePercent / 100.0;
+
+    QSaveFile file(out);
+    if (!file.open(QIODevice::WriteOnly)) {
+        ctx.err << QStringLiteral("Cannot write %1: %2").arg(out, file.errorString()) << Qt::endl;
+        return ExitUserError;
+    }
+    BoardPrintResult printed;
+    {
+        QPdfWriter writer(&file);
+        writer.setResolution(PrintResolution);
+        writer.setCreator(QStringLiteral("Torvanbridge"));
+        writer.setTitle(BoardPrintJobTitle(doc));
+        const QMarginsF edge(PrintOffsetMm, PrintOffsetMm, PrintOffsetMm, PrintOffsetMm);
+        writer.setPageLayout(
+            QPageLayout(paper, args.has(QStringLiteral("--portrait")) ? QPageLayout::Portrait : QPageLayout::Landscape,
+                        edge, QPageLayout::Millimeter));
+        printed = PrintBoard(doc, StyleFromSettings(settings), options, writer);
+    }
+    if (!printed.problem.isEmpty()) {
+        ctx.err << printed.problem << Qt::endl;
+        return ExitUserError;
+    }
+    if (!file.commit()) {
+        ctx.err << QStringLiteral("Cannot write %1: %2").arg(out, file.errorString()) << Qt::endl;
+        return ExitUserError;
+    }
+    ctx.out << out << ": " << (options.perforated ? "perforated stock" : "plain paper") << ", board at ("
+            << printed.left << ", " << printed.top << ") dots, scale " << QString::number(printed.scale, 'f', 4)
+            << Qt::endl;
+    for (int p = 0; p < printed.pages.size(); ++p)
+        ctx.out << "page " << p + 1 << ": strips " << printed.pages.at(p).firstStrip << "-"
+                << printed.pages.at(p).lastStrip << Qt::endl;
+    return ExitOk;
+}
+
 } // namespace
 
 void AddBoardCommands(CommandList &commands)
@@ -239,6 +371,21 @@ void AddBoardCommands(CommandList &commands)
         return runExport(ctx, exportBoard, args);
     };
     commands.append(exportBoard);
+
+    CliCommand printBoard{
+        QStringLiteral("print-board"),
+        QStringLiteral("print-board IN -o OUT.pdf [--from N --to N] [--perforated] [--margin MM] "
+                       "[--strip-width MM] [--scale PCT] [--portrait|--landscape] [--paper a4|letter] [--bw] "
+                       "[--no-date] [--no-page-number] [--all-headers]"),
+        QStringLiteral("Print the production board as the print dialog does, to a PDF file (landscape A4 "
+                       "unless told, 300 dots per inch, 4 mm unprintable edges), on plain paper or on perforated "
+                       "strip stock (margin and strip width from your settings unless given), and list the "
+                       "strips on each page."),
+        {}};
+    printBoard.run = [printBoard](CliContext &ctx, const QStringList &args) {
+        return runPrintBoard(ctx, printBoard, args);
+    };
+    commands.append(printBoard);
 }
 
 } // namespace tb::cli

@@ -5,6 +5,7 @@
 #include "document/Result.h"
 #include "document/ScheduleDocument.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -107,6 +108,10 @@ QString BashCompletion(const CommandList &commands);
 // answered Yes, and saves to OUT.
 int ApplyToSchedule(CliContext &ctx, const QString &in, const QString &out,
                     const std::function<Result(ScheduleDocument &)> &change);
+
+// The time printouts say they were made: SOURCE_DATE_EPOCH (seconds since 1970) when
+// set, so that the same command prints the same pages at any hour; else now.
+QDateTime PrintingTime();
 
 // Prints "usage: torvanbridge-cli USAGE" and the error; returns ExitUsageError.
 int UsageError(CliContext &ctx, const CliCommand &command, const QString &error);

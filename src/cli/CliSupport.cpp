@@ -132,4 +132,13 @@ int ApplyToSchedule(CliContext &ctx, const QString &in, const QString &out,
     return ExitOk;
 }
 
+QDateTime PrintingTime()
+{
+    bool ok = false;
+    const qint64 epoch = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&ok);
+    if (ok)
+        return QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC);
+    return QDateTime::currentDateTime();
+}
+
 } // namespace tb::cli

@@ -8,6 +8,8 @@
 #include "document/Settings.h"
 #include "reports/CallSheet.h"
 #include "reports/CallSheetFile.h"
+#include "reports/DayOutOfDays.h"
+#include "reports/DayOutOfDaysPrint.h"
 #include "reports/ReportBuilders.h"
 #include "reports/ReportOutput.h"
 #include "reports/TemplateFields.h"
@@ -15,6 +17,9 @@
 
 #include <QDate>
 #include <QFileInfo>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QSaveFile>
 #include <QSet>
 
 namespace tb::cli {
@@ -319,6 +324,99 @@ int runCheckTemplate(CliContext &ctx, const CliCommand &self, const QStringList 
     return ExitOk;
 }
 
+// The resolution the chart is printed at in a PDF file, as a printer's would be.
+constexpr int DoodPdfResolution = 300;
+
+QString writeDoodPdf(const DayOutOfDaysGrid &grid, const DayOutOfDaysPrintOptions &options, const QString &out)
+{
+    QSaveFile file(out);
+    if (!file.open(QIODevice::WriteOnly))
+        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    {
+        QPdfWriter writer(&file);
+        writer.setResolution(DoodPdfResolution);
+        writer.setCreator(QStringLiteral("Torvanbridge"));
+        writer.setTitle(QStringLiteral("Day out of days"));
+        // A4 landscape with the unprintable edges of a common printer.
+        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(5, 5, 5, 5),
+                                         QPageLayout::Millimeter));
+        if (PrintDayOutOfDays(grid, options, writer).pages == 0)
+            return QStringLiteral("Cannot start a PDF in %1").arg(out);
+    }
+    if (!file.commit())
+        return QStringLiteral("Cannot write %1: %2").arg(out, file.errorString());
+    return {};
+}
+
+int runDood(CliContext &ctx, const CliCommand &self, const QStringList &args)
+{
+    ArgParser parser;
+    parser.valueOption(QStringLiteral("-o"))
+        .valueOption(QStringLiteral("--category"))
+        .flag(QStringLiteral("--no-holds"))
+        .flag(QStringLiteral("--totals"))
+        .flag(QStringLiteral("--color"));
+    QString error;
+    if (!parser.parse(args, &error))
+        return UsageError(ctx, self, error);
+    if (parser.positional().size() != 1)
+        return UsageError(ctx, self, QStringLiteral("needs one schedule file"));
+    const QString out = parser.value(QStringLiteral("-o"));
+    const QString suffix = QFileInfo(out).suffix().toLower();
+    if (parser.has(QStringLiteral("-o")) && suffix != QLatin1String("csv") && suffix != QLatin1String("pdf"))
+        return UsageError(ctx, self, QStringLiteral("the output must end in .csv or .pdf"));
+    if (parser.has(QStringLiteral("--color")) && suffix != QLatin1String("pdf"))
+        return UsageError(ctx, self, QStringLiteral("--color is for a .pdf output"));
+
+    ScheduleDocument doc;
+    doc.setPrompter(&ctx.prompter);
+    if (!OpenDocument(doc, parser.positional().first()))
+        return ExitUserError;
+
+    DayOutOfDaysOptions options;
+    options.showHolds = !parser.has(QStringLiteral("--no-holds"));
+    options.totals = parser.has(QStringLiteral("--totals"));
+    if (parser.has(QStringLiteral("--category"))) {
+        bool ok = false;
+        options.category = parser.value(QStringLiteral("--category")).toInt(&ok);
+        if (!ok)
+            return UsageError(ctx, self, QStringLiteral("--category takes a category number such as 2"));
+        if (options.category < 1 || options.category > doc.categoryCount()) {
+            ctx.err << QStringLiteral("There is no category %1: categories are numbered 1 to %2.")
+                           .arg(parser.value(QStringLiteral("--category")))
+                           .arg(doc.categoryCount())
+                    << Qt::endl;
+            return ExitUserError;
+        }
+    }
+    const DayOutOfDaysGrid grid = BuildDayOutOfDays(doc, options);
+
+    if (suffix == QLatin1String("pdf")) {
+        DayOutOfDaysPrintOptions print;
+        print.title = doc.values.PictureTitle;
+        print.inColour = parser.has(QStringLiteral("--color"));
+        print.printed = PrintingTime().date();
+        const QString failed = writeDoodPdf(grid, print, out);
+        if (!failed.isEmpty()) {
+            ctx.err << failed << Qt::endl;
+            return ExitUserError;
+        }
+        return ExitOk;
+    }
+    const QString text = DayOutOfDaysCsv(grid);
+    if (out.isEmpty()) {
+        ctx.out << text; // the stream writes UTF-8
+        return ExitOk;
+    }
+    const QByteArray csv = text.toUtf8();
+    QSaveFile file(out);
+    if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
+        ctx.err << QStringLiteral("Cannot write %1: %2").arg(out, file.errorString()) << Qt::endl;
+        return ExitUserError;
+    }
+    return ExitOk;
+}
+
 } // namespace
 
 void AddReportCommands(CommandList &commands)
@@ -364,6 +462,16 @@ void AddReportCommands(CommandList &commands)
                        "Breakdown1.dfm, ElementSummary1.dfm) unless --report names it.")};
     check.run = [check](CliContext &ctx, const QStringList &args) { return runCheckTemplate(ctx, check, args); };
     commands.append(check);
+
+    CliCommand dood{QStringLiteral("dood"),
+                    QStringLiteral("dood IN [--no-holds] [--category N] [--totals] [-o OUT.csv|OUT.pdf] [--color]"),
+                    QStringLiteral("The day out of days of the cast (or of category N) as comma-separated text "
+                                   "(to stdout, or a .csv file) or printed to a .pdf file (--color for coloured "
+                                   "work and hold days). --no-holds leaves hold days out; --totals adds work, "
+                                   "hold and total days at the right of every row."),
+                    {}};
+    dood.run = [dood](CliContext &ctx, const QStringList &args) { return runDood(ctx, dood, args); };
+    commands.append(dood);
 }
 
 } // namespace tb::cli

@@ -171,6 +171,10 @@ private Q_SLOTS:
                                     << "call-sheet.html";
         QTest::newRow("end of day") << "Endofday1" << 1 << "End of day"
                                     << "end-of-day.html";
+        QTest::newRow("day out of days") << "Dayoutofdays1" << 1 << "Day out of days"
+                                         << "day-out-of-days.html";
+        QTest::newRow("production board") << "Productionboard1" << 1 << "Print production board"
+                                          << "print-board.html";
         QTest::newRow("import script") << "Importscript1" << 1 << "Script import (TXT file)"
                                        << "import-script.html";
     }

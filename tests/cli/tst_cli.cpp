@@ -85,6 +85,7 @@ private Q_SLOTS:
     void reports_data();
     void reports();
     void reportTrace();
+    void doodAndPrintBoard();
     void checkTemplate_data();
     void checkTemplate();
     void details();
@@ -201,13 +202,22 @@ void TestCli::usageErrors_data()
         "--date needs a date as YYYY-MM-DD");
     Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
         "--date YYYY-MM-DD and --shot SCENE,... are required");
+
+    Row("dood wrong type", L{"dood", "EX", "-o", "x.txt"}, "the output must end in .csv or .pdf");
+    Row("dood colour without a pdf", L{"dood", "EX", "--color"}, "--color is for a .pdf output");
+    Row("print-board without a pdf", L{"print-board", "EX"}, "needs -o OUT.pdf");
+    Row("print-board from alone", L{"print-board", "EX", "-o", "OUT", "--from", "2"}, "--from and --to go together");
+    Row("print-board scale", L{"print-board", "EX", "-o", "OUT", "--scale", "300"},
+        "--scale must be a whole number from 50 to 200");
+    Row("print-board both orientations", L{"print-board", "EX", "-o", "OUT", "--portrait", "--landscape"},
+        "--portrait or --landscape, not both");
 }
 
 void TestCli::usageErrors()
 {
     QFETCH(QStringList, args);
     QFETCH(QString, message);
-    const QString out = rowOutput(args.value(0) == "board" ? ".png" : ".tbf");
+    const QString out = rowOutput(args.value(0) == "board" ? ".png" : args.value(0) == "print-board" ? ".pdf" : ".tbf");
     const CliRun run = RunCli(expand(args, out));
     QCOMPARE(run.code, 2);
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
@@ -252,6 +262,10 @@ void TestCli::refusedWritesNothing_data()
     Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
     Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
         "Scene 11 is not scheduled on 2027-04-06.");
+    Row("dood of an unknown category", L{"dood", "EX", "--category", "16"},
+        "There is no category 16: categories are numbered 1 to 15.");
+    Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
+        "The strips 5 to 999 are not within the board's strips 1 to 79.");
     Row("export of a missing schedule", L{"export", "@missing.tbf"}, "The file cannot be read: there is no such file.");
     Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
     Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
@@ -263,10 +277,8 @@ void TestCli::refusedWritesNothing()
     QFETCH(QStringList, args);
     QFETCH(QString, message);
     const QString first = args.value(0);
-    const QString out = rowOutput(first == "board"                            ? ".png"
-                                  : first == "report" || first == "callsheet" ? ".pdf"
-                                  : first == "export"                         ? ".csv"
-                                                                              : ".tbf");
+    const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
+    const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : first == "export" ? ".csv" : ".tbf");
     // "-o OUT" goes after the inputs, before the options.
     int inputs = 1;
     while (inputs < args.size() && !args.at(inputs).startsWith("--"))
@@ -560,6 +572,27 @@ void TestCli::checkTemplate()
     const CliRun run = RunCli({"check-template", path});
     QCOMPARE(run.code, code);
     QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
+}
+
+void TestCli::doodAndPrintBoard()
+{
+    CliRun run = RunCli(L{"dood", Example});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    const QStringList lines = run.out.split(u'\n');
+    QVERIFY(lines.at(0).startsWith(" Shooting day:,1,2,3"));
+    QVERIFY(lines.at(3).startsWith("1 - MARA QUINN,"));
+    QCOMPARE(lines.last(), QString()); // every line ends with LF
+
+    const QString csv = rowOutput(".csv");
+    run = RunCli(L{"dood", Example, "--totals", "-o", csv});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QVERIFY(ReadFileBytes(csv).split('\n').first().endsWith(",Work,Hold,Total"));
+
+    const QString pdf = rowOutput(".pdf");
+    run = RunCli(L{"print-board", Example, "-o", pdf, "--from", "5", "--to", "5", "--perforated"});
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QVERIFY(run.out.endsWith("\npage 1: strips 5-5\n"));
+    QVERIFY(ReadFileBytes(pdf).startsWith("%PDF-"));
 }
 
 // Details given are set, the others kept; info --details shows them all.

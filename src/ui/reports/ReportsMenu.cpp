@@ -6,8 +6,10 @@
 #include "scheduling/Calendar.h"
 
 #include "ui/reports/TfrmCallSheet.h"
+#include "ui/reports/TfrmDOD.h"
 #include "ui/reports/TfrmElUse.h"
 #include "ui/reports/TfrmPrintBS.h"
+#include "ui/reports/TfrmPrintIt.h"
 #include "ui/reports/TfrmShootSch.h"
 #include "ui/shell/CommandHost.h"
 #include "ui/shell/MenuActions.h"
@@ -34,6 +36,10 @@ MenuTable ReportsMenuEntries(CommandHost &host)
     sheets->boardStyle = [h] { return StyleFromSettings(h->settings()); };
     auto *elementSummary = new TfrmElUse(host.document(), host.window());
     auto *schedule = new TfrmShootSch(host.document(), host.window());
+    auto *dood = new TfrmDOD(host.document(), host.window());
+    auto *printBoard = new TfrmPrintIt(host.document(), host.settings(), host.window());
+    // Printing clears the board's selection.
+    printBoard->boardChanged = [h] { h->repaintBoard(); };
     auto *callSheet = new TfrmCallSheet(host.document(), host.window());
     callSheet->setSettings(&host.settings());
     // The call sheet needs dates: without a start date the user is asked for one first,
@@ -53,9 +59,9 @@ MenuTable ReportsMenuEntries(CommandHost &host)
     return {
         {.name = Breakdownsheets1, .caption = "&Breakdown sheets...", .handler = showDialog(sheets)},
         {.name = Callsheet1, .caption = "&Call sheet...", .handler = openCallSheet},
-        {.name = Dayoutofdays1, .caption = "&Day out of days..."},
+        {.name = Dayoutofdays1, .caption = "&Day out of days...", .handler = showDialog(dood)},
         {.name = Elementsummary1, .caption = "Element summary...", .handler = showDialog(elementSummary)},
-        {.name = Productionboard1, .caption = "&Production board..."},
+        {.name = Productionboard1, .caption = "&Production board...", .handler = showDialog(printBoard)},
         {.name = Shootingschedule1,
          .caption = "&Shooting schedule...",
          .handler = showDialog(schedule),
