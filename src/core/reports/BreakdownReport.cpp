@@ -47,17 +47,6 @@ void pushProductionHeader(TAlReport &report, const ScheduleDocument &doc)
     report.AddNamedValue(QStringLiteral("ProdField"), v.Producer);
 }
 
-QString intExtWord(const QString &intExt)
-{
-    if (intExt == QLatin1String("I"))
-        return QStringLiteral("INT");
-    if (intExt == QLatin1String("E"))
-        return QStringLiteral("EXT");
-    if (intExt == QLatin1String("I/E"))
-        return QStringLiteral("INT/EXT");
-    return intExt;
-}
-
 // The colour of a sheet's heading: its strip's colour on the board.
 QString SheetHeadingColour(const StripRecord &strip, const BoardStyle &style)
 {
@@ -216,7 +205,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
         }
         // After the values above, those of this program's sheet: INT/EXT, the cast as
         // "id - name", the heading's colour and what continues below the sheet.
-        report.AddNamedValue(QStringLiteral("IntExtField"), intExtWord(strip[StripField::IntExt]));
+        report.AddNamedValue(QStringLiteral("IntExtField"), reportdetail::IntExtWord(strip[StripField::IntExt]));
         if (!assignedRead)
             assigned = AssignedElementFlags(doc, row);
         QStringList cast;

@@ -268,7 +268,7 @@ private:
         // The columns of this program's templates: each value on its own, so a template
         // can give it a column, and no label where there is no value.
         push("SceneNoField", strip[StripField::SceneNumber]);
-        push("IntExtField", intExtWord(strip[StripField::IntExt]));
+        push("IntExtField", reportdetail::IntExtWord(strip[StripField::IntExt]));
         push("SetLocField", strip[StripField::Location].trimmed().isEmpty() ? strip[StripField::SetName]
                                                                             : strip[StripField::Location]);
         push("DNField", dayNightWord(strip[StripField::DayNight]));
@@ -285,17 +285,6 @@ private:
         m_totalPages += PageLengthOf(strip);
         m_totalDays.insert(m_options.shootingDaysOnly ? strip[StripField::ShootDayNumber] : QString::number(d));
         return Result::success();
-    }
-
-    static QString intExtWord(const QString &intExt)
-    {
-        if (intExt == QLatin1String("I"))
-            return QStringLiteral("INT");
-        if (intExt == QLatin1String("E"))
-            return QStringLiteral("EXT");
-        if (intExt == QLatin1String("I/E"))
-            return QStringLiteral("INT/EXT");
-        return intExt;
     }
 
     static QString dayNightWord(const QString &dayNight)
