@@ -47,6 +47,11 @@ int lineHeight(const QFontMetricsF &metrics)
     return int(std::ceil(metrics.lineSpacing()));
 }
 
+bool isBlank(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c == u' ' || c == u'\u00A0'; });
+}
+
 int textWidth(const QList<double> &widths)
 {
     double width = 0;
@@ -124,8 +129,16 @@ void markCut(PlacedControl &pc, const TAlLabel &label)
         if (!last && pc.widths.at(i) <= width)
             continue;
         pc.lines[i] = ElideLine(pc.lines.at(i), metrics, width, last);
-        pc.widths[i] = metrics.horizontalAdvance(pc.lines.at(i));
-        pc.glyphs[i].clear(); // shaped when drawn
+        // The shortened line is laid out once more, as any other text, so that it is
+        // drawn from its glyphs like the rest of the page.
+        const QList<TextLine> &elided = label.paragraph(pc.lines.at(i), 0.0);
+        if (elided.size() == 1) {
+            pc.widths[i] = elided.first().width;
+            pc.glyphs[i] = elided.first().glyphs;
+        } else {
+            pc.widths[i] = metrics.horizontalAdvance(pc.lines.at(i));
+            pc.glyphs[i].clear(); // shaped when drawn
+        }
         pc.cut = true;
     }
     if (pc.cut)
@@ -433,7 +446,7 @@ private:
                     pc.brush = brushOf(static_cast<const TAlShape &>(*control));
             }
             pc.rect = r;
-            placed.controls.append(pc);
+            placed.controls.append(std::move(pc));
             growth.append(std::max(0, grown));
         }
         if (expand) {
@@ -794,7 +807,9 @@ bool IsPlainLatin(const QString &text)
 {
     for (QChar c : text) {
         const char16_t u = c.unicode();
-        if (u < 0x20 || u > 0x24F)
+        // Latin letters, and the punctuation of typed scripts: dashes, curly quotes, the
+        // ellipsis of a shortened line.
+        if (u < 0x20 || (u > 0x24F && (u < 0x2010 || u > 0x2027)))
             return false;
     }
     return true;
@@ -1022,21 +1037,29 @@ class GlyphBatches
 public:
     void add(const QGlyphRun &run, const QColor &colour, const QPointF &origin)
     {
-        Batch *batch = nullptr;
         const QRawFont font = run.rawFont();
-        for (Batch &b : m_batches) {
-            if (b.colour == colour && b.font == font) {
-                batch = &b;
-                break;
+        // Runs come in long stretches of one font and colour: the last batch first.
+        if (m_last < 0 || m_batches.at(m_last).colour != colour || m_batches.at(m_last).font != font) {
+            m_last = -1;
+            for (qsizetype i = 0; i < m_batches.size(); ++i) {
+                if (m_batches.at(i).colour == colour && m_batches.at(i).font == font) {
+                    m_last = i;
+                    break;
+                }
+            }
+            if (m_last < 0) {
+                m_batches.append(Batch{font, colour, {}, {}});
+                m_last = m_batches.size() - 1;
             }
         }
-        if (!batch) {
-            m_batches.append(Batch{font, colour, {}, {}});
-            batch = &m_batches.last();
-        }
-        batch->indexes += run.glyphIndexes();
-        for (const QPointF &p : run.positions())
-            batch->positions.append(p + origin);
+        Batch &batch = m_batches[m_last];
+        batch.indexes += run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        const qsizetype start = batch.positions.size();
+        batch.positions.resize(start + positions.size());
+        QPointF *out = batch.positions.data() + start;
+        for (const QPointF &p : positions)
+            *out++ = p + origin;
     }
 
     void draw(QPainter &painter)
@@ -1050,6 +1073,7 @@ public:
             painter.drawGlyphRun(QPointF(0, 0), run);
         }
         m_batches.clear();
+        m_last = -1;
     }
 
 private:
@@ -1061,6 +1085,7 @@ private:
         QList<QPointF> positions;
     };
     QList<Batch> m_batches;
+    qsizetype m_last = -1; // the batch the last run went to
 };
 
 } // namespace
@@ -1090,26 +1115,38 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 if (pc.lines.isEmpty())
                     break;
                 const QFontMetricsF &metrics = label.metrics();
-                painter.setFont(label.outputFont);
-                painter.setPen(label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128));
+                const QColor colour = label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128);
                 const double lh = lineHeight(metrics);
                 double top = pc.rect.top();
                 // The glyphs shaped when the lines were measured. Unclipped plain text goes
                 // into the page's batches (see GlyphBatches), clipped or decorated text is
-                // drawn at once, line by line.
-                const QColor colour = painter.pen().color();
+                // drawn at once, line by line. Font and pen are set only for what is drawn at
+                // once: each change of either costs the PDF file a new text state.
                 const bool batch = !pc.clipped && !label.outputFont.underline() && !label.outputFont.strikeOut();
+                bool penSet = false;
+                auto setPen = [&] {
+                    if (penSet)
+                        return;
+                    painter.setFont(label.outputFont);
+                    painter.setPen(colour);
+                    penSet = true;
+                };
                 for (qsizetype i = 0; i < pc.lines.size(); ++i) {
                     const double left = lineLeft(pc.rect, label.Alignment, pc.widths.at(i));
                     const QList<QGlyphRun> &glyphs = pc.glyphs.value(i);
                     if (useGlyphs && !glyphs.isEmpty()) {
                         for (const QGlyphRun &run : glyphs) {
-                            if (batch)
+                            if (batch) {
                                 batches.add(run, colour, QPointF(std::round(left), top));
-                            else
+                            } else {
+                                setPen();
                                 painter.drawGlyphRun(QPointF(left, top), run);
+                            }
                         }
-                    } else if (!pc.lines.at(i).isEmpty()) {
+                    } else if (!isBlank(pc.lines.at(i))) {
+                        // Blanks have no glyphs to draw: the lines of a field that holds
+                        // only blanks are left as they are.
+                        setPen();
                         painter.drawText(QPointF(left, top + metrics.ascent()), pc.lines.at(i));
                     }
                     top += lh;
