@@ -52,11 +52,17 @@ bool isBlank(const QString &text)
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c == u' ' || c == u'\u00A0'; });
 }
 
-int textWidth(const QList<double> &widths)
+// Nothing but white space (what trimming would leave empty).
+bool isWhite(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+}
+
+int textWidth(const QList<TextLine> &lines)
 {
     double width = 0;
-    for (double w : widths)
-        width = std::max(width, w);
+    for (const TextLine &line : lines)
+        width = std::max(width, line.width);
     return int(std::ceil(width));
 }
 
@@ -93,18 +99,8 @@ QList<TAlField *> fieldsOn(const tAlBand *band)
 
 void setLines(PlacedControl &pc, const TAlLabel &label, int wrapWidth)
 {
-    const QList<TextLine> lines = BreakText(pc.text, label.outputFont, label.WordWrap ? wrapWidth : 0, &label);
-    pc.lines.clear();
-    pc.widths.clear();
-    pc.glyphs.clear();
-    pc.lines.reserve(lines.size());
-    pc.widths.reserve(lines.size());
-    pc.glyphs.reserve(lines.size());
-    for (const TextLine &line : lines) {
-        pc.lines.append(line.text);
-        pc.widths.append(line.width);
-        pc.glyphs.append(line.glyphs);
-    }
+    // Shared with the label's kept lines, not copied.
+    pc.lines = BreakText(pc.text, label.outputFont, label.WordWrap ? wrapWidth : 0, &label);
 }
 
 // A text that does not fit its place is never cut silently: the lines that fit are shown,
@@ -118,27 +114,21 @@ void markCut(PlacedControl &pc, const TAlLabel &label)
         return;
     const int room = std::max(1, (clip.bottom() + 1 - pc.rect.top()) / std::max(1, lh));
     const bool linesCut = room < pc.lines.size();
-    if (linesCut) {
+    if (linesCut)
         pc.lines.resize(room);
-        pc.widths.resize(room);
-        pc.glyphs.resize(room);
-    }
     const double width = clip.width();
     for (qsizetype i = 0; i < pc.lines.size(); ++i) {
         const bool last = linesCut && i == pc.lines.size() - 1;
-        if (!last && pc.widths.at(i) <= width)
+        if (!last && pc.lines.at(i).width <= width)
             continue;
-        pc.lines[i] = ElideLine(pc.lines.at(i), metrics, width, last);
+        const QString shortened = ElideLine(pc.lines.at(i).text, metrics, width, last);
         // The shortened line is laid out once more, as any other text, so that it is
         // drawn from its glyphs like the rest of the page.
-        const QList<TextLine> &elided = label.paragraph(pc.lines.at(i), 0.0);
-        if (elided.size() == 1) {
-            pc.widths[i] = elided.first().width;
-            pc.glyphs[i] = elided.first().glyphs;
-        } else {
-            pc.widths[i] = metrics.horizontalAdvance(pc.lines.at(i));
-            pc.glyphs[i].clear(); // shaped when drawn
-        }
+        const QList<TextLine> &elided = label.paragraph(shortened, 0.0);
+        if (elided.size() == 1)
+            pc.lines[i] = elided.first();
+        else
+            pc.lines[i] = TextLine{shortened, metrics.horizontalAdvance(shortened), {}}; // shaped when drawn
         pc.cut = true;
     }
     if (pc.cut)
@@ -278,16 +268,16 @@ private:
                         static_cast<const TAlSysField *>(pc.control)->DataType != tAlSysDataType::alr_PageOfPages)
                         continue;
                     const auto &label = static_cast<const TAlLabel &>(*pc.control);
-                    const int oldWidth = textWidth(pc.widths);
+                    const int oldWidth = textWidth(pc.lines);
                     pc.text = pageOfPages(p + 1, total);
                     setLines(pc, label, pc.rect.width());
                     if (label.AutoSize && !label.WordWrap) {
-                        const int grow = textWidth(pc.widths) - oldWidth;
+                        const int grow = textWidth(pc.lines) - oldWidth;
                         if (label.Alignment == TAlignment::taRightJustify)
                             pc.rect.setLeft(pc.rect.left() - grow);
                         else if (label.Alignment == TAlignment::taCenter)
                             pc.rect.setLeft(pc.rect.left() - grow / 2);
-                        pc.rect.setWidth(textWidth(pc.widths));
+                        pc.rect.setWidth(textWidth(pc.lines));
                     }
                 }
             }
@@ -426,7 +416,7 @@ private:
                 const int textHeight = int(pc.lines.size()) * lh;
                 if (label.AutoSize) {
                     if (!label.WordWrap) {
-                        const int w = textWidth(pc.widths);
+                        const int w = textWidth(pc.lines);
                         if (label.Alignment == TAlignment::taRightJustify)
                             r.setLeft(r.left() + r.width() - w);
                         else if (label.Alignment == TAlignment::taCenter)
@@ -502,7 +492,7 @@ private:
                 if (isLabel(pc.control)) {
                     const auto &label = static_cast<const TAlLabel &>(*pc.control);
                     const QFontMetricsF &metrics = label.metrics();
-                    const int w = textWidth(pc.widths);
+                    const int w = textWidth(pc.lines);
                     const int left = int(std::floor(lineLeft(pc.rect, label.Alignment, w)));
                     extent = QRect(left, pc.rect.top(), w, int(pc.lines.size()) * lineHeight(metrics));
                     if (!label.Transparent)
@@ -956,9 +946,9 @@ QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, con
 QList<TextLine> BreakText(const QString &text, const QFont &font, double width, const TAlLabel *label)
 {
     // One paragraph (most texts): its kept lines as they are, shared rather than copied.
-    if (!text.isEmpty() && !text.contains(u'\r') && !text.contains(u'\n')) {
+    if (!text.isEmpty() && !std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c == u'\r' || c == u'\n'; })) {
         QList<TextLine> lines = label ? label->paragraph(text, width) : LayOutParagraph(text, font, width);
-        while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+        while (!lines.isEmpty() && isWhite(lines.last().text))
             lines.removeLast();
         return lines;
     }
@@ -987,7 +977,7 @@ QList<TextLine> BreakText(const QString &text, const QFont &font, double width, 
     if (begin < n)
         flush(text.mid(begin));
     // Blank lines at the end take no room.
-    while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+    while (!lines.isEmpty() && isWhite(lines.last().text))
         lines.removeLast();
     return lines;
 }
@@ -1131,9 +1121,9 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                     painter.setPen(colour);
                     penSet = true;
                 };
-                for (qsizetype i = 0; i < pc.lines.size(); ++i) {
-                    const double left = lineLeft(pc.rect, label.Alignment, pc.widths.at(i));
-                    const QList<QGlyphRun> &glyphs = pc.glyphs.value(i);
+                for (const TextLine &line : pc.lines) {
+                    const double left = lineLeft(pc.rect, label.Alignment, line.width);
+                    const QList<QGlyphRun> &glyphs = line.glyphs;
                     if (useGlyphs && !glyphs.isEmpty()) {
                         for (const QGlyphRun &run : glyphs) {
                             if (batch) {
@@ -1143,11 +1133,11 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                                 painter.drawGlyphRun(QPointF(left, top), run);
                             }
                         }
-                    } else if (!isBlank(pc.lines.at(i))) {
+                    } else if (!isBlank(line.text)) {
                         // Blanks have no glyphs to draw: the lines of a field that holds
                         // only blanks are left as they are.
                         setPen();
-                        painter.drawText(QPointF(left, top + metrics.ascent()), pc.lines.at(i));
+                        painter.drawText(QPointF(left, top + metrics.ascent()), line.text);
                     }
                     top += lh;
                 }

@@ -397,7 +397,7 @@ void TestAlLayout::clipModes()
     // Never cut silently: the line that fits ends in an ellipsis.
     QCOMPARE(c->lines.size(), 1);
     QVERIFY(c->cut);
-    QVERIFY(c->lines.first().endsWith(QChar(0x2026)));
+    QVERIFY(c->lines.first().text.endsWith(QChar(0x2026)));
     QVERIFY(c->clipped);
     QCOMPARE(c->clip, c->rect);
     const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
