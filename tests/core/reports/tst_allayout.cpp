@@ -457,7 +457,8 @@ void TestAlLayout::grownTextPushesDownWhatIsBelow()
     report.AddNamedValue("Top", "one\rtwo\rthree");
     report.AddNamedValue("Below", "under");
     report.AddNamedValue("Beside", "beside");
-    const PlacedBand &b = LayOutReport(report, pageOf(10000)).pages[0].bands[0];
+    const ReportLayout layout = LayOutReport(report, pageOf(10000)); // b points into it
+    const PlacedBand &b = layout.pages[0].bands[0];
     const int lh = int(std::ceil(static_cast<const TAlLabel *>(form->find("Top"))->metrics().lineSpacing()));
     const int grown = 3 * lh - ScaleToOutput(14, 1200, 96);
     // The field below moves down by what the one above grew; the one beside stays.
