@@ -13,7 +13,7 @@ function(tb_add_test name)
     target_compile_definitions(${name} PRIVATE
         TB_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
         TB_IMPORT_DATA="${PROJECT_SOURCE_DIR}/tests/core/import/data"
-        TB_SCREENPLAYS_DIR="${PROJECT_SOURCE_DIR}/../shared/screenplays")
+        TB_SCREENPLAYS_DIR="${PROJECT_SOURCE_DIR}/tests/core/import/data/screenplays")
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()

@@ -50,7 +50,7 @@ summary=()
 for target in "${targets[@]}"; do
     case $target in
     fuzz_schedule) seed "$target" examples/*.tbf tests/malformed/schedule ;;
-    fuzz_textimport) seed "$target" ../shared/screenplays/*.txt tests/malformed/script ;;
+    fuzz_textimport) seed "$target" tests/core/import/data/screenplays/*.txt tests/malformed/script ;;
     fuzz_fountain) seed "$target" tests/core/import/data/*.fountain ;;
     fuzz_fdx) seed "$target" tests/core/import/data/*.fdx ;;
     fuzz_finaldraft)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs every whole-document command of torvanbridge-cli on the example schedule, on
-# generated schedules and on the shared screenplays, and writes one line per output
+# generated schedules and on the sample screenplays, and writes one line per output
 # (its name and a checksum) to a manifest. Two manifests that compare equal mean the
 # commands gave the same bytes.
 #
@@ -17,7 +17,7 @@ check=""
 [ "${3:-}" = "--check" ] && check=$(realpath "$4")
 
 top=$(cd "$(dirname "$0")/.." && pwd)
-shared="$top/../shared/screenplays"
+screenplays_dir="$top/tests/core/import/data/screenplays"
 data="$top/tests/core/import/data"
 
 rm -rf "$out"
@@ -46,14 +46,12 @@ run resave-gen2 resave raw-gen2.tbf -o gen2.tbf
 run resave-example resave example.tbf -o resaved.tbf
 cp gen1.tbf gen2.tbf resaved.tbf "$out/outputs/"
 docs="example gen1 gen2"
-if [ -d "$shared" ]; then
-    for s in "$shared"/*.txt; do
-        b=$(basename "$s" .txt)
-        run "import-text-$b" import-text "$s" -o "import-$b.tbf"
-        cp "import-$b.tbf" "$out/outputs/" 2>/dev/null
-        docs="$docs import-$b"
-    done
-fi
+for s in "$screenplays_dir"/*.txt; do
+    b=$(basename "$s" .txt)
+    run "import-text-$b" import-text "$s" -o "import-$b.tbf"
+    cp "import-$b.tbf" "$out/outputs/" 2>/dev/null
+    docs="$docs import-$b"
+done
 run import-fd import-fd "$data/fd-scene-report.txt" "$data/fd-script-report.txt" -o import-fd.tbf
 cp import-fd.tbf "$out/outputs/" 2>/dev/null
 docs="$docs import-fd"
@@ -61,13 +59,11 @@ docs="$docs import-fd"
 # Screenplay imports: the text import's review, Fountain and Final Draft scripts. Their
 # schedules are recorded with their summary and board, not run through every command.
 screenplays=""
-if [ -d "$shared" ]; then
-    for s in "$shared"/*.txt; do
-        b=$(basename "$s" .txt)
-        run "import-text-review-$b" import-text "$s" -o "import-review-$b.tbf" --review auto
-        screenplays="$screenplays import-review-$b"
-    done
-fi
+for s in "$screenplays_dir"/*.txt; do
+    b=$(basename "$s" .txt)
+    run "import-text-review-$b" import-text "$s" -o "import-review-$b.tbf" --review auto
+    screenplays="$screenplays import-review-$b"
+done
 for s in "$data"/*.fountain; do
     b=$(basename "$s" .fountain)
     run "import-fountain-$b" import-fountain "$s" -o "fountain-$b.tbf"
