@@ -7,13 +7,6 @@
 
 namespace tb::test {
 
-// One data row on one line: QTest::newRow(tag) << values...
-template <typename... T>
-void Row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
 // The descriptions of all elements, in order.
 inline QStringList Cast(const ScheduleDocument &doc)
 {

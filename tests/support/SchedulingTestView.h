@@ -65,13 +65,6 @@ inline void Build(ScheduleDocument &doc, const QStringList &strips)
     SetModified(doc);
 }
 
-// One data row on one line: QTest::newRow(tag) << values...
-template <typename... T>
-void Row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
 inline const QString FridayMarch6 = QStringLiteral("46087"); // Fri, March 6, 2026
 
 } // namespace tb::test

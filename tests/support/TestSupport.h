@@ -72,6 +72,13 @@ int AddDivider(ScheduleDocument &doc);
 int AddBanner(ScheduleDocument &doc, const QString &text, int days = 0);
 int AddElement(ScheduleDocument &doc, const QString &description, int category = 1, const QString &boardId = {});
 
+// One data row on one line: Row(tag, values...) is QTest::newRow(tag) << values...
+template <typename... T>
+void Row(const char *tag, const T &...values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
 // The kinds of all strips joined, e.g. "1 1 2 3 1".
 QString Kinds(const ScheduleDocument &doc);
 
