@@ -277,11 +277,12 @@ private Q_SLOTS:
                                                   << "Error opening file.";
         QTest::newRow("strip count huge") << with(21, "99999999999") << open << "line 22 should hold a number"
                                           << "Error opening file.";
-        QTest::newRow("strip count past capacity") << with(21, "1001") << open
-            << "The file holds 1001 strips; a schedule can hold at most 1000 strips."
-                                                   << "Error opening file.";
-        QTest::newRow("element count negative") << with(22, "-1") << open << "Line 23 gives -1 as the number of elements."
-                                                << "Error opening file.";
+        QTest::newRow("strip count past capacity")
+            << with(21, "1001") << open << "The file holds 1001 strips; a schedule can hold at most 1000 strips."
+            << "Error opening file.";
+        QTest::newRow("element count negative")
+            << with(22, "-1") << open << "Line 23 gives -1 as the number of elements."
+            << "Error opening file.";
         QTest::newRow("strip count too large for the file")
             << with(21, "2") << open << "The file is cut short: it ends at line"
             << "Error opening file.";
