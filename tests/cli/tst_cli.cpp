@@ -472,15 +472,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
         const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
-        QTest::newRow("fields checked") << head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
-                                                  "    object Extra: TAlField\n    end\n  end\nend\n"
-                                        << 0 << "lacks DayField";
-        QTest::newRow("unfilled field") << head +
-                                               "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
-                                        << 0 << "field Extra receives no value from the report";
-        QTest::newRow("mistake with line and cause")
-            << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
-            << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
+        Row("fields checked",
+            head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
+                   "    object Extra: TAlField\n    end\n  end\nend\n",
+            0, "lacks DayField");
+        Row("unfilled field", head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n", 0,
+            "field Extra receives no value from the report");
+        Row("mistake with line and cause", head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n", 1,
+            "ShootSch1.dfm, line 5: expected one of alr_Title");
     }
     void checkTemplate()
     {

@@ -75,7 +75,7 @@ private slots:
             QCOMPARE(parts.size(), 3);
             QString text = parts[2];
             text.replace(QLatin1String("\\r"), QLatin1String("\r")).replace(QLatin1String("\\n"), QLatin1String("\n"));
-            QTest::newRow(qPrintable(parts[0])) << parts[0] << parts[1].toInt() << text;
+            Row(qPrintable(parts[0]), parts[0], parts[1].toInt(), text);
             ++rows;
         }
         QVERIFY(rows >= 50);

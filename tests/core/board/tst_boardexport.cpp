@@ -83,12 +83,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<int>("format"); // -1 none
-        QTest::newRow("csv") << "/tmp/a.csv" << int(BoardExportFormat::Spreadsheet);
-        QTest::newRow("CSV") << "b.CSV" << int(BoardExportFormat::Spreadsheet);
-        QTest::newRow("html") << "c.html" << int(BoardExportFormat::Html);
-        QTest::newRow("htm") << "d.Htm" << int(BoardExportFormat::Html);
-        QTest::newRow("pdf") << "e.pdf" << -1;
-        QTest::newRow("no extension") << "csv" << -1;
+        Row("csv", "/tmp/a.csv", int(BoardExportFormat::Spreadsheet));
+        Row("CSV", "b.CSV", int(BoardExportFormat::Spreadsheet));
+        Row("html", "c.html", int(BoardExportFormat::Html));
+        Row("htm", "d.Htm", int(BoardExportFormat::Html));
+        Row("pdf", "e.pdf", -1);
+        Row("no extension", "csv", -1);
     }
     void formatOfName()
     {

@@ -36,20 +36,17 @@ private Q_SLOTS:
         QTest::addColumn<int>("newEnd");
         QTest::addColumn<QString>("label"); // blank: nothing moved, no undo level
 
-        QTest::newRow("3..5 before 9") << 3 << 5 << 9 << "1 2 6 7 8 3 4 5 9 10 11 12" << 6 << 8 << "Move strips";
-        QTest::newRow("3..5 past the end") << 3 << 5 << 13 << "1 2 6 7 8 9 10 11 12 3 4 5" << 10 << 12 << "Move strips";
-        QTest::newRow("8..9 before 2") << 8 << 9 << 2 << "1 8 9 2 3 4 5 6 7 10 11 12" << 2 << 3 << "Move strips";
-        QTest::newRow("one strip to the front")
-            << 7 << 7 << 1 << "7 1 2 3 4 5 6 8 9 10 11 12" << 1 << 1 << "Move strip";
-        QTest::newRow("drop inside") << 3 << 5 << 4 << "1 2 3 4 5 6 7 8 9 10 11 12" << 3 << 5 << "";
-        QTest::newRow("drop on the first") << 3 << 5 << 3 << "1 2 3 4 5 6 7 8 9 10 11 12" << 3 << 5 << "";
+        Row("3..5 before 9", 3, 5, 9, "1 2 6 7 8 3 4 5 9 10 11 12", 6, 8, "Move strips");
+        Row("3..5 past the end", 3, 5, 13, "1 2 6 7 8 9 10 11 12 3 4 5", 10, 12, "Move strips");
+        Row("8..9 before 2", 8, 9, 2, "1 8 9 2 3 4 5 6 7 10 11 12", 2, 3, "Move strips");
+        Row("one strip to the front", 7, 7, 1, "7 1 2 3 4 5 6 8 9 10 11 12", 1, 1, "Move strip");
+        Row("drop inside", 3, 5, 4, "1 2 3 4 5 6 7 8 9 10 11 12", 3, 5, "");
+        Row("drop on the first", 3, 5, 3, "1 2 3 4 5 6 7 8 9 10 11 12", 3, 5, "");
         // Right after the selection is outside it: the strips go back where they were,
         // and the move is still a move (with its undo level).
-        QTest::newRow("drop just after") << 3 << 5 << 6 << "1 2 3 4 5 6 7 8 9 10 11 12" << 3 << 5 << "Move strips";
-        QTest::newRow("nothing on the board selected")
-            << 14 << 14 << 2 << "1 2 3 4 5 6 7 8 9 10 11 12" << 14 << 14 << "";
-        QTest::newRow("selection runs past the end")
-            << 11 << 15 << 1 << "11 12 1 2 3 4 5 6 7 8 9 10" << 1 << 2 << "Move strips";
+        Row("drop just after", 3, 5, 6, "1 2 3 4 5 6 7 8 9 10 11 12", 3, 5, "Move strips");
+        Row("nothing on the board selected", 14, 14, 2, "1 2 3 4 5 6 7 8 9 10 11 12", 14, 14, "");
+        Row("selection runs past the end", 11, 15, 1, "11 12 1 2 3 4 5 6 7 8 9 10", 1, 2, "Move strips");
     }
     void moveStrips()
     {

@@ -66,11 +66,11 @@ private Q_SLOTS:
         QTest::addColumn<bool>("perforated");
         QTest::addColumn<bool>("everyHeader");
 
-        QTest::newRow("one strip") << 7 << 7 << false << false;
-        QTest::newRow("all, plain") << 1 << -1 << false << false;
-        QTest::newRow("all, header on every page") << 1 << -1 << false << true;
-        QTest::newRow("all, perforated") << 1 << -1 << true << false;
-        QTest::newRow("range") << 10 << 50 << true << false;
+        Row("one strip", 7, 7, false, false);
+        Row("all, plain", 1, -1, false, false);
+        Row("all, header on every page", 1, -1, false, true);
+        Row("all, perforated", 1, -1, true, false);
+        Row("range", 10, 50, true, false);
     }
     void pages()
     {
@@ -115,8 +115,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("perforated");
         QTest::addColumn<double>("after");
-        QTest::newRow("plain keeps 150 %") << false << 1.5;
-        QTest::newRow("perforated resets to 100 %") << true << 1.0;
+        Row("plain keeps 150 %", false, 1.5);
+        Row("perforated resets to 100 %", true, 1.0);
     }
     void overallScale()
     {

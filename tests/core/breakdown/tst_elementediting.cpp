@@ -39,12 +39,12 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("categories");
         QTest::addColumn<QStringList>("ids");
         QTest::addColumn<int>("highest");
-        QTest::newRow("empty table") << QStringList() << QStringList() << 0;
-        QTest::newRow("gaps") << QStringList{"1", "1", "1"} << QStringList{"1", "2", "7"} << 7;
-        QTest::newRow("letters count as 0") << QStringList{"1", "1"} << QStringList{"A", "3"} << 3;
-        QTest::newRow("only letters") << QStringList{"1"} << QStringList{"A"} << 0;
-        QTest::newRow("other categories ignored") << QStringList{"5", "1"} << QStringList{"99", "2"} << 2;
-        QTest::newRow("bad category ignored") << QStringList{"x", "1"} << QStringList{"50", "4"} << 4;
+        Row("empty table", QStringList(), QStringList(), 0);
+        Row("gaps", QStringList{"1", "1", "1"}, QStringList{"1", "2", "7"}, 7);
+        Row("letters count as 0", QStringList{"1", "1"}, QStringList{"A", "3"}, 3);
+        Row("only letters", QStringList{"1"}, QStringList{"A"}, 0);
+        Row("other categories ignored", QStringList{"5", "1"}, QStringList{"99", "2"}, 2);
+        Row("bad category ignored", QStringList{"x", "1"}, QStringList{"50", "4"}, 4);
     }
 
     void highestCast()
@@ -125,15 +125,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("description");
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("message");
-        QTest::newRow("no description")
-            << ""
-            << "1"
-            << "You need to enter a description for the element, or else click Cancel if you "
-               "do not wish to change anything.";
-        QTest::newRow("no id") << "Anna"
-                               << ""
-                               << "You need to enter an identifier for the element, or else click Cancel if you do not "
-                                  "wish to change anything.";
+        Row("no description", "", "1",
+            "You need to enter a description for the element, or else click Cancel if you "
+            "do not wish to change anything.");
+        Row("no id", "Anna", "",
+            "You need to enter an identifier for the element, or else click Cancel if you do not "
+            "wish to change anything.");
     }
 
     void validation()
@@ -215,11 +212,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("editIndex");
         QTest::addColumn<QString>("id");
         QTest::addColumn<bool>("duplicate");
-        QTest::newRow("new cast with a used number") << -1 << "3" << true;
-        QTest::newRow("the prop itself asks too") << 4 << "3" << true;
-        QTest::newRow("the cast member itself") << 2 << "3" << false;
-        QTest::newRow("a prop code is no cast ID") << -1 << "Prp" << false;
-        QTest::newRow("free number") << -1 << "9" << false;
+        Row("new cast with a used number", -1, "3", true);
+        Row("the prop itself asks too", 4, "3", true);
+        Row("the cast member itself", 2, "3", false);
+        Row("a prop code is no cast ID", -1, "Prp", false);
+        Row("free number", -1, "9", false);
     }
 
     void duplicateCastId()

@@ -66,15 +66,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<int>("source");
         QTest::addColumn<QString>("message"); // blank: loaded
-        QTest::newRow("JPEG") << "logo.jpg" << int(LogoSource::Chosen) << "";
-        QTest::newRow("PNG") << "logo.png" << int(LogoSource::Stored) << "";
-        QTest::newRow("bitmap") << "logo.bmp" << int(LogoSource::Chosen) << "";
-        QTest::newRow("broken link")
-            << "moved.png" << int(LogoSource::Stored)
-            << "Error opening logo image file. The link to the file might have been broken - try "
-               "re-loading it.";
-        QTest::newRow("not a picture") << "text.jpg" << int(LogoSource::Chosen)
-                                       << "Error opening logo image file. Make sure this is a valid graphic file.";
+        Row("JPEG", "logo.jpg", int(LogoSource::Chosen), "");
+        Row("PNG", "logo.png", int(LogoSource::Stored), "");
+        Row("bitmap", "logo.bmp", int(LogoSource::Chosen), "");
+        Row("broken link", "moved.png", int(LogoSource::Stored),
+            "Error opening logo image file. The link to the file might have been broken - try "
+            "re-loading it.");
+        Row("not a picture", "text.jpg", int(LogoSource::Chosen),
+            "Error opening logo image file. Make sure this is a valid graphic file.");
     }
 
     void logo()

@@ -68,19 +68,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("lines");
         QTest::addColumn<int>("whole");
         QTest::addColumn<int>("eighths");
-        QTest::newRow("one eighth") << "0.125" << 56 << 0 << 1;
-        QTest::newRow("whole pages") << "2" << 56 << 2 << 0;
-        QTest::newRow("half") << "0.5" << 56 << 0 << 4;
-        QTest::newRow("eight eighths clamp to seven") << "1.95" << 56 << 1 << 7;
+        Row("one eighth", "0.125", 56, 0, 1);
+        Row("whole pages", "2", 56, 2, 0);
+        Row("half", "0.5", 56, 0, 4);
+        Row("eight eighths clamp to seven", "1.95", 56, 1, 7);
         // 0.06 of a page is under half an eighth but more than three lines of 56.
-        QTest::newRow("a few lines show one eighth") << "2.06" << 56 << 2 << 1;
+        Row("a few lines show one eighth", "2.06", 56, 2, 1);
         // 0.05 of a page is 2.8 lines of 56: under three lines, so no eighth.
-        QTest::newRow("under three lines") << "2.05" << 56 << 2 << 0;
-        QTest::newRow("over three lines of 100") << "1.04" << 100 << 1 << 1;
-        QTest::newRow("half an eighth rounds to even") << "0.0625" << 10 << 0 << 0;
-        QTest::newRow("not a number") << "abc" << 56 << 0 << 1;
-        QTest::newRow("comma decimal of old files") << "1,375" << 56 << 1 << 3;
-        QTest::newRow("more than the box holds") << "12.5" << 56 << 9 << 4;
+        Row("under three lines", "2.05", 56, 2, 0);
+        Row("over three lines of 100", "1.04", 100, 1, 1);
+        Row("half an eighth rounds to even", "0.0625", 10, 0, 0);
+        Row("not a number", "abc", 56, 0, 1);
+        Row("comma decimal of old files", "1,375", 56, 1, 3);
+        Row("more than the box holds", "12.5", 56, 9, 4);
     }
     void lengthToSpins()
     {
@@ -96,10 +96,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("whole");
         QTest::addColumn<int>("eighths");
         QTest::addColumn<QString>("text");
-        QTest::newRow("eighth") << 0 << 1 << "0.125";
-        QTest::newRow("mixed") << 1 << 3 << "1.375";
-        QTest::newRow("whole") << 2 << 0 << "2";
-        QTest::newRow("half") << 0 << 4 << "0.5";
+        Row("eighth", 0, 1, "0.125");
+        Row("mixed", 1, 3, "1.375");
+        Row("whole", 2, 0, "2");
+        Row("half", 0, 4, "0.5");
     }
     void spinsToLength()
     {
@@ -229,10 +229,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("strips");
         QTest::addColumn<QString>("label");
         QTest::addColumn<int>("scroll");
-        QTest::newRow("add, long board") << int(SceneMode::Add) << 9 << "add new scene" << 5;
-        QTest::newRow("add, short board") << int(SceneMode::Add) << 2 << "add new scene" << 3;
-        QTest::newRow("insert") << int(SceneMode::Insert) << 9 << "add new scene" << -1;
-        QTest::newRow("edit") << int(SceneMode::Edit) << 9 << "edit scene" << -1;
+        Row("add, long board", int(SceneMode::Add), 9, "add new scene", 5);
+        Row("add, short board", int(SceneMode::Add), 2, "add new scene", 3);
+        Row("insert", int(SceneMode::Insert), 9, "add new scene", -1);
+        Row("edit", int(SceneMode::Edit), 9, "edit scene", -1);
     }
     void okLabelsAndScroll()
     {
@@ -326,12 +326,12 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<bool>("found");
         QTest::addColumn<bool>("atLimit");
-        QTest::newRow("next scene") << "SSDS" << 1 << 1 << 2 << true << false;
-        QTest::newRow("over a divider") << "SSDS" << 2 << 1 << 4 << true << true;
-        QTest::newRow("only dividers follow") << "SSDSDD" << 4 << 1 << 6 << false << true;
-        QTest::newRow("previous over a banner") << "SBSS" << 3 << -1 << 1 << true << true;
-        QTest::newRow("previous in the middle") << "SSBS" << 4 << -1 << 2 << true << false;
-        QTest::newRow("previous runs off") << "DBSS" << 3 << -1 << 1 << false << true;
+        Row("next scene", "SSDS", 1, 1, 2, true, false);
+        Row("over a divider", "SSDS", 2, 1, 4, true, true);
+        Row("only dividers follow", "SSDSDD", 4, 1, 6, false, true);
+        Row("previous over a banner", "SBSS", 3, -1, 1, true, true);
+        Row("previous in the middle", "SSBS", 4, -1, 2, true, false);
+        Row("previous runs off", "DBSS", 3, -1, 1, false, true);
     }
     void stepToScene()
     {
@@ -364,11 +364,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("lines");
-        QTest::newRow("empty") << "" << QStringList();
-        QTest::newRow("one") << "a b" << QStringList{"a b"};
-        QTest::newRow("final break") << "a\nb\n" << QStringList{"a", "b"};
-        QTest::newRow("inner empty line") << "a\n\nb" << QStringList{"a", "", "b"};
-        QTest::newRow("carriage returns") << "a\r\nb" << QStringList{"a", "b"};
+        Row("empty", "", QStringList());
+        Row("one", "a b", QStringList{"a b"});
+        Row("final break", "a\nb\n", QStringList{"a", "b"});
+        Row("inner empty line", "a\n\nb", QStringList{"a", "", "b"});
+        Row("carriage returns", "a\r\nb", QStringList{"a", "b"});
     }
     void memoLines()
     {

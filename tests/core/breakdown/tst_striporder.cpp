@@ -105,13 +105,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("column");
         QTest::addColumn<QStringList>("values");
         QTest::addColumn<QString>("sorted");
-        QTest::newRow("scene numbers are numbers") << SortColumn::Scene << QStringList{"10", "2", "1"} << "1 2 10";
-        QTest::newRow("12A sorts with 12, board order kept")
-            << SortColumn::Scene << QStringList{"12A", "3", "12", "A"} << "A 3 12A 12";
-        QTest::newRow("locale order of text")
-            << SortColumn::Location << QStringList{"Zoo", "bar", "Apple"} << "Apple bar Zoo";
-        QTest::newRow("case counts") << SortColumn::Location << QStringList{"Bar", "bar"} << "bar Bar";
-        QTest::newRow("equal text keeps order") << SortColumn::Synopsis << QStringList{"x", "", "x"} << " x x";
+        Row("scene numbers are numbers", SortColumn::Scene, QStringList{"10", "2", "1"}, "1 2 10");
+        Row("12A sorts with 12, board order kept", SortColumn::Scene, QStringList{"12A", "3", "12", "A"}, "A 3 12A 12");
+        Row("locale order of text", SortColumn::Location, QStringList{"Zoo", "bar", "Apple"}, "Apple bar Zoo");
+        Row("case counts", SortColumn::Location, QStringList{"Bar", "bar"}, "bar Bar");
+        Row("equal text keeps order", SortColumn::Synopsis, QStringList{"x", "", "x"}, " x x");
     }
 
     void sortByColumn()
@@ -164,8 +162,8 @@ private Q_SLOTS:
     void sortDeletesDividersWhateverTheAnswer_data()
     {
         QTest::addColumn<Answer>("answer");
-        QTest::newRow("Yes") << Answer::Yes;
-        QTest::newRow("Abort") << Answer::Abort;
+        Row("Yes", Answer::Yes);
+        Row("Abort", Answer::Abort);
     }
 
     void sortDeletesDividersWhateverTheAnswer()

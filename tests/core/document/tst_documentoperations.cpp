@@ -21,33 +21,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("list");
         QTest::addColumn<QList<int>>("elements");
         QTest::addColumn<QString>("expected"); // the list after, or whether assigned
-        QTest::newRow("add to blank") << "add"
-                                      << "" << QList<int>{7} << "7";
-        QTest::newRow("add appends in order") << "add"
-                                              << "3,12" << QList<int>{7} << "3,12,7";
+        Row("add to blank", "add", "", QList<int>{7}, "7");
+        Row("add appends in order", "add", "3,12", QList<int>{7}, "3,12,7");
         // Only three-digit numbers are found by the padded duplicate test.
-        QTest::newRow("add small twice duplicates") << "add"
-                                                    << "3" << QList<int>{7, 7} << "3,7,7";
-        QTest::newRow("add three digits twice once") << "add"
-                                                     << "3" << QList<int>{120, 120} << "3,120";
-        QTest::newRow("add padded match inside longer") << "add"
-                                                        << "1120" << QList<int>{120} << "1120";
-        QTest::newRow("is in blank") << "is"
-                                     << "" << QList<int>{1} << "false";
-        QTest::newRow("is whole numbers not digits") << "is"
-                                                     << "3,12" << QList<int>{1} << "false";
-        QTest::newRow("is found last") << "is"
-                                       << "3,12" << QList<int>{12} << "true";
-        QTest::newRow("is quoted item") << "is"
-                                        << "\"5\",6" << QList<int>{5} << "true";
-        QTest::newRow("remove every entry") << "remove"
-                                            << "7,3,7" << QList<int>{7} << "3";
-        QTest::newRow("remove neighbours of the same number") << "remove"
-                                                              << "7,7,7" << QList<int>{7} << "";
-        QTest::newRow("remove absent") << "remove"
-                                       << "1,2" << QList<int>{9} << "1,2";
-        QTest::newRow("remove from blank") << "remove"
-                                           << "" << QList<int>{9} << "";
+        Row("add small twice duplicates", "add", "3", QList<int>{7, 7}, "3,7,7");
+        Row("add three digits twice once", "add", "3", QList<int>{120, 120}, "3,120");
+        Row("add padded match inside longer", "add", "1120", QList<int>{120}, "1120");
+        Row("is in blank", "is", "", QList<int>{1}, "false");
+        Row("is whole numbers not digits", "is", "3,12", QList<int>{1}, "false");
+        Row("is found last", "is", "3,12", QList<int>{12}, "true");
+        Row("is quoted item", "is", "\"5\",6", QList<int>{5}, "true");
+        Row("remove every entry", "remove", "7,3,7", QList<int>{7}, "3");
+        Row("remove neighbours of the same number", "remove", "7,7,7", QList<int>{7}, "");
+        Row("remove absent", "remove", "1,2", QList<int>{9}, "1,2");
+        Row("remove from blank", "remove", "", QList<int>{9}, "");
     }
 
     void assignments()
@@ -105,17 +92,17 @@ private Q_SLOTS:
         QTest::addColumn<QList<int>>("numbers");
         QTest::addColumn<bool>("unreadable");
         using N = QList<int>;
-        QTest::newRow("blank") << "" << false << false << N{} << false;
-        QTest::newRow("ends at a bad item") << "3,x,7" << false << false << N{3} << true;
-        QTest::newRow("skips a bad item") << "3,x,7" << false << true << N{3, 7} << true;
-        QTest::newRow("empty item") << "3,,7" << false << false << N{3} << true;
-        QTest::newRow("trailing comma") << "7," << false << false << N{7} << true;
-        QTest::newRow("blank separates") << "3 7" << false << false << N{3, 7} << false;
-        QTest::newRow("quoted item") << "\"5\",6" << false << false << N{5, 6} << false;
-        QTest::newRow("board: blank inside") << "3 7,8" << true << true << N{8} << true;
-        QTest::newRow("board: leading blank") << " 7,8" << true << true << N{7, 8} << false;
-        QTest::newRow("board: quoted item") << "\"5\",6" << true << true << N{6} << true;
-        QTest::newRow("duplicates kept") << "7,7" << true << true << N{7, 7} << false;
+        Row("blank", "", false, false, N{}, false);
+        Row("ends at a bad item", "3,x,7", false, false, N{3}, true);
+        Row("skips a bad item", "3,x,7", false, true, N{3, 7}, true);
+        Row("empty item", "3,,7", false, false, N{3}, true);
+        Row("trailing comma", "7,", false, false, N{7}, true);
+        Row("blank separates", "3 7", false, false, N{3, 7}, false);
+        Row("quoted item", "\"5\",6", false, false, N{5, 6}, false);
+        Row("board: blank inside", "3 7,8", true, true, N{8}, true);
+        Row("board: leading blank", " 7,8", true, true, N{7, 8}, false);
+        Row("board: quoted item", "\"5\",6", true, true, N{6}, true);
+        Row("duplicates kept", "7,7", true, true, N{7, 7}, false);
     }
 
     void readAssignmentList()
@@ -134,15 +121,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<double>("pages");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("zero") << 0.0 << "";
-        QTest::newRow("half is 4/8") << 0.5 << "4/8";
-        QTest::newRow("whole and eighths") << 1.375 << "1 3/8";
-        QTest::newRow("whole") << 2.0 << "2";
-        QTest::newRow("almost one") << 0.9999 << "1";
-        QTest::newRow("half an eighth rounds to even 0") << 0.0625 << "";
-        QTest::newRow("one and a half eighths rounds to 2") << 0.1875 << "2/8";
-        QTest::newRow("many pages") << 123.875 << "123 7/8";
-        QTest::newRow("7 and a half eighths carries") << 3.9375 << "4";
+        Row("zero", 0.0, "");
+        Row("half is 4/8", 0.5, "4/8");
+        Row("whole and eighths", 1.375, "1 3/8");
+        Row("whole", 2.0, "2");
+        Row("almost one", 0.9999, "1");
+        Row("half an eighth rounds to even 0", 0.0625, "");
+        Row("one and a half eighths rounds to 2", 0.1875, "2/8");
+        Row("many pages", 123.875, "123 7/8");
+        Row("7 and a half eighths carries", 3.9375, "4");
     }
 
     void formatPageLength()

@@ -7,6 +7,7 @@
 #include <QTest>
 
 using namespace tb;
+using tb::test::Row;
 
 namespace {
 
@@ -49,16 +50,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("roff");
-        QTest::newRow("options") << "use --all"
-                                 << "use \\-\\-all";
-        QTest::newRow("backslash") << "C:\\temp"
-                                   << "C:\\etemp";
-        QTest::newRow("leading dot") << ".tbf files"
-                                     << "\\&.tbf files";
-        QTest::newRow("leading quote") << "'quoted'"
-                                       << "\\&'quoted'";
-        QTest::newRow("second line") << "one\n.two"
-                                     << "one\n.br\n\\&.two";
+        Row("options", "use --all", "use \\-\\-all");
+        Row("backslash", "C:\\temp", "C:\\etemp");
+        Row("leading dot", ".tbf files", "\\&.tbf files");
+        Row("leading quote", "'quoted'", "\\&'quoted'");
+        Row("second line", "one\n.two", "one\n.br\n\\&.two");
     }
     void manPageEscapes()
     {

@@ -109,7 +109,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("ascii");
         for (quint32 seed : {1u, 2u, 3u, 4u})
             QTest::addRow("seed %u", seed) << seed << false;
-        QTest::newRow("ascii only") << 9u << true;
+        Row("ascii only", 9u, true);
     }
 
     void roundTripIsByteIdentical()
@@ -136,8 +136,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QByteArray>("expectedLine");
-        QTest::newRow("windows-1252") << "Café – “Noir”" << QByteArray("Caf\xE9 \x96 \x93Noir\x94");
-        QTest::newRow("utf-8 when needed") << "Łódź café" << QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA caf\xC3\xA9");
+        Row("windows-1252", "Café – “Noir”", QByteArray("Caf\xE9 \x96 \x93Noir\x94"));
+        Row("utf-8 when needed", "Łódź café", QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA caf\xC3\xA9"));
     }
 
     void encodingChoice()
@@ -222,11 +222,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<double>("zoom");
-        QTest::newRow("zero") << "0" << 1.0;
-        QTest::newRow("below the floor") << "0.1" << 1.0;
-        QTest::newRow("at the floor") << "0.2" << 0.2;
-        QTest::newRow("comma separator") << "0,5" << 0.5;
-        QTest::newRow("larger") << "1.4" << 1.4;
+        Row("zero", "0", 1.0);
+        Row("below the floor", "0.1", 1.0);
+        Row("at the floor", "0.2", 0.2);
+        Row("comma separator", "0,5", 0.5);
+        Row("larger", "1.4", 1.4);
     }
 
     void zoomLine()
@@ -261,31 +261,23 @@ private Q_SLOTS:
         QTest::addColumn<QString>("cause");   // what went wrong, in plain words
         QTest::addColumn<QString>("status");
         const QString notSchedule = "is not a Torvanbridge schedule";
-        QTest::newRow("empty file") << QByteArray() << HeaderError << notSchedule << "Error reading file.";
-        QTest::newRow("wrong header") << with(0, "Some other file") << HeaderError << notSchedule
-                                      << "Error reading file.";
-        QTest::newRow("trailing blank on header")
-            << with(0, QString(ScheduleFileHeader) + " ") << HeaderError << notSchedule << "Error reading file.";
-        QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12) << HeaderError
-                                        << notSchedule << "Error reading file.";
+        Row("empty file", QByteArray(), HeaderError, notSchedule, "Error reading file.");
+        Row("wrong header", with(0, "Some other file"), HeaderError, notSchedule, "Error reading file.");
+        Row("trailing blank on header", with(0, QString(ScheduleFileHeader) + " "), HeaderError, notSchedule,
+            "Error reading file.");
+        Row("binary garbage", QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12), HeaderError, notSchedule,
+            "Error reading file.");
         const QString open = "Error opening file ";
-        QTest::newRow("zoom not a number") << with(12, "wide") << open << "line 13 should hold a number"
-                                           << "Error opening file.";
-        QTest::newRow("hold days not a number") << with(17, "ten") << open << "line 18 should hold a number"
-                                                << "Error opening file.";
-        QTest::newRow("strip count not a number") << with(21, "x1") << open << "line 22 should hold a number"
-                                                  << "Error opening file.";
-        QTest::newRow("strip count huge") << with(21, "99999999999") << open << "line 22 should hold a number"
-                                          << "Error opening file.";
-        QTest::newRow("strip count past capacity")
-            << with(21, "1001") << open << "The file holds 1001 strips; a schedule can hold at most 1000 strips."
-            << "Error opening file.";
-        QTest::newRow("element count negative")
-            << with(22, "-1") << open << "Line 23 gives -1 as the number of elements."
-            << "Error opening file.";
-        QTest::newRow("strip count too large for the file")
-            << with(21, "2") << open << "The file is cut short: it ends at line"
-            << "Error opening file.";
+        Row("zoom not a number", with(12, "wide"), open, "line 13 should hold a number", "Error opening file.");
+        Row("hold days not a number", with(17, "ten"), open, "line 18 should hold a number", "Error opening file.");
+        Row("strip count not a number", with(21, "x1"), open, "line 22 should hold a number", "Error opening file.");
+        Row("strip count huge", with(21, "99999999999"), open, "line 22 should hold a number", "Error opening file.");
+        Row("strip count past capacity", with(21, "1001"), open,
+            "The file holds 1001 strips; a schedule can hold at most 1000 strips.", "Error opening file.");
+        Row("element count negative", with(22, "-1"), open, "Line 23 gives -1 as the number of elements.",
+            "Error opening file.");
+        Row("strip count too large for the file", with(21, "2"), open, "The file is cut short: it ends at line",
+            "Error opening file.");
     }
 
     // A file that fails to open leaves an empty, untitled document and a message that

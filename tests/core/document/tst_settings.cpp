@@ -180,13 +180,13 @@ private slots:
         QTest::addColumn<bool>("expected");
         // A boolean is an integer, true when not 0; text that is no integer gives the
         // default (true for ScenePopups).
-        QTest::newRow("1") << QByteArray("1") << true;
-        QTest::newRow("0") << QByteArray("0") << false;
-        QTest::newRow("2") << QByteArray("2") << true;
-        QTest::newRow("-1") << QByteArray("-1") << true;
-        QTest::newRow(" 0 ") << QByteArray(" 0 ") << false;
-        QTest::newRow("false") << QByteArray("false") << true;
-        QTest::newRow("empty") << QByteArray("") << true;
+        Row("1", QByteArray("1"), true);
+        Row("0", QByteArray("0"), false);
+        Row("2", QByteArray("2"), true);
+        Row("-1", QByteArray("-1"), true);
+        Row(" 0 ", QByteArray(" 0 "), false);
+        Row("false", QByteArray("false"), true);
+        Row("empty", QByteArray(""), true);
     }
 
     void booleanForms()
@@ -277,13 +277,13 @@ private slots:
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<int>("stored");
-        QTest::newRow("Location") << 0 << 12;
-        QTest::newRow("Synopsis") << 1 << 7;
-        QTest::newRow("Sequence") << 2 << 11;
-        QTest::newRow("Scene number(s)") << 3 << 2;
-        QTest::newRow("Notes") << 4 << 19;
-        QTest::newRow("nothing chosen") << -1 << 99; // unchanged
-        QTest::newRow("past the list") << 5 << 99;
+        Row("Location", 0, 12);
+        Row("Synopsis", 1, 7);
+        Row("Sequence", 2, 11);
+        Row("Scene number(s)", 3, 2);
+        Row("Notes", 4, 19);
+        Row("nothing chosen", -1, 99); // unchanged
+        Row("past the list", 5, 99);
     }
 
     void descriptionLineItems()
@@ -311,9 +311,9 @@ private slots:
     {
         QTest::addColumn<int>("unticked"); // which "Warn me about" box is cleared
         QTest::addColumn<QString>("line");
-        QTest::newRow("scene change") << 0 << "[StripDlg]\r\nSceneChange=1\r\n";
-        QTest::newRow("auto-rest click") << 1 << "[PBDialog]\r\nAutoRestClick=1\r\n";
-        QTest::newRow("call sheet rest") << 2 << "[CallSheetDlg]\r\nCallSheetRest=1\r\n";
+        Row("scene change", 0, "[StripDlg]\r\nSceneChange=1\r\n");
+        Row("auto-rest click", 1, "[PBDialog]\r\nAutoRestClick=1\r\n");
+        Row("call sheet rest", 2, "[CallSheetDlg]\r\nCallSheetRest=1\r\n");
     }
 
     void warningAnswers()

@@ -146,13 +146,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("dpi");
         QTest::addColumn<int>("expected");
         // The half added before rounding leans values upward; ties go to the even neighbour.
-        QTest::newRow("1 at screen") << 1 << 96 << 2;
-        QTest::newRow("2 at screen") << 2 << 96 << 2;
-        QTest::newRow("3 at screen") << 3 << 96 << 4;
-        QTest::newRow("10 at 1200") << 10 << 1200 << 126;
-        QTest::newRow("20 at 1200") << 20 << 1200 << 250;
-        QTest::newRow("11 at 600") << 11 << 600 << 69;
-        QTest::newRow("0") << 0 << 600 << 0;
+        Row("1 at screen", 1, 96, 2);
+        Row("2 at screen", 2, 96, 2);
+        Row("3 at screen", 3, 96, 4);
+        Row("10 at 1200", 10, 1200, 126);
+        Row("20 at 1200", 20, 1200, 250);
+        Row("11 at 600", 11, 600, 69);
+        Row("0", 0, 600, 0);
     }
     void scaling()
     {
@@ -170,49 +170,45 @@ private Q_SLOTS:
         QTest::addColumn<int>("height");
         QTest::addColumn<QString>("pages"); // the bands of each page by name
         const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
-        QTest::newRow("detail without values prints once") << detail << "" << 10000 << "D";
-        QTest::newRow("detail repeats while any field has a value")
-            << band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)) << "A*2;B*4" << 10000 << "D D D D";
+        Row("detail without values prints once", detail, "", 10000, "D");
+        Row("detail repeats while any field has a value",
+            band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000, "D D D D");
         // Room for the header, the column titles, three rows and the footer, exactly.
-        QTest::newRow("page breaks repeat detail headers")
-            << pagedBands() << "N*10" << H20 + H10 + 3 * H30 + H10 + 1
-            << "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot";
-        QTest::newRow("title and footer only")
-            << band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Title Foot";
-        QTest::newRow("footers alone make a page") << band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Foot";
-        QTest::newRow("first and later page headers")
-            << band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
-                   band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
-                   band("Every", 20, 10, "alr_PageHeader") +
-                   band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
-                   band("D", 30, 30, "alr_Detail", {}, fieldOn("N"))
-            << "N*3" << 2 * H10 + 2 * H30 + 1 << "First Every D D | Later Every D";
-        QTest::newRow("new page band") << band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
-                                              band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) +
-                                              band("Foot", 40, 10, "alr_PageFooter") +
-                                              band("Closing", 30, 10, "alr_ReportFooter")
-                                       << "N*2" << 5000 << "Title Foot | D D Closing Foot";
+        Row("page breaks repeat detail headers", pagedBands(), "N*10", H20 + H10 + 3 * H30 + H10 + 1,
+            "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot");
+        Row("title and footer only", band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter"), "",
+            5000, "Title Foot");
+        Row("footers alone make a page", band("Foot", 40, 10, "alr_PageFooter"), "", 5000, "Foot");
+        Row("first and later page headers",
+            band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
+                band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
+                band("Every", 20, 10, "alr_PageHeader") +
+                band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
+                band("D", 30, 30, "alr_Detail", {}, fieldOn("N")),
+            "N*3", 2 * H10 + 2 * H30 + 1, "First Every D D | Later Every D");
+        Row("new page band",
+            band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
+                band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) + band("Foot", 40, 10, "alr_PageFooter") +
+                band("Closing", 30, 10, "alr_ReportFooter"),
+            "N*2", 5000, "Title Foot | D D Closing Foot");
         // Each row is taller than what is left below the header: it starts a new page and is
         // drawn there anyway, once, rather than asking for pages for ever.
-        QTest::newRow("too tall band still prints")
-            << band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")) << "N*2"
-            << H20 + H30 / 2 << "Head D | Head D";
-        QTest::newRow("group breaks through a detail link")
-            << groupBands(true) << "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3" << 10000
-            << "Col GH D D GF GH D GF GH D D GF";
+        Row("too tall band still prints",
+            band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")), "N*2",
+            H20 + H30 / 2, "Head D | Head D");
+        Row("group breaks through a detail link", groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3", 10000,
+            "Col GH D D GF GH D GF GH D D GF");
         // Column titles, the group header and two rows per page.
-        QTest::newRow("group header repeats on a new page")
-            << groupBands(false) << "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2" << 2 * H10 + 2 * H30 + 1
-            << "Col GH D D | Col GH D D | Col GH D";
+        Row("group header repeats on a new page", groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2",
+            2 * H10 + 2 * H30 + 1, "Col GH D D | Col GH D D | Col GH D");
         // Room for two rows but not for the footer after the second: the second row goes to
         // the next page with its footer, rather than leave a footer alone there.
-        QTest::newRow("last row keeps its group footer")
-            << groupBands(true) << "N*2;Day=Day 1,Day 1" << 2 * H10 + 2 * H30 + 1 << "Col GH D | Col GH D GF";
-        QTest::newRow("columns") << band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n",
-                                         fieldOn("N")) +
-                                        band("Foot", 40, 10, "alr_ReportFooter",
-                                             "    Columns = 2\n    ColWidthMM = 20\n")
-                                 << "N*4" << 5000 << "D D D D Foot Foot";
+        Row("last row keeps its group footer", groupBands(true), "N*2;Day=Day 1,Day 1", 2 * H10 + 2 * H30 + 1,
+            "Col GH D | Col GH D GF");
+        Row("columns",
+            band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
+            "N*4", 5000, "D D D D Foot Foot");
     }
     void bandsOnPages()
     {
@@ -451,8 +447,8 @@ private Q_SLOTS:
     void printingFamilyHasABoldFace_data()
     {
         QTest::addColumn<QString>("family");
-        QTest::newRow("the templates' Arial") << "Arial";
-        QTest::newRow("a family no system has") << "Quillbrook Grotesque Nonesuch";
+        Row("the templates' Arial", "Arial");
+        Row("a family no system has", "Quillbrook Grotesque Nonesuch");
     }
     void printingFamilyHasABoldFace()
     {
@@ -467,15 +463,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("width");
         QTest::addColumn<QStringList>("lines");
-        QTest::newRow("empty") << "" << 0.0 << QStringList();
-        QTest::newRow("line breaks") << "a\r\nb\rc\nd" << 0.0 << QStringList{"a", "b", "c", "d"};
-        QTest::newRow("one break at the end") << "a\r\nb\r\n" << 0.0 << QStringList{"a", "b"};
-        QTest::newRow("blank lines at the end") << "a\r\n \r\n" << 0.0 << QStringList{"a"};
-        QTest::newRow("blank lines inside") << "a\r\n\r\nb" << 0.0 << QStringList{"a", "", "b"};
-        QTest::newRow("only a blank") << " " << 0.0 << QStringList();
-        QTest::newRow("wrapped with indent")
-            << "    aaa bbb ccc" << 9.0 << QStringList{"    aaa", "    bbb", "    ccc"};
-        QTest::newRow("long word stays whole") << "aaaaaaaaaaaa b" << 5.0 << QStringList{"aaaaaaaaaaaa", "b"};
+        Row("empty", "", 0.0, QStringList());
+        Row("line breaks", "a\r\nb\rc\nd", 0.0, QStringList{"a", "b", "c", "d"});
+        Row("one break at the end", "a\r\nb\r\n", 0.0, QStringList{"a", "b"});
+        Row("blank lines at the end", "a\r\n \r\n", 0.0, QStringList{"a"});
+        Row("blank lines inside", "a\r\n\r\nb", 0.0, QStringList{"a", "", "b"});
+        Row("only a blank", " ", 0.0, QStringList());
+        Row("wrapped with indent", "    aaa bbb ccc", 9.0, QStringList{"    aaa", "    bbb", "    ccc"});
+        Row("long word stays whole", "aaaaaaaaaaaa b", 5.0, QStringList{"aaaaaaaaaaaa", "b"});
     }
     void textLines()
     {

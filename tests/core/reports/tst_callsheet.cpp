@@ -97,9 +97,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("scenes");
         QTest::addColumn<QString>("pages");
 
-        QTest::newRow("first day") << 0 << QStringList{"1", "2"} << "Total pages: 2 2/8";
-        QTest::newRow("second day") << 1 << QStringList{"3", "1"} << "Total pages: 4";
-        QTest::newRow("no scenes") << 9 << QStringList{""} << "Total pages: ";
+        Row("first day", 0, QStringList{"1", "2"}, "Total pages: 2 2/8");
+        Row("second day", 1, QStringList{"3", "1"}, "Total pages: 4");
+        Row("no scenes", 9, QStringList{""}, "Total pages: ");
     }
     void fillsTheDay()
     {
@@ -197,9 +197,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("rows");
         QTest::addColumn<QStringList>("first");
         QTest::addColumn<QStringList>("second");
-        QTest::newRow("one row") << 1 << QStringList{"c1"} << QStringList{};
-        QTest::newRow("two rows") << 2 << QStringList{"c1"} << QStringList{"c2"};
-        QTest::newRow("five rows") << 5 << QStringList{"c1", "c2", "c3"} << QStringList{"c4", "c5"};
+        Row("one row", 1, QStringList{"c1"}, QStringList{});
+        Row("two rows", 2, QStringList{"c1"}, QStringList{"c2"});
+        Row("five rows", 5, QStringList{"c1", "c2", "c3"}, QStringList{"c4", "c5"});
     }
     void crewHalves()
     {
@@ -288,20 +288,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("weather");
         QTest::addColumn<QString>("wrap");
 
-        QTest::newRow("other header") << QByteArray("Torvanbridge data file\r\n46482\r\n") << CallSheetFileBadHeader
-                                      << "keep"
-                                      << "6:00 pm";
-        QTest::newRow("empty file") << QByteArray() << CallSheetFileBadHeader << "keep"
-                                    << "6:00 pm";
-        QTest::newRow("date no number") << QByteArray("Torvanbridge call sheet file V1\r\nsoon\r\nSun\r\n")
-                                        << CallSheetFileError << "keep"
-                                        << "6:00 pm";
+        Row("other header", QByteArray("Torvanbridge data file\r\n46482\r\n"), CallSheetFileBadHeader, "keep",
+            "6:00 pm");
+        Row("empty file", QByteArray(), CallSheetFileBadHeader, "keep", "6:00 pm");
+        Row("date no number", QByteArray("Torvanbridge call sheet file V1\r\nsoon\r\nSun\r\n"), CallSheetFileError,
+            "keep", "6:00 pm");
         // A file that ends early is no error: the lines past its end read as empty texts.
-        QTest::newRow("ends early") << QByteArray("Torvanbridge call sheet file V1\n46482\nSun\n8 am") << QString()
-                                    << "Sun"
-                                    << "";
-        QTest::newRow("missing file") << QByteArray("<none>") << CallSheetFileError << "keep"
-                                      << "6:00 pm";
+        Row("ends early", QByteArray("Torvanbridge call sheet file V1\n46482\nSun\n8 am"), QString(), "Sun", "");
+        Row("missing file", QByteArray("<none>"), CallSheetFileError, "keep", "6:00 pm");
     }
     void fileBadInput()
     {

@@ -55,16 +55,15 @@ private Q_SLOTS:
         QTest::addColumn<bool>("showHolds");
         QTest::addColumn<QString>("expected"); // day cells joined by "|"
 
-        QTest::newRow("single day") << 1 << "1" << 10 << false << true << "SWF";
-        QTest::newRow("single day among others") << 3 << "2" << 10 << false << true << "|SWF|";
-        QTest::newRow("three empty days are not fewer than 3") << 6 << "1,2,6" << 3 << true << true << "SW|WD||||PWF";
-        QTest::newRow("two empty days held") << 5 << "1,2,5" << 3 << true << true << "SW|W|H|H|WF";
-        QTest::newRow("held gap without the hold rule stays blank")
-            << 5 << "1,2,5" << 3 << false << true << "SW|W|||WF";
-        QTest::newRow("hold days hidden") << 5 << "1,2,5" << 3 << true << false << "SW|W|||WF";
-        QTest::newRow("gap equal to threshold drops") << 5 << "1,2,5" << 2 << true << true << "SW|WD|||PWF";
-        QTest::newRow("two drops, last becomes F") << 7 << "1,4,7" << 1 << false << true << "SWD|||PWD|||PWF";
-        QTest::newRow("on no scene") << 3 << "" << 10 << true << true << "||";
+        Row("single day", 1, "1", 10, false, true, "SWF");
+        Row("single day among others", 3, "2", 10, false, true, "|SWF|");
+        Row("three empty days are not fewer than 3", 6, "1,2,6", 3, true, true, "SW|WD||||PWF");
+        Row("two empty days held", 5, "1,2,5", 3, true, true, "SW|W|H|H|WF");
+        Row("held gap without the hold rule stays blank", 5, "1,2,5", 3, false, true, "SW|W|||WF");
+        Row("hold days hidden", 5, "1,2,5", 3, true, false, "SW|W|||WF");
+        Row("gap equal to threshold drops", 5, "1,2,5", 2, true, true, "SW|WD|||PWF");
+        Row("two drops, last becomes F", 7, "1,4,7", 1, false, true, "SWD|||PWD|||PWF");
+        Row("on no scene", 3, "", 10, true, true, "||");
     }
     void statusCodes()
     {

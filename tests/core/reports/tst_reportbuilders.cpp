@@ -116,15 +116,15 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("scenes");
         QTest::addColumn<QString>("firstDay");
         QTest::addColumn<QStringList>("grandTotal");
-        QTest::newRow("all") << range(true, 1, 1) << QStringList{"Scene: 1", "Scene: 2", "Scene: 3", "Scene: 4"}
-                             << "SHOOTING DAY 1 : " + longDate(0) << QStringList{"End"};
-        QTest::newRow("day 2 to 2") << range(false, 2, 2) << QStringList{"Scene: 2", "Scene: 3"}
-                                    << "SHOOTING DAY 2 : " + longDate(1) << QStringList{"End (Days 2 to 2)"};
+        Row("all", range(true, 1, 1), QStringList{"Scene: 1", "Scene: 2", "Scene: 3", "Scene: 4"},
+            "SHOOTING DAY 1 : " + longDate(0), QStringList{"End"});
+        Row("day 2 to 2", range(false, 2, 2), QStringList{"Scene: 2", "Scene: 3"}, "SHOOTING DAY 2 : " + longDate(1),
+            QStringList{"End (Days 2 to 2)"});
         // "All" with a From of 3 still finds its start strip from the From box (kept so).
-        QTest::newRow("all, from 3") << range(true, 3, 3) << QStringList{"Scene: 4"}
-                                     << "SHOOTING DAY 3 : " + longDate(2) << QStringList{"End"};
+        Row("all, from 3", range(true, 3, 3), QStringList{"Scene: 4"}, "SHOOTING DAY 3 : " + longDate(2),
+            QStringList{"End"});
         // No strip on the first day asked for: nothing at all is pushed, nothing printed.
-        QTest::newRow("no strip on day 5") << range(false, 5, 6) << QStringList() << QString() << QStringList();
+        Row("no strip on day 5", range(false, 5, 6), QStringList(), QString(), QStringList());
     }
     void dayRanges()
     {
@@ -287,11 +287,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("intExtDayNight");
         QTest::addColumn<QString>("line");
-        QTest::newRow("int day") << QStringList{"I", "D"} << "INT - HARBOUR - DAY";
-        QTest::newRow("ext night") << QStringList{"E", "N"} << "EXT - HARBOUR - NIGHT";
-        QTest::newRow("int/ext dawn") << QStringList{"I/E", "DWN"} << "INT/EXT - HARBOUR - DAWN";
-        QTest::newRow("dusk only") << QStringList{"", "DSK"} << "HARBOUR - DUSK";
-        QTest::newRow("neither") << QStringList{"X", "Y"} << "HARBOUR";
+        Row("int day", QStringList{"I", "D"}, "INT - HARBOUR - DAY");
+        Row("ext night", QStringList{"E", "N"}, "EXT - HARBOUR - NIGHT");
+        Row("int/ext dawn", QStringList{"I/E", "DWN"}, "INT/EXT - HARBOUR - DAWN");
+        Row("dusk only", QStringList{"", "DSK"}, "HARBOUR - DUSK");
+        Row("neither", QStringList{"X", "Y"}, "HARBOUR");
     }
     void locationLine()
     {
@@ -318,14 +318,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("report");
         QTest::addColumn<QString>("message"); // %1 = the template path
-        QTest::newRow("schedule")
-            << 0 << "Could not load schedule template file (%1). Please try re-installing Torvanbridge.";
-        QTest::newRow("breakdown") << 1
-                                   << "Could not load breakdown sheet template file (%1). Please try re-installing "
-                                      "Torvanbridge.";
+        Row("schedule", 0, "Could not load schedule template file (%1). Please try re-installing Torvanbridge.");
+        Row("breakdown", 1,
+            "Could not load breakdown sheet template file (%1). Please try re-installing "
+            "Torvanbridge.");
         // This message names no file.
-        QTest::newRow("element summary")
-            << 2 << "Could not load element summary sheet template file. Please try re-installing Torvanbridge.";
+        Row("element summary", 2,
+            "Could not load element summary sheet template file. Please try re-installing Torvanbridge.");
     }
     void missingTemplate()
     {

@@ -46,10 +46,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("tick2");
         QTest::addColumn<QString>("after");
 
-        QTest::newRow("tick both") << "," << true << true << "46482,46482";
-        QTest::newRow("untick clears") << "46482,46482" << true << false << "46482,";
+        Row("tick both", ",", true, true, "46482,46482");
+        Row("untick clears", "46482,46482", true, false, "46482,");
         // A scene already marked keeps the day it was first marked shot.
-        QTest::newRow("earlier mark kept") << "46400," << true << true << "46400,46482";
+        Row("earlier mark kept", "46400,", true, true, "46400,46482");
     }
     void marksTheDay()
     {

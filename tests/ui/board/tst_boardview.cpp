@@ -235,10 +235,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("order");
         QTest::addColumn<int>("newStart");
         QTest::addColumn<int>("newEnd");
-        QTest::newRow("2..3 past the end")
-            << 2 << 23 << false << "1 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 2 3" << 19 << 20;
-        QTest::newRow("3..5 inside the selection")
-            << 3 << 5 << true << "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20" << 3 << 5;
+        Row("2..3 past the end", 2, 23, false, "1 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 2 3", 19, 20);
+        Row("3..5 inside the selection", 3, 5, true, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20", 3, 5);
     }
     void drop()
     {
@@ -315,16 +313,16 @@ private Q_SLOTS:
         QTest::addColumn<int>("v");
         QTest::addColumn<int>("newH");
         QTest::addColumn<int>("newV");
-        QTest::newRow("down: one strip left") << -120 << false << 5 << 5 << 4 << 5;
-        QTest::newRow("up: one strip right") << 120 << false << 5 << 5 << 6 << 5;
-        QTest::newRow("down at the first strip") << -120 << false << 1 << 5 << 1 << 5;
-        QTest::newRow("up at the last strip") << 120 << false << 20 << 5 << 20 << 5;
-        QTest::newRow("shift down: next row") << -120 << true << 5 << 5 << 5 << 6;
-        QTest::newRow("shift up: row before") << 120 << true << 5 << 5 << 5 << 4;
-        QTest::newRow("shift up at the first row") << 120 << true << 5 << 1 << 5 << 1;
-        QTest::newRow("shift down at the last row") << -120 << true << 5 << 30 << 5 << 30;
-        QTest::newRow("two notches") << -240 << false << 5 << 5 << 3 << 5;
-        QTest::newRow("half a notch") << -60 << false << 5 << 5 << 5 << 5;
+        Row("down: one strip left", -120, false, 5, 5, 4, 5);
+        Row("up: one strip right", 120, false, 5, 5, 6, 5);
+        Row("down at the first strip", -120, false, 1, 5, 1, 5);
+        Row("up at the last strip", 120, false, 20, 5, 20, 5);
+        Row("shift down: next row", -120, true, 5, 5, 5, 6);
+        Row("shift up: row before", 120, true, 5, 5, 5, 4);
+        Row("shift up at the first row", 120, true, 5, 1, 5, 1);
+        Row("shift down at the last row", -120, true, 5, 30, 5, 30);
+        Row("two notches", -240, false, 5, 5, 3, 5);
+        Row("half a notch", -60, false, 5, 5, 5, 5);
     }
     void wheel()
     {

@@ -239,10 +239,10 @@ private Q_SLOTS:
         QTest::addColumn<Answer>("answer");
         QTest::addColumn<bool>("remember");
         QTest::addColumn<QString>("synopsis");
-        QTest::newRow("Yes saves") << Answer::Yes << false << "Changed";
-        QTest::newRow("No drops") << Answer::No << false << "";
+        Row("Yes saves", Answer::Yes, false, "Changed");
+        Row("No drops", Answer::No, false, "");
         // Remembered, the question is asked no more and the answer saves as Yes did.
-        QTest::newRow("remembered") << Answer::Yes << true << "Changed";
+        Row("remembered", Answer::Yes, true, "Changed");
     }
     void editedFieldWarnsOnNext()
     {

@@ -130,9 +130,9 @@ private Q_SLOTS:
         QTest::addColumn<bool>("perforated");
         QTest::addColumn<bool>("oneStrip");
         QTest::addColumn<double>("zoomAfter");
-        QTest::newRow("plain, all") << false << false << 1.5;
-        QTest::newRow("perforated, all") << true << false << 1.0;
-        QTest::newRow("plain, one strip") << false << true << 1.5;
+        Row("plain, all", false, false, 1.5);
+        Row("perforated, all", true, false, 1.0);
+        Row("plain, one strip", false, true, 1.5);
     }
     void printBoardToPdf()
     {

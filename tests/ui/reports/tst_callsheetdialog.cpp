@@ -178,9 +178,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("asked");
         QTest::addColumn<QString>("firstScene");
-        QTest::newRow("no hand edit") << false << int(Answer::Yes) << false << "3";
-        QTest::newRow("edited, Yes refills") << true << int(Answer::Yes) << true << "3";
-        QTest::newRow("edited, No keeps") << true << int(Answer::No) << true << "1";
+        Row("no hand edit", false, int(Answer::Yes), false, "3");
+        Row("edited, Yes refills", true, int(Answer::Yes), true, "3");
+        Row("edited, No keeps", true, int(Answer::No), true, "1");
     }
     void dateChangeQuestion()
     {

@@ -119,10 +119,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("zoom");
-        QTest::newRow("letters") << "abc" << 100;
-        QTest::newRow("too large") << "300" << 75;
-        QTest::newRow("too small") << "10" << 75;
-        QTest::newRow("in range") << "60" << 60;
+        Row("letters", "abc", 100);
+        Row("too large", "300", 75);
+        Row("too small", "10", 75);
+        Row("in range", "60", 60);
     }
     void previewZoomBox()
     {

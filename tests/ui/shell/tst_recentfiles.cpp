@@ -14,6 +14,7 @@
 #include <QTest>
 
 using namespace tb;
+using tb::test::Row;
 
 namespace {
 
@@ -101,8 +102,8 @@ private slots:
     void helpKeyInDialog_data()
     {
         QTest::addColumn<QString>("page");
-        QTest::newRow("page") << "board.html";
-        QTest::newRow("none") << "";
+        Row("page", "board.html");
+        Row("none", "");
     }
 
     void helpKeyInDialog()
