@@ -86,8 +86,6 @@ private Q_SLOTS:
 
         WriteLines("script.txt", {"EXT. PARK - MAGIC HOUR", "", "SIMON SAYS", "Jump.", "", "EXT. PARK - GLOAMING", "",
                                   "ANN", "Run.", "", "", "", ""});
-        WriteLines("junk.txt", {"INT. ROOM - DAY", "", "ANN", "Hi.", "", "2.", "", "A RIVER.", "", "EXT. YARD - DAY",
-                                "", "BOB", "Yo.", "", "3.", ""});
         WriteLines("not.fdx", {"INT. ROOM - DAY"});
         WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
         WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
@@ -271,27 +269,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("out");    // stdout, when given
         QTest::addColumn<QString>("err");    // stderr holds it
         QTest::addColumn<QString>("checks"); // of the file written, ";"-separated:
-        // "kinds K", "strips N", "elements N", "rule R", "start S", "hold N", "next N",
-        // "same IN" (byte for byte), "s ROW F1,F2... V1|V2..." strip fields by number and
-        // "e ROW F1,F2... V1|V2..." element fields by number.
+        // "kinds K", "strips N", "elements N", "rule R", "next N", "s ROW F1,F2... V1|V2..."
+        // strip fields by number and "e ROW F1,F2... V1|V2..." element fields by number.
+        // The outputs of the commands on whole schedules are pinned by golden_outputs.
         const QString imported = "Imported %1 scenes and %2 cast elements into ";
 
-        Row("resave", L{"resave", "EX"}, 0, "", "", "same EX");
         Row("import-text",
             L{"import-text", "@script.txt", "--lines", "4", "--day-words", "MAGIC HOUR, noon", "--night-words=GLOAMING",
               "--ignore-words", "SIMON SAYS,"},
             0, imported.arg(2).arg(1), "", "strips 2;elements 1;e 1 0 Ann;s 1 2,11,5 D|PARK|1.25;s 2 2 N");
-        Row("import-fd", L{"import-fd", "DATA/fd-scene-report.txt", "DATA/fd-script-report.txt"}, 0,
-            imported.arg(5).arg(3), "", "strips 5;elements 3;s 1 5 1.375;s 2 11 BARN");
-        // The review's choice: page numbers and a line of action go, with their assignments.
-        Row("import-text --review auto", L{"import-text", "@junk.txt", "--review", "auto"}, 0, imported.arg(2).arg(2),
-            "", "strips 2;elements 2;e 2 0,3 Bob|2;s 1 19 1;s 2 19 2");
-        Row("import-text keeps all by default", L{"import-text", "@junk.txt"}, 0, imported.arg(2).arg(5), "",
-            "elements 5;s 1 19 1,2,3");
-        Row("import-fountain", L{"import-fountain", "DATA/brick_and_steel.fountain"}, 0, imported.arg(8).arg(7), "",
-            "strips 8;elements 7;e 1 0 STEEL;s 1 1,4,2,3,11 1|1|D|E|BRICK'S PATIO");
-        Row("import-fdx", L{"import-fdx", "DATA/garden-party.fdx"}, 0, imported.arg(3).arg(3), "",
-            "strips 3;elements 3;e 2 0 MR. PIKE;s 1 1,5,19 1|1.25|1,2,3;s 2 1,5,2,11 2|0.375|?|KITCHEN;s 3 1 2A");
         // An import that fails part-way says so and writes nothing.
         Row("import-fd, no lengths", L{"import-fd", "@two-scenes.txt", "@two.txt"}, 1, "",
             "Error converting scene length.\nCould not find scene length information. Are you sure you selected a "
@@ -302,34 +288,13 @@ private Q_SLOTS:
             "a value cannot hold a line break (\"two\\nlines\")", "none");
 
         // The input board SMALL: 1 1 2 3 3 1 4 2 (the two rest days follow Friday's divider).
-        Row("add-divider", L{"add-divider", "SMALL"}, 0, "", "", "kinds 1 1 2 3 3 1 4 2 2");
-        Row("add-divider --before", L{"add-divider", "SMALL", "--before", "2"}, 0, "", "", "kinds 1 2 3 3 1 2 1 4 2");
-        Row("remove-dividers", L{"remove-dividers", "SMALL"}, 0, "", "", "kinds 1 1 1 4");
-        Row("remove-banners", L{"remove-banners", "SMALL"}, 0, "", "", "kinds 1 1 2 3 3 1 2");
-        Row("auto-pages split", L{"auto-pages", "SMALL", "--max", "5", "--mode", "split"}, 0, "", "",
-            "kinds 1 2 3 3 1 2 1 2 2 4");
-        Row("auto-pages keep", L{"auto-pages", "SMALL", "--max", "5"}, 0, "", "", "kinds 1 2 3 3 1 2 1 2 4");
         Row("auto-pages keeping dividers", L{"auto-pages", "SMALL", "--max", "8", "--keep-dividers"}, 0, "", "",
             "kinds 1 1 2 3 3 2 1 2 4 2");
-        Row("start-date", L{"start-date", "SMALL", "--date", "2026-03-09"}, 0, "", "", "kinds 1 1 2 1 4 2;start 46090");
-        Row("start-date --clear", L{"start-date", "SMALL", "--clear"}, 0, "", "", "kinds 1 1 2 1 4 2;start ;rule ");
-        Row("rest-days", L{"rest-days", "SMALL", "--rule", "S1"}, 0, "", "", "kinds 1 1 2 3 1 4 2;rule S1");
         Row("rest-days none", L{"rest-days", "SMALL", "--rule", ""}, 0, "", "", "kinds 1 1 2 1 4 2;rule ");
-        Row("convert-rest-days", L{"convert-rest-days", "SMALL"}, 0, "", "",
-            "kinds 1 1 2 4 4 1 4 2;rule ;s 4 6 REST DAY;s 5 16 clWhite,clBlack");
-        Row("lock", L{"lock", "SMALL", "--from", "1", "--to", "2", "--date", "2026-03-10"}, 0, "", "",
-            "s 1 13 3/10/2026;s 2 13 3/10/2026;s 3 13 ");
-        Row("hold-days", L{"hold-days", "SMALL", "--days", "14"}, 0, "", "", "hold 14");
 
-        // Sorting removes the dividers after a question, which the tool answers Yes.
-        Row("sort", L{"sort", "EX"}, 0, "", "[answered Yes]", "strips 60;s 1 11 AT SEA;s 60 11 TRURO");
-        Row("sort by scene", L{"sort", "EX", "--keys", "scene"}, 0, "", "", "s 1 1 1;s 60 1 60");
         // Refused entries are reported and left out; the missing strips are removed.
         Row("conform", L{"conform", "EX", "--", "3", "+", "999", "1", "*Travel", "05"}, 0, "",
             "No strip was found with that number. Please try again.", "kinds 1 2 1 4;s 1,3 14 3|1;s 4 6 Travel");
-        Row("renumber", L{"renumber", "SMALL"}, 0, "", "", "s 1 14 1;s 2 14 2;next 3");
-        Row("sort-elements", L{"sort-elements", "SMALL"}, 0, "", "", "e 1 0 ANNA;e 2 0 LAMP;s 1 19 1,2");
-        Row("reset-cast", L{"reset-cast", "SMALL"}, 0, "", "", "e 2 3 1");
         Row("add-element",
             L{"add-element", "EMPTY", "--description", "ANNA", "--category", "1", "--name", "Mara Quint", "--hold"}, 0,
             "", "", "elements 1;e 1 3,2,6,4 1|1|SAG|Mara Quint");
@@ -348,6 +313,7 @@ private Q_SLOTS:
             L{"add-scene", "EMPTY", "--scene", "13", "--pages", "0.5", "--int-ext", "E", "--day-night", "N"}, 0, "", "",
             "s 1 5,14 0.5|1");
     }
+
     void schedules()
     {
         QFETCH(QStringList, args);
@@ -386,14 +352,8 @@ private Q_SLOTS:
                 QCOMPARE(doc.elements.count(), value.toInt());
             else if (key == "rule")
                 QCOMPARE(doc.values.AutoRestDayRule, value);
-            else if (key == "start")
-                QCOMPARE(doc.values.StartDate, value);
-            else if (key == "hold")
-                QCOMPARE(doc.values.HoldDays, value.toInt());
             else if (key == "next")
                 QCOMPARE(doc.values.NextStripId, value.toInt());
-            else if (key == "same")
-                QCOMPARE(ReadFileBytes(file), ReadFileBytes(expand({value}, {}).first()));
             else { // "s ROW FIELDS VALUES" or "e ROW FIELDS VALUES"; ROW may list rows for one field
                 const QStringList rows = check.section(u' ', 1, 1).split(u',');
                 const QStringList fields = check.section(u' ', 2, 2).split(u',');
