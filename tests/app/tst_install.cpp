@@ -18,27 +18,6 @@ using namespace tb::test;
 
 namespace {
 
-using Run = CliRun;
-
-Run run(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000)
-{
-    QProcess p;
-    if (!folder.isEmpty())
-        p.setWorkingDirectory(folder);
-    p.start(program, args);
-    Run r;
-    if (!p.waitForFinished(timeoutMs)) {
-        p.kill();
-        p.waitForFinished();
-        r.err = "timed out: " + program;
-        return r;
-    }
-    r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    r.out = QString::fromUtf8(p.readAllStandardOutput());
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
-}
-
 // Bash's answer to a completion request for the line, run in the folder.
 QString complete(const QString &script, const QString &line, const QString &folder)
 {
@@ -48,7 +27,7 @@ QString complete(const QString &script, const QString &line, const QString &fold
                                            "_torvanbridge_cli; printf '%s\\n' \"${COMPREPLY[@]}\" | "
                                            "sort | tr '\\n' ' '")
                                 .arg(script, words);
-    return run("bash", {"-c", command}, folder).out.trimmed();
+    return RunProgram("bash", {"-c", command}, folder).out.trimmed();
 }
 
 } // namespace
@@ -105,11 +84,11 @@ private Q_SLOTS:
     void commandLineToolRunsInstalled()
     {
         QVERIFY(!QFile::exists(path("bin/ShootSch1.dfm")));
-        const Run info = run(cli(), {"info", example()});
+        const CliRun info = RunProgram(cli(), {"info", example()});
         QCOMPARE(info.code, 0);
         QVERIFY(info.out.startsWith("Title:       Harbour Lights"));
         const QString pdf = m_root.filePath("schedule.pdf");
-        const Run report = run(cli(), {"report", "schedule", example(), "-o", pdf});
+        const CliRun report = RunProgram(cli(), {"report", "schedule", example(), "-o", pdf});
         QVERIFY2(report.code == 0, qPrintable(report.err));
         QVERIFY(ReadFileBytes(pdf).startsWith("%PDF"));
     }
@@ -119,9 +98,9 @@ private Q_SLOTS:
     void desktopProgramRunsInstalled()
     {
         const QString program = path("bin/torvanbridge");
-        const Run version = run(program, {"--version"});
+        const CliRun version = RunProgram(program, {"--version"});
         QCOMPARE(version.out.trimmed(), QStringLiteral("torvanbridge " TB_VERSION));
-        QVERIFY(run(program, {"--help"}).out.contains("Usage: torvanbridge [FILE]"));
+        QVERIFY(RunProgram(program, {"--help"}).out.contains("Usage: torvanbridge [FILE]"));
 
         QProcess gui;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -148,7 +127,7 @@ private Q_SLOTS:
         QFETCH(QString, page);
         QFETCH(QString, expected);
         const QString file = path("share/man/man1/" + page + ".1.gz");
-        const Run text = run("gzip", {"-dc", file});
+        const CliRun text = RunProgram("gzip", {"-dc", file});
         QVERIFY(text.out.startsWith(".TH " + page.toUpper() + " 1 "));
         if (QStandardPaths::findExecutable("man").isEmpty())
             QSKIP("man is not installed");
@@ -236,7 +215,7 @@ private Q_SLOTS:
         QFETCH(QStringList, args);
         if (QStandardPaths::findExecutable(tool).isEmpty())
             QSKIP("the validator is not installed");
-        const Run r = run(tool, args);
+        const CliRun r = RunProgram(tool, args);
         QVERIFY2(r.code == 0, qPrintable(r.out + r.err));
     }
 
@@ -249,12 +228,12 @@ private Q_SLOTS:
             QSKIP("LibreOffice is not installed");
         QTemporaryDir folder;
         const QString csv = folder.filePath("board.csv");
-        QCOMPARE(run(cli(), {"export", example(), "-o", csv}).code, 0);
-        const Run convert =
-            run(office,
-                {"-env:UserInstallation=file://" + folder.filePath("lo"), "--headless", "--infilter=CSV:44,34,76,1",
-                 "--convert-to", "html", "--outdir", folder.filePath("out"), csv},
-                {}, 180000);
+        QCOMPARE(RunProgram(cli(), {"export", example(), "-o", csv}).code, 0);
+        const CliRun convert =
+            RunProgram(office,
+                       {"-env:UserInstallation=file://" + folder.filePath("lo"), "--headless",
+                        "--infilter=CSV:44,34,76,1", "--convert-to", "html", "--outdir", folder.filePath("out"), csv},
+                       {}, 180000);
         QVERIFY2(convert.code == 0, qPrintable(convert.err));
         const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath("out/board.html")));
         QCOMPARE(table.count("<tr"),
@@ -272,12 +251,12 @@ private Q_SLOTS:
             QSKIP("Chromium is not installed");
         QTemporaryDir folder;
         const QString html = folder.filePath("board.html");
-        QCOMPARE(run(cli(), {"export", example(), "-o", html, "--colours", "classic"}).code, 0);
+        QCOMPARE(RunProgram(cli(), {"export", example(), "-o", html, "--colours", "classic"}).code, 0);
         const QString shot = folder.filePath("board.png");
-        const Run r = run(browser,
-                          {"--headless", "--no-sandbox", "--disable-gpu", "--window-size=412,1600",
-                           "--screenshot=" + shot, "file://" + html},
-                          {}, 120000);
+        const CliRun r = RunProgram(browser,
+                                    {"--headless", "--no-sandbox", "--disable-gpu", "--window-size=412,1600",
+                                     "--screenshot=" + shot, "file://" + html},
+                                    {}, 120000);
         QVERIFY2(QFile::exists(shot), qPrintable(r.err));
         const QImage image(shot);
         QCOMPARE(image.width(), 412);

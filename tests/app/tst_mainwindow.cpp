@@ -87,15 +87,6 @@ QStringList entries(const QMenu *menu)
     return list;
 }
 
-template <typename T>
-T *child(QObject *parent, const char *name)
-{
-    T *found = parent->findChild<T *>(QLatin1String(name));
-    if (!found)
-        qWarning("no %s", name);
-    return found;
-}
-
 // A changed document with one scene.
 void changed(ScheduleDocument &doc)
 {
@@ -356,11 +347,7 @@ private slots:
     void firstShowSteps()
     {
         const QString ini = TempPath("first-show.ini");
-        {
-            QFile file(ini);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("[Files]\r\nAutosavetime=5\r\n[Strips]\r\nCB1=clRed\r\nFont=Courier\r\n");
-        }
+        QVERIFY(WriteBytes(ini, "[Files]\r\nAutosavetime=5\r\n[Strips]\r\nCB1=clRed\r\nFont=Courier\r\n"));
         const QString path = saved("command-line.tbf", "Rain", 3);
         Harness h("first-show.ini");
         h.main->setFirstShowPause(1200); // the real pause
@@ -676,21 +663,21 @@ private slots:
             auto *pref = qobject_cast<TfrmPref *>(QApplication::activeModalWidget());
             QVERIFY(pref);
             seen = true;
-            QCOMPARE(child<QSpinBox>(pref, "AutoSaveSpin")->value(), 0);
-            QVERIFY(child<QCheckBox>(pref, "AutoRestCheck")->isChecked());
-            QCOMPARE(child<QComboBox>(pref, "DescLine1Combo")->currentText(), "Location");
-            child<QSpinBox>(pref, "AutoSaveSpin")->setValue(2);
-            child<QCheckBox>(pref, "AutoRestCheck")->setChecked(false);
-            child<QComboBox>(pref, "DescLine1Combo")->setCurrentIndex(4); // Notes
-            child<QCheckBox>(pref, "ScHintsCheck")->setChecked(false);
+            QCOMPARE(Child<QSpinBox>(pref, "AutoSaveSpin")->value(), 0);
+            QVERIFY(Child<QCheckBox>(pref, "AutoRestCheck")->isChecked());
+            QCOMPARE(Child<QComboBox>(pref, "DescLine1Combo")->currentText(), "Location");
+            Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(2);
+            Child<QCheckBox>(pref, "AutoRestCheck")->setChecked(false);
+            Child<QComboBox>(pref, "DescLine1Combo")->setCurrentIndex(4); // Notes
+            Child<QCheckBox>(pref, "ScHintsCheck")->setChecked(false);
             pref->chooseColour = [](const QColor &, const QString &) { return QColor(Qt::green); };
-            child<QPushButton>(pref, "SlotBut7")->click();
+            Child<QPushButton>(pref, "SlotBut7")->click();
             QCOMPARE(pref->selectedSlot(), 7);
-            child<QPushButton>(pref, "BackColorBut")->click();
+            Child<QPushButton>(pref, "BackColorBut")->click();
             pref->chooseFont = [](const QString &) { return std::optional<QString>("Courier"); };
-            child<QPushButton>(pref, "FontBut")->click();
-            QCOMPARE(child<QLabel>(pref, "FontLabel")->text(), "Courier");
-            QTest::mouseClick(child<QPushButton>(pref, "OKBut"), Qt::LeftButton);
+            Child<QPushButton>(pref, "FontBut")->click();
+            QCOMPARE(Child<QLabel>(pref, "FontLabel")->text(), "Courier");
+            QTest::mouseClick(Child<QPushButton>(pref, "OKBut"), Qt::LeftButton);
         });
         h.entry(actions::Preferences1)->trigger();
         QVERIFY(seen);
@@ -716,11 +703,11 @@ private slots:
         QTimer::singleShot(0, [&] {
             auto *pref = qobject_cast<TfrmPref *>(QApplication::activeModalWidget());
             QVERIFY(pref);
-            child<QSpinBox>(pref, "AutoSaveSpin")->setValue(30);
-            QVERIFY(child<QLabel>(pref, "AutosaveWhereLabel")
+            Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(30);
+            QVERIFY(Child<QLabel>(pref, "AutosaveWhereLabel")
                         ->text()
                         .contains(QDir::toNativeSeparators(h.main->autosavePath())));
-            QTest::mouseClick(child<QPushButton>(pref, "CancelBut"), Qt::LeftButton);
+            QTest::mouseClick(Child<QPushButton>(pref, "CancelBut"), Qt::LeftButton);
         });
         h.entry(actions::Preferences1)->trigger();
         QCOMPARE(h.settings.autosaveMinutes, 0);
@@ -754,18 +741,14 @@ private slots:
         for (const QString &page : pages) {
             if (!page.endsWith(".html"))
                 continue;
-            QFile file(":/help/" + page);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QString html = QString::fromUtf8(file.readAll());
+            const QString html = QString::fromUtf8(ReadFileBytes(":/help/" + page));
             auto matches = link.globalMatch(html);
             while (matches.hasNext()) {
                 const QString target = matches.next().captured(1);
                 QVERIFY2(HelpWindow::pageExists(target), qPrintable(page + " links to " + target));
             }
         }
-        QFile contents(":/help/contents.html");
-        QVERIFY(contents.open(QIODevice::ReadOnly));
-        const QByteArray html = contents.readAll();
+        const QByteArray html = ReadFileBytes(":/help/contents.html");
         for (const char *page : {"getting-started.html", "board.html", "menus.html", "index.html"})
             QVERIFY2(html.contains(page), page);
     }
@@ -778,10 +761,10 @@ private slots:
             auto *about = qobject_cast<TfrmAbout *>(QApplication::activeModalWidget());
             QVERIFY(about);
             seen = true;
-            QCOMPARE(child<QLabel>(about, "ProductLabel")->text(), "Torvanbridge");
-            QCOMPARE(child<QLabel>(about, "VersionLabel")->text(), "Version " TB_VERSION);
-            QVERIFY(!child<QLabel>(about, "DescriptionLabel")->text().isEmpty());
-            QTest::mouseClick(child<QPushButton>(about, "OKBut"), Qt::LeftButton);
+            QCOMPARE(Child<QLabel>(about, "ProductLabel")->text(), "Torvanbridge");
+            QCOMPARE(Child<QLabel>(about, "VersionLabel")->text(), "Version " TB_VERSION);
+            QVERIFY(!Child<QLabel>(about, "DescriptionLabel")->text().isEmpty());
+            QTest::mouseClick(Child<QPushButton>(about, "OKBut"), Qt::LeftButton);
         });
         h.entry(actions::About1)->trigger();
         QVERIFY(seen);
@@ -1247,13 +1230,7 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(QString, cause);
         const QString path = TempPath(QStringLiteral("failed-%1.tbf").arg(QTest::currentDataTag()));
-        if (content.isEmpty()) {
-            QVERIFY(QDir().mkpath(path));
-        } else {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(content);
-        }
+        QVERIFY(content.isEmpty() ? QDir().mkpath(path) : WriteBytes(path, content));
         Harness w;
         QVERIFY(w.start());
         w.files.answer = saved("failed-before.tbf", "Before", 2);
@@ -1359,11 +1336,7 @@ private slots:
         QCOMPARE(standard.background[int(StripSlot::DayDivider)], 0u); // black
         // An existing file is read as it is: no colour keys, white strips.
         const QString path = TempPath("existing-settings.ini");
-        {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("[Files]\r\nAutosavetime=0\r\n");
-        }
+        QVERIFY(WriteBytes(path, "[Files]\r\nAutosavetime=0\r\n"));
         Settings existing(path);
         existing.LoadSettings();
         QCOMPARE(existing.stripBackground[int(StripSlot::DayExt)], 0x00FFFFFFu);

@@ -338,12 +338,9 @@ private Q_SLOTS:
     void scriptImportAsksAtImport()
     {
         QTemporaryDir folder;
-        {
-            QFile script(QDir(folder.path()).filePath("kitchen.txt"));
-            QVERIFY(script.open(QIODevice::WriteOnly));
-            script.write("FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n"
-                         "EXT. BARN - DAY\n\n          JOHN\n    Later.\n");
-        }
+        QVERIFY(WriteBytes(QDir(folder.path()).filePath("kitchen.txt"),
+                           "FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n"
+                           "EXT. BARN - DAY\n\n          JOHN\n    Later.\n"));
         Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");

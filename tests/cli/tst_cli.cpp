@@ -89,9 +89,7 @@ private Q_SLOTS:
         WriteLines("not.fdx", {"INT. ROOM - DAY"});
         WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
         WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
-        QFile corrupt(TempPath("corrupt.tbf"));
-        QVERIFY(corrupt.open(QIODevice::WriteOnly));
-        corrupt.write("hello\r\n");
+        QVERIFY(WriteBytes(TempPath("corrupt.tbf"), "hello\r\n"));
     }
     void usageErrors_data()
     {
@@ -448,10 +446,7 @@ private Q_SLOTS:
         QFETCH(QString, expected);
         QDir().mkpath(TempPath(QTest::currentDataTag()));
         const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(text);
-        f.close();
+        QVERIFY(WriteBytes(path, text));
         const CliRun run = RunCli({"check-template", path});
         QCOMPARE(run.code, code);
         QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));

@@ -29,9 +29,7 @@ inline QStringList StripColumn(const ScheduleDocument &doc, StripField field)
 inline QString WriteFile(const QString &name, const QByteArray &bytes)
 {
     const QString path = TempPath(name);
-    QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(bytes);
+    WriteBytes(path, bytes);
     return path;
 }
 

@@ -79,6 +79,21 @@ void Row(const char *tag, const T &...values)
     (QTest::newRow(tag) << ... << values);
 }
 
+// The named child of the type; the test program stops when there is none.
+template <typename T>
+T *Child(const QObject *parent, const char *name)
+{
+    T *found = parent->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no child %s", name);
+    return found;
+}
+template <typename T>
+T *Child(const QObject &parent, const char *name)
+{
+    return Child<T>(&parent, name);
+}
+
 // The kinds of all strips joined, e.g. "1 1 2 3 1".
 QString Kinds(const ScheduleDocument &doc);
 
@@ -92,11 +107,16 @@ struct CliRun
     QString out;
     QString err;
 };
+// Runs the program in the folder (the current one when empty) and waits for it; a crash
+// gives the code -1, a run past the time limit is killed and says so in err.
+CliRun RunProgram(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000);
 // Runs torvanbridge-cli with the arguments, in the en_US locale, and waits for it.
 CliRun RunCli(const QStringList &args);
 
 // The bytes of a file; empty when it cannot be read.
 QByteArray ReadFileBytes(const QString &path);
+// Writes the bytes to the file, making its folder if needed; false when it cannot.
+bool WriteBytes(const QString &path, const QByteArray &bytes);
 
 // Gives the test program a private, empty home, configuration and data folder, and the
 // offscreen platform unless another is set, before the application object exists: a

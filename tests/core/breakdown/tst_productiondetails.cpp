@@ -87,9 +87,7 @@ private Q_SLOTS:
             image.fill(Qt::darkCyan);
             QVERIFY(image.save(path));
         } else if (file.startsWith("text")) {
-            QFile f(path);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write("this is text, not a picture");
+            QVERIFY(WriteBytes(path, "this is text, not a picture"));
         }
         ScheduleDocument doc;
         ScriptedPrompter prompter;

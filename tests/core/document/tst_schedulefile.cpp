@@ -21,13 +21,6 @@ const QString OpenError = QStringLiteral(
 const QString HeaderError =
     QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
 
-void writeAll(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
-
 // A schedule with awkward text in every kind of field.
 void fillRandom(ScheduleDocument &doc, quint32 seed, bool ascii)
 {
@@ -172,7 +165,7 @@ private Q_SLOTS:
         }
         const QString in = TempPath("old.tbf");
         const QString out = TempPath("old-resaved.tbf");
-        writeAll(in, bytes);
+        QVERIFY(WriteBytes(in, bytes));
         ScheduleDocument reopened;
         QVERIFY(OpenDocument(reopened, in).ok());
         QCOMPARE(reopened.values.PictureTitle, QString::fromUtf8("René’s \u0081 Film"));
@@ -212,7 +205,7 @@ private Q_SLOTS:
         lines[18] = "anything";
         lines[20] = "12";
         const QString path = TempPath("reserved.tbf");
-        writeAll(path, (lines.join("\r\n") + "\r\n").toLatin1());
+        QVERIFY(WriteBytes(path, (lines.join("\r\n") + "\r\n").toLatin1()));
         ScheduleDocument reopened;
         QVERIFY(OpenDocument(reopened, path).ok());
         QCOMPARE(ScheduleFileLines(reopened), ScheduleFileLines(doc));
@@ -237,7 +230,7 @@ private Q_SLOTS:
         QStringList lines = ScheduleFileLines(doc);
         lines[12] = line;
         const QString path = TempPath("zoom.tbf");
-        writeAll(path, (lines.join("\r\n") + "\r\n").toLatin1());
+        QVERIFY(WriteBytes(path, (lines.join("\r\n") + "\r\n").toLatin1()));
         ScheduleDocument reopened;
         RecordingView view;
         reopened.setView(&view);
@@ -289,7 +282,7 @@ private Q_SLOTS:
         QFETCH(QString, cause);
         QFETCH(QString, status);
         const QString path = TempPath("bad.tbf");
-        writeAll(path, bytes);
+        QVERIFY(WriteBytes(path, bytes));
 
         ScheduleDocument doc;
         ScriptedPrompter prompter;
@@ -325,7 +318,7 @@ private Q_SLOTS:
         const QStringList lines = ScheduleFileLines(doc);
         const QString path = TempPath("cut.tbf");
         for (int kept = 0; kept < lines.size(); ++kept) {
-            writeAll(path, (lines.mid(0, kept).join("\r\n") + (kept ? "\r\n" : "")).toLatin1());
+            QVERIFY(WriteBytes(path, (lines.mid(0, kept).join("\r\n") + (kept ? "\r\n" : "")).toLatin1()));
             ScheduleDocument reopened;
             ScriptedPrompter prompter;
             reopened.setPrompter(&prompter);
@@ -342,7 +335,7 @@ private Q_SLOTS:
         // The whole file opens, even without its last line end.
         QStringList whole = lines;
         whole.last() = "x";
-        writeAll(path, whole.join("\r\n").toLatin1());
+        QVERIFY(WriteBytes(path, whole.join("\r\n").toLatin1()));
         ScheduleDocument complete;
         QVERIFY(OpenDocument(complete, path).ok());
         QCOMPARE(ScheduleFileLines(complete), lines.mid(0, lines.size() - 1) << "x");
@@ -370,7 +363,7 @@ private Q_SLOTS:
 
         // A failed save over an existing file leaves that file whole.
         const QString existing = TempPath("keep.tbf");
-        writeAll(existing, "precious");
+        QVERIFY(WriteBytes(existing, "precious"));
         QVERIFY(QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
         const bool folderLocked = !QFile(TempPath("probe")).open(QIODevice::WriteOnly); // root ignores permissions
         if (folderLocked) {

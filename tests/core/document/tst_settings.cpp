@@ -15,20 +15,9 @@ using namespace tb::test;
 
 namespace {
 
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 QString readText(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return legacy::DecodeFileText(file.readAll());
+    return legacy::DecodeFileText(ReadFileBytes(path));
 }
 
 // Lines joined by "|" become the file's CR LF lines.
@@ -133,10 +122,11 @@ private slots:
         // Written by the earlier edition: Windows-1252, CR LF, key case as it pleased,
         // blanks around "=", system colour names, a comma as the decimal separator.
         const QString path = TempPath("earlier/Torvanbridge.ini");
-        writeBytes(path, crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
-                              "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
-                              "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
-                              "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|"));
+        QVERIFY(WriteBytes(path,
+                           crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
+                                "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
+                                "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
+                                "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|")));
         Settings s(path);
         QVERIFY(s.LoadSettings().isEmpty());
         QCOMPARE(s.autosaveMinutes, 10);
@@ -161,9 +151,7 @@ private slots:
         // Writing it back changes the keys in place, in their own spelling and section,
         // keeps the system colour name and the other sections, and keeps Windows-1252.
         QVERIFY(s.WritePreferences().ok());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = ReadFileBytes(path);
         QVERIFY(bytes.contains("[Files]\r\nautosavetime=10\r\n\r\n[Strips]\r\n"));
         QVERIFY(bytes.contains("[GENERAL]\r\nScenePopups=0\r\nWeatherURL=http://m\xe9t\xe9o.example/\r\n"));
         QVERIFY(bytes.contains("CB9=clBtnFace\r\n"));
@@ -194,7 +182,7 @@ private slots:
         QFETCH(QByteArray, value);
         QFETCH(bool, expected);
         const QString path = TempPath("bool/Torvanbridge.ini");
-        writeBytes(path, "[General]\r\nScenePopups=" + value + "\r\n");
+        QVERIFY(WriteBytes(path, "[General]\r\nScenePopups=" + value + "\r\n"));
         Settings s(path);
         s.LoadSettings();
         QCOMPARE(s.scenePopups, expected);
@@ -203,7 +191,7 @@ private slots:
     void unreadableValuesKeepDefaults()
     {
         const QString path = TempPath("bad/Torvanbridge.ini");
-        writeBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|"));
+        QVERIFY(WriteBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|")));
         Settings s(path);
         const QStringList problems = s.LoadSettings();
         QCOMPARE(problems.size(), 3);
@@ -219,7 +207,8 @@ private slots:
     void writeKeepsOtherLines()
     {
         const QString path = TempPath("keep/x.ini");
-        writeBytes(path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|"));
+        QVERIFY(WriteBytes(
+            path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|")));
         IniFile ini(path);
         QVERIFY(ini.load());
         QCOMPARE(ini.readString("other", "key"), "quoted value");

@@ -515,16 +515,9 @@ private Q_SLOTS:
         pushValues(*form->report, "N*3");
         const QString path = TempPath("report.pdf");
         QVERIFY(WriteReportPdf(*form->report, path, tPapersize::alr_Letter).ok());
-        QFile pdf(path);
-        QVERIFY(pdf.open(QIODevice::ReadOnly));
-        QVERIFY(pdf.readAll().startsWith("%PDF"));
-        pdf.close();
+        const QByteArray before = ReadFileBytes(path);
+        QVERIFY(before.startsWith("%PDF"));
         // A cancelled run leaves the earlier file as it was.
-        const QByteArray before = [&] {
-            QFile f(path);
-            f.open(QIODevice::ReadOnly);
-            return f.readAll();
-        }();
         class Cancelling : public ReportProgressBox
         {
         public:
@@ -536,9 +529,7 @@ private Q_SLOTS:
         } box;
         form->report->progressBox = &box;
         QVERIFY(!WriteReportPdf(*form->report, path).ok());
-        QFile after(path);
-        QVERIFY(after.open(QIODevice::ReadOnly));
-        QCOMPARE(after.readAll(), before);
+        QCOMPARE(ReadFileBytes(path), before);
         QVERIFY(!WriteReportPdf(*form->report, TempPath("no/such/folder/x.pdf")).ok());
     }
 };

@@ -304,11 +304,7 @@ private Q_SLOTS:
         QFETCH(QString, weather);
         QFETCH(QString, wrap);
         const QString path = TempPath(QStringLiteral("bad-%1.tbc").arg(QTest::currentDataTag()).replace(u' ', u'-'));
-        if (bytes != "<none>") {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(bytes);
-        }
+        QVERIFY(bytes == "<none>" || WriteBytes(path, bytes));
         CallSheet sheet;
         FillCallSheet(*m_doc, sheet, serial(Start));
         sheet.weather = QStringLiteral("keep");

@@ -245,10 +245,7 @@ private Q_SLOTS:
     void brokenTemplateNamesLineAndCause()
     {
         const QString path = TempPath("ShootSch1.dfm");
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("object F: TForm\n  object R: TAlReport\n    Papersize = alr_A3\n  end\nend\n");
-        f.close();
+        QVERIFY(WriteBytes(path, "object F: TForm\n  object R: TAlReport\n    Papersize = alr_A3\n  end\nend\n"));
         layOut(*m_doc, "1");
         Pushes pushes;
         QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context(path)).ok());
@@ -346,16 +343,14 @@ private Q_SLOTS:
     void breakdownCategoryFieldsByTag()
     {
         const QString path = TempPath("TaggedBreakdown.dfm");
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("object F: TForm\n  object R: TAlReport\n  end\n  object D: tAlBand\n    BandType = alr_Detail\n"
-                "    object BSField: TAlField\n    end\n"
-                "    object CastName: TAlField\n      Tag = 1\n    end\n"
-                "    object Ordinary: TAlField\n      Tag = 100\n    end\n"
-                "    object CastList: TAlField\n      Tag = 101\n    end\n"
-                "    object PropList: TAlField\n      Tag = 105\n    end\n"
-                "  end\nend\n");
-        f.close();
+        QVERIFY(WriteBytes(
+            path, "object F: TForm\n  object R: TAlReport\n  end\n  object D: tAlBand\n    BandType = alr_Detail\n"
+                  "    object BSField: TAlField\n    end\n"
+                  "    object CastName: TAlField\n      Tag = 1\n    end\n"
+                  "    object Ordinary: TAlField\n      Tag = 100\n    end\n"
+                  "    object CastList: TAlField\n      Tag = 101\n    end\n"
+                  "    object PropList: TAlField\n      Tag = 105\n    end\n"
+                  "  end\nend\n"));
         const int row = scene(*m_doc, "7");
         m_doc->strips[row].set(StripField::Location, QStringLiteral("QUAY"));
         m_doc->strips[row].set(StripField::Notes, QStringLiteral("\"Rain at dusk\",Boats"));

@@ -44,24 +44,15 @@ public:
     bool tickRemember = false;
 };
 
-template <typename T>
-T *child(QWidget &parent, const char *name)
-{
-    T *found = parent.findChild<T *>(QString::fromLatin1(name));
-    if (!found)
-        qFatal("no child %s", name);
-    return found;
-}
-
 void click(QWidget &parent, const char *button)
 {
-    QTest::mouseClick(child<QPushButton>(parent, button), Qt::LeftButton);
+    QTest::mouseClick(Child<QPushButton>(parent, button), Qt::LeftButton);
 }
 
 // Right-clicks the element grid in the given category column.
 QMenu *openPopup(TfrmStrip &dialog, int column)
 {
-    auto *grid = child<QTableWidget>(dialog, "ElGrid");
+    auto *grid = Child<QTableWidget>(dialog, "ElGrid");
     grid->scrollTo(grid->model()->index(0, column));
     const QPoint pos = grid->visualRect(grid->model()->index(0, column)).center();
     QTest::mouseClick(grid->viewport(), Qt::RightButton, {}, pos);
@@ -164,19 +155,19 @@ private Q_SLOTS:
         doc.strips[2].set(StripField::StripId, "17");
         TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
         QCOMPARE(dialog.windowTitle(), "Edit scene breakdown #17");
-        QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
-        QCOMPARE(child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
-        QCOMPARE(child<QSpinBox>(dialog, "EightsSpin")->value(), 4);
-        QCOMPARE(child<QComboBox>(dialog, "LocEdit")->currentText(), "BARN");
-        auto *grid = child<QTableWidget>(dialog, "ElGrid");
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
+        QCOMPARE(Child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
+        QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 4);
+        QCOMPARE(Child<QComboBox>(dialog, "LocEdit")->currentText(), "BARN");
+        auto *grid = Child<QTableWidget>(dialog, "ElGrid");
         QCOMPARE(grid->columnCount(), 15);
         QCOMPARE(grid->horizontalHeaderItem(0)->text(), "Cast");
         QCOMPARE(grid->horizontalHeaderItem(14)->text(), "Other");
         QCOMPARE(column(grid, 0), QStringList{"ANNA"});
         QCOMPARE(column(grid, 4), QStringList{"LAMP"});
         QVERIFY(!dialog.isChanged());
-        QVERIFY(child<QPushButton>(dialog, "PrevBut")->isEnabled());
-        QVERIFY(child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "NextBut")->isEnabled());
     }
     void popupToggleIsLostOnNext()
     {
@@ -190,7 +181,7 @@ private Q_SLOTS:
         QVERIFY(popupItem(menu, "ANNA")->isChecked());
         QTest::mouseClick(popupItem(menu, "BEN"), Qt::LeftButton);
         QVERIFY(!menu->isVisible());
-        QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 0), QStringList({"ANNA", "BEN"}));
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList({"ANNA", "BEN"}));
         QVERIFY(!dialog.isChanged());
 
         click(dialog, "NextBut");
@@ -198,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.currentStrip, 3);
         QCOMPARE(doc.strips[2][StripField::Assignments], "1,4");
         click(dialog, "PrevBut");
-        QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 0), QStringList{"ANNA"});
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList{"ANNA"});
     }
     void popupToggleSavedByOk()
     {
@@ -251,7 +242,7 @@ private Q_SLOTS:
         ScheduleDocument &doc = small();
         RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
-        QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Changed");
+        QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Changed");
         QVERIFY(dialog.isChanged());
         prompter.answers = {answer};
         prompter.tickRemember = remember;
@@ -266,7 +257,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.isChanged());
         QCOMPARE(settingsp->skipWarning(RememberedWarning::SceneChange), remember);
         if (remember) {
-            QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Two");
+            QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Two");
             click(dialog, "NextBut");
             QCOMPARE(prompter.prompts.size(), 1);
             QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
@@ -280,23 +271,23 @@ private Q_SLOTS:
         click(dialog, "NextBut");
         QCOMPARE(dialog.currentStrip, 5);
         QCOMPARE(doc.SelStart, 5);
-        QVERIFY(!child<QPushButton>(dialog, "NextBut")->isEnabled());
-        QVERIFY(child<QPushButton>(dialog, "PrevBut")->isEnabled());
-        QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "3"); // the page still shows scene 3
+        QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "3"); // the page still shows scene 3
         click(dialog, "PrevBut");
         QCOMPARE(dialog.currentStrip, 3);
-        QVERIFY(child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "NextBut")->isEnabled());
     }
     void insertModeDisablesApplyAndStepping()
     {
         ScheduleDocument &doc = small();
         TfrmStrip &dialog = openScene(SceneMode::Insert, 2);
         QCOMPARE(dialog.windowTitle(), "New scene breakdown #4");
-        QVERIFY(!child<QPushButton>(dialog, "AddContBut")->isEnabled());
-        QVERIFY(!child<QPushButton>(dialog, "PrevBut")->isEnabled());
-        QVERIFY(!child<QPushButton>(dialog, "NextBut")->isEnabled());
-        QCOMPARE(child<QSpinBox>(dialog, "EightsSpin")->value(), 1);
-        QTest::keyClicks(child<QLineEdit>(dialog, "SceneEdit"), "1A");
+        QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 1);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "1A");
         click(dialog, "OKBut");
         QCOMPARE(doc.strips[2][StripField::SceneNumber], "1A");
         QCOMPARE(doc.strips[3][StripField::SceneNumber], "2");
@@ -305,17 +296,17 @@ private Q_SLOTS:
     {
         ScheduleDocument &doc = small();
         TfrmStrip &dialog = openScene(SceneMode::Add, 0);
-        QTest::keyClicks(child<QLineEdit>(dialog, "SceneEdit"), "9");
-        child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
+        QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "9");
+        Child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
         click(dialog, "AddContBut");
         click(dialog, "AddContBut");
         QCOMPARE(doc.strips.count(), 6);
         QCOMPARE(doc.strips[5][StripField::SceneNumber], "9");
         QCOMPARE(doc.strips[6][StripField::SceneNumber], "9");
-        QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Close");
-        QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
         QVERIFY(doc.locationPickList.contains("HARBOUR"));
-        auto *locations = child<QComboBox>(dialog, "LocEdit");
+        auto *locations = Child<QComboBox>(dialog, "LocEdit");
         QVERIFY(locations->findText("HARBOUR") >= 0);
         QCOMPARE(locations->currentText(), "HARBOUR");
         click(dialog, "CancelBut");
@@ -327,16 +318,16 @@ private Q_SLOTS:
         ScheduleDocument &doc = small();
         RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Add, 0);
-        child<QLineEdit>(dialog, "SceneEdit")->setText("77");
-        child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
+        Child<QLineEdit>(dialog, "SceneEdit")->setText("77");
+        Child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
         click(dialog, "OKBut");
         QVERIFY(dialog.isVisible());
-        QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
         QCOMPARE(prompter.prompts.size(), 1);
         QCOMPARE(doc.strips.count(), 4);
         click(dialog, "AddContBut"); // Apply refuses the same way
         QVERIFY(dialog.isVisible());
-        QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
         QCOMPARE(doc.strips.count(), 4);
         click(dialog, "CancelBut");
     }
@@ -349,7 +340,7 @@ private Q_SLOTS:
         QTest::mouseClick(menu->findChild<QPushButton *>("ElPopupAddNew"), Qt::LeftButton);
         QCOMPARE(doc.elements.count(), 6);
         // The table's last element, CROWD, is now flagged for this strip.
-        QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 1), QStringList{"CROWD"});
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 1), QStringList{"CROWD"});
         QVERIFY(dialog.isChanged());
         QCOMPARE(dialog.elementDialog()->currentCategory, 1);
         click(dialog, "OKBut");
@@ -363,29 +354,29 @@ private Q_SLOTS:
         dialog.currentCategory = 1;
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Add new element");
-        QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "4");
-        QVERIFY(child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-        QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "DORA");
-        child<QListWidget>(dialog, "AssignList")->item(2)->setCheckState(Qt::Checked);
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
+        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "DORA");
+        Child<QListWidget>(dialog, "AssignList")->item(2)->setCheckState(Qt::Checked);
         click(dialog, "AddContBut");
-        QCOMPARE(child<QLineEdit>(dialog, "ElName")->text(), "");
-        QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "5");
-        QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "EVE");
+        QCOMPARE(Child<QLineEdit>(dialog, "ElName")->text(), "");
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "5");
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "EVE");
         click(dialog, "AddContBut");
         QCOMPARE(doc.elements.count(), 8);
         QCOMPARE(doc.elements[7][ElementField::Description], "DORA");
         QCOMPARE(doc.elements[7][ElementField::BoardId], "4");
         QCOMPARE(doc.elements[8][ElementField::BoardId], "5");
         QCOMPARE(doc.strips[3][StripField::Assignments], "7");
-        QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Close");
-        QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
         QVERIFY(dialog.isVisible());
 
         // Shown again, the dialog starts afresh.
         click(dialog, "CancelBut");
         dialog.show();
-        QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Cancel");
-        QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Cancel");
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
     }
     void categoryChangeGivesCastNumber()
     {
@@ -394,17 +385,17 @@ private Q_SLOTS:
         dialog.editIndex = 4; // LAMP, a prop
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Edit element \"LAMP\"");
-        QVERIFY(!child<QPushButton>(dialog, "AddContBut")->isEnabled());
-        auto *categories = child<QComboBox>(dialog, "CatCombo");
+        QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
+        auto *categories = Child<QComboBox>(dialog, "CatCombo");
         QCOMPARE(categories->count(), 15);
         QCOMPARE(categories->currentIndex(), 4);
-        QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "Prp");
-        QVERIFY(!child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "Prp");
+        QVERIFY(!Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
         categories->setFocus();
         while (categories->currentIndex() > 0)
             QTest::keyClick(categories, Qt::Key_Up);
-        QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "4");
-        QVERIFY(child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
+        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
         click(dialog, "OKBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(doc.elements[4][ElementField::CategoryNumber], "1");
@@ -418,7 +409,7 @@ private Q_SLOTS:
         TfrmAddElement dialog(doc);
         dialog.editIndex = 5; // VASE, a prop
         dialog.show();
-        auto *id = child<QLineEdit>(dialog, "IDEdit");
+        auto *id = Child<QLineEdit>(dialog, "IDEdit");
         id->setText("3");
         prompter.answers = {Answer::No};
         click(dialog, "OKBut");
@@ -436,12 +427,12 @@ private Q_SLOTS:
         TfrmAddElement dialog(doc);
         dialog.editIndex = -1;
         dialog.show();
-        child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
-        QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "FRED");
+        Child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "FRED");
         click(dialog, "OKBut");
         QCOMPARE(doc.elements[7][ElementField::HoldRule], "SAG");
         dialog.show();
-        QVERIFY(child<QCheckBox>(dialog, "SAGCheck")->isChecked());
+        QVERIFY(Child<QCheckBox>(dialog, "SAGCheck")->isChecked());
     }
     void editElementAssignments()
     {
@@ -449,7 +440,7 @@ private Q_SLOTS:
         TfrmAddElement dialog(doc);
         dialog.editIndex = 1; // ANNA, in scene 2
         dialog.show();
-        auto *list = child<QListWidget>(dialog, "AssignList");
+        auto *list = Child<QListWidget>(dialog, "AssignList");
         QCOMPARE(list->count(), 3);
         QCOMPARE(list->item(1)->checkState(), Qt::Checked);
         list->item(1)->setCheckState(Qt::Unchecked);
@@ -467,21 +458,21 @@ private Q_SLOTS:
         }
         TfrmSort dialog(doc);
         dialog.show();
-        QCOMPARE(child<QComboBox>(dialog, "HighCombo")->currentText(), "Location");
-        QCOMPARE(child<QComboBox>(dialog, "MidCombo")->currentText(), "Day / Night");
-        QCOMPARE(child<QComboBox>(dialog, "LowCombo")->currentText(), "Int / Ext");
-        QCOMPARE(child<QComboBox>(dialog, "MidCombo")->itemText(0), "(None)");
-        QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
-        QVERIFY(!child<QPushButton>(dialog, "UnSortBut")->isEnabled());
-        auto *grid = child<QTableWidget>(dialog, "SortGrid");
+        QCOMPARE(Child<QComboBox>(dialog, "HighCombo")->currentText(), "Location");
+        QCOMPARE(Child<QComboBox>(dialog, "MidCombo")->currentText(), "Day / Night");
+        QCOMPARE(Child<QComboBox>(dialog, "LowCombo")->currentText(), "Int / Ext");
+        QCOMPARE(Child<QComboBox>(dialog, "MidCombo")->itemText(0), "(None)");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "UnSortBut")->isEnabled());
+        auto *grid = Child<QTableWidget>(dialog, "SortGrid");
         QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
         click(dialog, "SortBut");
         QCOMPARE(column(grid, 2), QStringList({"ATTIC", "BARN", "PIER"}));
         QCOMPARE(column(grid, 0), QStringList({"3", "2", "1"}));
-        QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
         click(dialog, "UnSortBut");
         QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
-        QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
         click(dialog, "SortBut");
         click(dialog, "OKBut");
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -497,7 +488,7 @@ private Q_SLOTS:
         AddScene(doc, "2", "1");
         TfrmSort dialog(doc);
         dialog.show();
-        child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
+        Child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
         click(dialog, "SortBut");
         prompter.answers = {Answer::Abort};
         click(dialog, "OKBut");
@@ -512,7 +503,7 @@ private Q_SLOTS:
         RememberingPrompter &prompter = *prompterp;
         TfrmConform dialog(doc);
         dialog.show();
-        auto *entry = child<QLineEdit>(dialog, "ConformEdit");
+        auto *entry = Child<QLineEdit>(dialog, "ConformEdit");
         for (const char *text : {"3", "+", "1", "*Travel", "7"}) {
             entry->setText(text);
             QTest::keyClick(entry, Qt::Key_Return);
@@ -520,7 +511,7 @@ private Q_SLOTS:
         }
         QCOMPARE(entry->text(), "");
         QCOMPARE(prompter.prompts.size(), 1); // "7" is no strip
-        auto *grid = child<QTableWidget>(dialog, "ConformGrid");
+        auto *grid = Child<QTableWidget>(dialog, "ConformGrid");
         QCOMPARE(grid->rowCount(), 5);
         QVERIFY(grid->isColumnHidden(2));
         QCOMPARE(grid->item(1, 1)->text(), "--- Divider ---");
@@ -559,18 +550,18 @@ private Q_SLOTS:
 
         TfrmProdInfo dialog(doc);
         dialog.show();
-        QCOMPARE(child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
-        QCOMPARE(child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
-        QCOMPARE(child<QLineEdit>(dialog, "UnitEdit")->text(), "8:00 am");
-        QVERIFY(!child<QLabel>(dialog, "Image1")->pixmap().isNull());
-        auto *crew = child<QTableWidget>(dialog, "CrewGrid");
+        QCOMPARE(Child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
+        QCOMPARE(Child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
+        QCOMPARE(Child<QLineEdit>(dialog, "UnitEdit")->text(), "8:00 am");
+        QVERIFY(!Child<QLabel>(dialog, "Image1")->pixmap().isNull());
+        auto *crew = Child<QTableWidget>(dialog, "CrewGrid");
         QCOMPARE(crew->rowCount(), 50);
         QCOMPARE(crew->columnCount(), 3);
         QCOMPARE(crew->horizontalHeaderItem(2)->text(), "Contact");
         QCOMPARE(crew->item(1, 1)->text(), "Lo");
 
-        child<QLineEdit>(dialog, "TitleEdit")->setText("Storm");
-        child<QPlainTextEdit>(dialog, "MiscMemo")->setPlainText("a\nb, c\nd");
+        Child<QLineEdit>(dialog, "TitleEdit")->setText("Storm");
+        Child<QPlainTextEdit>(dialog, "MiscMemo")->setPlainText("a\nb, c\nd");
         crew->item(49, 0)->setText("Runner");
         crew->item(1, 1)->setText("");
         click(dialog, "OKBut");
@@ -590,14 +581,11 @@ private Q_SLOTS:
         TfrmProdInfo dialog(doc);
         dialog.show();
         QCOMPARE(prompter.prompts.size(), 1); // the broken link, worded in the core's tests
-        QCOMPARE(child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
+        QCOMPARE(Child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
 
         // A chosen file that is no picture is still taken over by OK.
         const QString text = TempPath("notes.jpg");
-        QFile f(text);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("not a picture");
-        f.close();
+        QVERIFY(WriteBytes(text, "not a picture"));
         dialog.loadChosenLogo(text);
         QCOMPARE(prompter.prompts.size(), 2);
         click(dialog, "OKBut");

@@ -67,15 +67,6 @@ struct ScriptFolder
     QString path(const QString &name) const { return QDir(dir.path()).filePath(name); }
 };
 
-template <typename T>
-T *child(QWidget *parent, const char *name)
-{
-    T *w = parent->findChild<T *>(QString::fromLatin1(name));
-    if (!w)
-        qFatal("no child %s", name);
-    return w;
-}
-
 QStringList ListTexts(QListWidget *list)
 {
     QStringList texts;
@@ -86,14 +77,14 @@ QStringList ListTexts(QListWidget *list)
 
 void Click(QWidget *parent, const char *button)
 {
-    QAbstractButton *b = child<QAbstractButton>(parent, button);
+    QAbstractButton *b = Child<QAbstractButton>(parent, button);
     QVERIFY2(b->isEnabled(), button);
     QTest::mouseClick(b, Qt::LeftButton);
 }
 
 void SelectFile(TfrmImportScript &wizard, const QString &name)
 {
-    QListWidget *files = child<QListWidget>(&wizard, "FileListBox1");
+    QListWidget *files = Child<QListWidget>(&wizard, "FileListBox1");
     const QList<QListWidgetItem *> found = files->findItems(name, Qt::MatchExactly);
     QVERIFY(!found.isEmpty());
     QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, files->visualItemRect(found.first()).center());
@@ -132,13 +123,13 @@ private Q_SLOTS:
     {
         Wizard w;
         TfrmImportScript &wizard = w.wizard;
-        auto *next = child<QPushButton>(&wizard, "NextBut");
-        auto *back = child<QPushButton>(&wizard, "BackBut");
+        auto *next = Child<QPushButton>(&wizard, "NextBut");
+        auto *back = Child<QPushButton>(&wizard, "BackBut");
         QCOMPARE(wizard.windowTitle(), "Script import (TXT file)");
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(!back->isEnabled());
         QCOMPARE(next->text(), "Next >");
-        QCOMPARE(child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
+        QCOMPARE(Child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
 
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 1);
@@ -153,11 +144,11 @@ private Q_SLOTS:
         SelectFile(wizard, "kitchen.txt");
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 2);
-        auto *view = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        auto *view = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QVERIFY(view->toPlainText().startsWith("FADE IN:\n\nINT. KITCHEN - NIGHT\n"));
         QCOMPARE(view->textCursor().selectedText().size(), view->toPlainText().size()); // all selected
         QCOMPARE(wizard.scriptLines().size(), 13);
-        QCOMPARE(child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
+        QCOMPARE(Child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
 
         // Next becomes Import! on the last page only.
         for (const char *button : {"NextBut", "NextBut", "BackBut"}) {
@@ -178,13 +169,13 @@ private Q_SLOTS:
         wizard.show();
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(view->toPlainText().isEmpty());
-        QCOMPARE(child<QProgressBar>(&wizard, "PBar")->value(), 0);
+        QCOMPARE(Child<QProgressBar>(&wizard, "PBar")->value(), 0);
     }
 
     void wizardFileList()
     {
         Wizard w;
-        auto *files = child<QListWidget>(&w.wizard, "FileListBox1");
+        auto *files = Child<QListWidget>(&w.wizard, "FileListBox1");
         // Text, Fountain and Final Draft files only, whatever the case of the extension.
         QCOMPARE(ListTexts(files),
                  (QStringList{"B-SIDE.TXT", "bad.fdx", "heist.fdx", "heist.fountain", "junk.txt", "kitchen.txt"}));
@@ -193,7 +184,7 @@ private Q_SLOTS:
         // Choosing a folder in the tree lists its files.
         w.wizard.setDirectory(w.folder.path("drafts"));
         QCOMPARE(ListTexts(files), QStringList{});
-        auto *tree = child<QTreeView>(&w.wizard, "DirectoryListBox1");
+        auto *tree = Child<QTreeView>(&w.wizard, "DirectoryListBox1");
         QCOMPARE(tree->currentIndex().data().toString(), "drafts");
         tree->setCurrentIndex(tree->currentIndex().parent());
         QCOMPARE(w.wizard.directory(), w.folder.dir.path());
@@ -236,8 +227,8 @@ private Q_SLOTS:
     {
         ScheduleDocument doc;
         TfrmImportScript wizard(doc);
-        auto *button = child<QPushButton>(&wizard, "FontBut");
-        auto *edit = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        auto *button = Child<QPushButton>(&wizard, "FontBut");
+        auto *edit = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QCOMPARE(button->text(), "Courier 12pt");
         QCOMPARE(edit->font().family(), "Courier New");
 
@@ -265,15 +256,15 @@ private Q_SLOTS:
         ScheduleDocument doc;
         TfrmImportScript wizard(doc);
         wizard.show();
-        child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
-        auto *day = child<QListWidget>(&wizard, "DayList");
-        auto *night = child<QListWidget>(&wizard, "NightList");
+        Child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
+        auto *day = Child<QListWidget>(&wizard, "DayList");
+        auto *night = Child<QListWidget>(&wizard, "NightList");
         QCOMPARE(ListTexts(day), DefaultDayWords());
         QCOMPARE(ListTexts(night), DefaultNightWords());
-        QCOMPARE(ListTexts(child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
-        QCOMPARE(child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
-        QCOMPARE(child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
-        QCOMPARE(child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
+        QCOMPARE(ListTexts(Child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
+        QCOMPARE(Child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
+        QCOMPARE(Child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
+        QCOMPARE(Child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
 
         QStringList captions;
         std::optional<QString> answer;
@@ -283,7 +274,7 @@ private Q_SLOTS:
         };
         auto click = [&](const char *button, std::optional<QString> typed) {
             answer = typed;
-            QTest::mouseClick(child<QToolButton>(&wizard, button), Qt::LeftButton);
+            QTest::mouseClick(Child<QToolButton>(&wizard, button), Qt::LeftButton);
         };
         click("NightAddBut", "  twilight ");
         QCOMPARE(ListTexts(night).last(), "twilight");
@@ -339,15 +330,15 @@ private Q_SLOTS:
         w.wizard.setDirectory(w.folder.path("drafts")); // and back: the list is read again
         w.wizard.setDirectory(w.folder.dir.path());
         w.choose(file);
-        child<QCheckBox>(&w.wizard, "FountainCheck")->setChecked(markedFountain);
+        Child<QCheckBox>(&w.wizard, "FountainCheck")->setChecked(markedFountain);
 
         // The line and font pages are skipped both ways.
         for (const char *button : {"NextBut", "BackBut", "NextBut"}) {
             Click(&w.wizard, button);
             QCOMPARE(w.wizard.currentStep(), *button == 'N' ? 4 : 1);
         }
-        QCOMPARE(child<QPushButton>(&w.wizard, "NextBut")->text(), "Import!");
-        QVERIFY(child<QPlainTextEdit>(&w.wizard, "ImportEdit")->toPlainText().contains("VAULT"));
+        QCOMPARE(Child<QPushButton>(&w.wizard, "NextBut")->text(), "Import!");
+        QVERIFY(Child<QPlainTextEdit>(&w.wizard, "ImportEdit")->toPlainText().contains("VAULT"));
 
         Click(&w.wizard, "NextBut");
         QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
@@ -387,10 +378,10 @@ private Q_SLOTS:
         for (int k = 0; k < 4; ++k)
             Click(&w.wizard, "NextBut");
         QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
-        QVERIFY(!child<QPushButton>(&w.wizard, "BackBut")->isEnabled());
-        QVERIFY(!child<QPushButton>(&w.wizard, "CancelBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(&w.wizard, "BackBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(&w.wizard, "CancelBut")->isEnabled());
 
-        auto *list = child<QTreeWidget>(&w.wizard, "CharacterList");
+        auto *list = Child<QTreeWidget>(&w.wizard, "CharacterList");
         QStringList shown;
         for (int k = 0; k < list->topLevelItemCount(); ++k) {
             const QTreeWidgetItem *item = list->topLevelItem(k);
@@ -427,9 +418,9 @@ private Q_SLOTS:
         ScriptedPrompter prompter;
         doc.setPrompter(&prompter);
         TfrmFDImport dialog(doc);
-        auto *scene = child<QLineEdit>(&dialog, "SceneEdit");
-        auto *script = child<QLineEdit>(&dialog, "ScriptEdit");
-        auto *import = child<QPushButton>(&dialog, "ImportBut");
+        auto *scene = Child<QLineEdit>(&dialog, "SceneEdit");
+        auto *script = Child<QLineEdit>(&dialog, "ScriptEdit");
+        auto *import = Child<QPushButton>(&dialog, "ImportBut");
         scene->setText("left over");
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Final Draft import");
@@ -466,7 +457,7 @@ private Q_SLOTS:
         };
         auto browse = [&](const char *button, const QString &chosen) {
             answer = chosen;
-            QTest::mouseClick(child<QPushButton>(&dialog, button), Qt::LeftButton);
+            QTest::mouseClick(Child<QPushButton>(&dialog, button), Qt::LeftButton);
         };
         browse("SceneBrowse", "/reports/scenes.txt");
         browse("ScriptBrowse", "/reports/script.txt");
@@ -475,7 +466,7 @@ private Q_SLOTS:
         QCOMPARE(scene->text(), "/reports/scenes.txt");
         QCOMPARE(script->text(), "/reports/script.txt");
         QVERIFY(import->isEnabled());
-        QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
+        QTest::mouseClick(Child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
         QVERIFY(!dialog.isVisible());
     }
 };

@@ -57,10 +57,7 @@ void fillPreview(TfrmPreview &preview, ScheduleDocument &doc, int *count)
 
 int pdfPages(const QString &path)
 {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray data = f.readAll();
+    const QByteArray data = ReadFileBytes(path);
     return int(data.count("/Type /Page\n") + data.count("/Type /Page\r") + data.count("/Type /Page>>") +
                data.count("/Type /Page ") - data.count("/Type /Pages "));
 }

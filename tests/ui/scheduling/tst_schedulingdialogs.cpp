@@ -33,15 +33,6 @@ using namespace tb::test;
 
 namespace {
 
-template <typename T>
-T *child(QWidget *dialog, const char *name)
-{
-    T *widget = dialog->findChild<T *>(QLatin1String(name));
-    if (!widget)
-        qFatal("no %s", name);
-    return widget;
-}
-
 // Clicks a button of whatever modal dialog is open once the event loop runs.
 void clickInModal(const char *button, std::function<void(QWidget *)> before = {})
 {
@@ -50,7 +41,7 @@ void clickInModal(const char *button, std::function<void(QWidget *)> before = {}
         QVERIFY(modal);
         if (before)
             before(modal);
-        child<QPushButton>(modal, button)->click();
+        Child<QPushButton>(modal, button)->click();
     });
 }
 
@@ -69,14 +60,14 @@ private Q_SLOTS:
         TfrmAutoPages dialog(doc);
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Automatic day dividers");
-        auto *spin = child<QSpinBox>(&dialog, "PagesSpin");
-        auto *heading = child<QLabel>(&dialog, "Label4");
+        auto *spin = Child<QSpinBox>(&dialog, "PagesSpin");
+        auto *heading = Child<QLabel>(&dialog, "Label4");
         QCOMPARE(spin->value(), 5);
         QCOMPARE(spin->maximum(), 20);
         QCOMPARE(heading->text(), "If a scene is longer than X pages...");
-        QVERIFY(child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
-        QVERIFY(child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
-        QCOMPARE(child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
+        QVERIFY(Child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
+        QVERIFY(Child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
+        QCOMPARE(Child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
                  "Assumes you will need to shoot the scene over more than one day");
         spin->setFocus();
         QTest::keyClick(spin, Qt::Key_Up);
@@ -85,15 +76,15 @@ private Q_SLOTS:
         QCOMPARE(heading->text(), "If a single scene is longer than 20 pages...");
 
         spin->setValue(5);
-        child<QRadioButton>(&dialog, "SplitCheck")->click();
-        child<QPushButton>(&dialog, "OKBut")->click();
+        Child<QRadioButton>(&dialog, "SplitCheck")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(Kinds(doc), "1 2 2");
 
         // Cancel changes nothing.
         dialog.show();
-        child<QCheckBox>(&dialog, "RemoveCheck")->click();
-        child<QPushButton>(&dialog, "CancelBut")->click();
+        Child<QCheckBox>(&dialog, "RemoveCheck")->click();
+        Child<QPushButton>(&dialog, "CancelBut")->click();
         QCOMPARE(Kinds(doc), "1 2 2");
     }
     void bannerNew()
@@ -105,19 +96,19 @@ private Q_SLOTS:
         dialog.setMode(BannerAddAtEnd);
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Banner");
-        auto *text = child<QLineEdit>(&dialog, "BannerTextEdit");
-        auto *dayCheck = child<QCheckBox>(&dialog, "DayCheck");
-        auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
+        auto *text = Child<QLineEdit>(&dialog, "BannerTextEdit");
+        auto *dayCheck = Child<QCheckBox>(&dialog, "DayCheck");
+        auto *daySpin = Child<QSpinBox>(&dialog, "DaySpin");
         QVERIFY(!daySpin->isEnabled());
         QCOMPARE(daySpin->maximum(), 365);
-        QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
-        QCOMPARE(child<ColourButton>(&dialog, "TextColorBut")->colourName(), "clNavy");
+        QCOMPARE(Child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
+        QCOMPARE(Child<ColourButton>(&dialog, "TextColorBut")->colourName(), "clNavy");
 
         dayCheck->click();
         QVERIFY(daySpin->isEnabled());
         daySpin->setValue(2);
         QTest::keyClicks(text, "Travel day");
-        child<QPushButton>(&dialog, "OKBut")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(Kinds(doc), "1 4");
         QCOMPARE(doc.strips[2][StripField::Synopsis], "Travel day");
         QCOMPARE(doc.strips[2][StripField::StripColour], "clYellow,clNavy");
@@ -139,17 +130,17 @@ private Q_SLOTS:
         TfrmBanner dialog(doc);
         dialog.setMode(BannerEdit);
         dialog.show();
-        auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
-        QCOMPARE(child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "Holiday");
-        QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clRed");
-        QCOMPARE(child<ColourButton>(&dialog, "TextColorBut")->colourName(), "$00C0FFEE");
-        QVERIFY(child<QCheckBox>(&dialog, "DayCheck")->isChecked());
+        auto *daySpin = Child<QSpinBox>(&dialog, "DaySpin");
+        QCOMPARE(Child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "Holiday");
+        QCOMPARE(Child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clRed");
+        QCOMPARE(Child<ColourButton>(&dialog, "TextColorBut")->colourName(), "$00C0FFEE");
+        QVERIFY(Child<QCheckBox>(&dialog, "DayCheck")->isChecked());
         QVERIFY(daySpin->isEnabled());
         QCOMPARE(daySpin->value(), 3);
 
-        child<QCheckBox>(&dialog, "DayCheck")->click();
+        Child<QCheckBox>(&dialog, "DayCheck")->click();
         QVERIFY(!daySpin->isEnabled());
-        child<QPushButton>(&dialog, "OKBut")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(Kinds(doc), "1 4");
         QCOMPARE(doc.strips[row][StripField::StripColour], "clRed,$00C0FFEE"); // names kept as stored
         QCOMPARE(doc.strips[row][StripField::DayCount], "0");
@@ -179,9 +170,9 @@ private Q_SLOTS:
         TfrmStartDate1 dialog(doc);
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Start date");
-        auto *picker = child<QDateEdit>(&dialog, "StartPicker");
-        auto *tick = child<QCheckBox>(&dialog, "StartCheck");
-        auto *ok = child<QPushButton>(&dialog, "OKBut");
+        auto *picker = Child<QDateEdit>(&dialog, "StartPicker");
+        auto *tick = Child<QCheckBox>(&dialog, "StartCheck");
+        auto *ok = Child<QPushButton>(&dialog, "OKBut");
         QCOMPARE(picker->date(), QDate(2026, 3, 6));
         QVERIFY(tick->isChecked());
         QVERIFY(picker->calendarPopup());
@@ -226,35 +217,35 @@ private Q_SLOTS:
         TfrmCalender dialog(doc);
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Defualt rest days");
-        auto *dayRadio = child<QRadioButton>(&dialog, "DayRadio");
-        auto *firstRadio = child<QRadioButton>(&dialog, "FirstRadio");
-        auto *hint = child<QLabel>(&dialog, "HintLab");
-        auto *check7 = child<QCheckBox>(&dialog, "Check7");
+        auto *dayRadio = Child<QRadioButton>(&dialog, "DayRadio");
+        auto *firstRadio = Child<QRadioButton>(&dialog, "FirstRadio");
+        auto *hint = Child<QLabel>(&dialog, "HintLab");
+        auto *check7 = Child<QCheckBox>(&dialog, "Check7");
         QVERIFY(dayRadio->isEnabled());
         QVERIFY(dayRadio->isChecked());
-        QCOMPARE(child<QCheckBox>(&dialog, "Check1")->text(), "Mon");
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check1")->text(), "Mon");
         QCOMPARE(check7->text(), "Sun");
         QVERIFY(check7->isVisible());
-        QVERIFY(child<QCheckBox>(&dialog, "Check6")->isChecked());
+        QVERIFY(Child<QCheckBox>(&dialog, "Check6")->isChecked());
         QVERIFY(check7->isChecked());
-        QVERIFY(!child<QCheckBox>(&dialog, "Check5")->isChecked());
+        QVERIFY(!Child<QCheckBox>(&dialog, "Check5")->isChecked());
         QCOMPARE(hint->text(), "Eg; Selecting \"Sun\" will designate all Sundays to be rest days. ");
-        QCOMPARE(child<QLabel>(&dialog, "DayLab")->text(), "First day of production is currently a Friday.");
+        QCOMPARE(Child<QLabel>(&dialog, "DayLab")->text(), "First day of production is currently a Friday.");
 
         firstRadio->click();
         for (int k = 1; k <= 6; ++k)
-            QCOMPARE(child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), QString::number(k + 1));
+            QCOMPARE(Child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), QString::number(k + 1));
         QVERIFY(!check7->isVisible());
         QCOMPARE(hint->text(),
                  "Eg; Selecting \" 7 \" will make every 7th day a rest day, begining from the first day of production");
 
         dayRadio->click();
-        QCOMPARE(child<QCheckBox>(&dialog, "Check6")->text(), "Sat");
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check6")->text(), "Sat");
         QVERIFY(check7->isVisible());
 
         // From the start day, the hidden but ticked seventh box still writes its digit.
         firstRadio->click();
-        child<QPushButton>(&dialog, "OKBut")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(doc.values.AutoRestDayRule, "S67");
     }
     void calenderWithoutStartDate()
@@ -263,13 +254,13 @@ private Q_SLOTS:
         doc.values.AutoRestDayRule = "D7";
         TfrmCalender dialog(doc);
         dialog.show();
-        QVERIFY(!child<QRadioButton>(&dialog, "DayRadio")->isEnabled());
-        QVERIFY(child<QRadioButton>(&dialog, "FirstRadio")->isChecked());
-        QCOMPARE(child<QCheckBox>(&dialog, "Check1")->text(), "2");
-        QVERIFY(!child<QCheckBox>(&dialog, "Check7")->isVisible());
-        QVERIFY(child<QCheckBox>(&dialog, "Check7")->isChecked());
-        child<QCheckBox>(&dialog, "Check5")->click();
-        child<QPushButton>(&dialog, "OKBut")->click();
+        QVERIFY(!Child<QRadioButton>(&dialog, "DayRadio")->isEnabled());
+        QVERIFY(Child<QRadioButton>(&dialog, "FirstRadio")->isChecked());
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check1")->text(), "2");
+        QVERIFY(!Child<QCheckBox>(&dialog, "Check7")->isVisible());
+        QVERIFY(Child<QCheckBox>(&dialog, "Check7")->isChecked());
+        Child<QCheckBox>(&dialog, "Check5")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(doc.values.AutoRestDayRule, "S57");
     }
     void holdDays()
@@ -279,11 +270,11 @@ private Q_SLOTS:
         TfrmHold dialog(doc);
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Hold days");
-        auto *spin = child<QSpinBox>(&dialog, "DropSpin");
+        auto *spin = Child<QSpinBox>(&dialog, "DropSpin");
         QCOMPARE(spin->value(), 25);
         QCOMPARE(spin->maximum(), 999);
         spin->setValue(40);
-        child<QPushButton>(&dialog, "OKBut")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(doc.values.HoldDays, 40);
         QVERIFY(!doc.Modified);
 
@@ -291,7 +282,7 @@ private Q_SLOTS:
         dialog.show();
         QCOMPARE(spin->value(), 40);
         spin->setValue(3);
-        child<QPushButton>(&dialog, "CancelBut")->click();
+        Child<QPushButton>(&dialog, "CancelBut")->click();
         QCOMPARE(doc.values.HoldDays, 40);
     }
     void lock()
@@ -311,13 +302,13 @@ private Q_SLOTS:
         doc.values.StartDate = FridayMarch6;
         doc.strips[2].set(StripField::LockDate, "3/20/2026");
         clickInModal("OKBut", [](QWidget *modal) {
-            auto *picker = child<QDateEdit>(modal, "DTPick");
+            auto *picker = Child<QDateEdit>(modal, "DTPick");
             // The picker starts at the selected strip's lock date.
             QCOMPARE(picker->date(), QDate(2026, 3, 20));
             QCOMPARE(picker->toolTip(), "Click arrow to drop down callender");
-            child<QRadioButton>(modal, "Unlockradio")->click();
+            Child<QRadioButton>(modal, "Unlockradio")->click();
             QVERIFY(!picker->isEnabled());
-            child<QRadioButton>(modal, "LockRadio")->click();
+            Child<QRadioButton>(modal, "LockRadio")->click();
             QVERIFY(picker->isEnabled());
             picker->setDate(QDate(2026, 3, 1)); // before the start date
         });
@@ -327,7 +318,7 @@ private Q_SLOTS:
         QCOMPARE(prompter.prompts.size(), 1); // the warning; locked all the same
         QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
 
-        clickInModal("OKBut", [](QWidget *modal) { child<QRadioButton>(modal, "Unlockradio")->click(); });
+        clickInModal("OKBut", [](QWidget *modal) { Child<QRadioButton>(modal, "Unlockradio")->click(); });
         dialog.exec();
         QCOMPARE(doc.strips[2][StripField::LockDate], "");
     }
@@ -337,11 +328,11 @@ private Q_SLOTS:
         TfrmDate dates(doc);
         dates.show();
         QCOMPARE(dates.windowTitle(), "Dates");
-        QVERIFY(child<QRadioButton>(&dates, "AddDatesRadio")->isChecked());
-        QCOMPARE(child<QPushButton>(&dates, "Button1")->text(), "GO!");
-        child<QPushButton>(&dates, "Button1")->click();
+        QVERIFY(Child<QRadioButton>(&dates, "AddDatesRadio")->isChecked());
+        QCOMPARE(Child<QPushButton>(&dates, "Button1")->text(), "GO!");
+        Child<QPushButton>(&dates, "Button1")->click();
         QVERIFY(dates.isVisible()); // does nothing
-        child<QPushButton>(&dates, "Button2")->click();
+        Child<QPushButton>(&dates, "Button2")->click();
         QVERIFY(!dates.isVisible());
     }
     void endOfDay()
@@ -356,9 +347,9 @@ private Q_SLOTS:
         eod.today = [start] { return start; };
         eod.show();
         QCOMPARE(eod.windowTitle(), "End of day");
-        QCOMPARE(child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
-        auto *list = child<QListWidget>(&eod, "CheckListBox1");
-        auto *picker = child<QDateEdit>(&eod, "DatePicker");
+        QCOMPARE(Child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
+        auto *list = Child<QListWidget>(&eod, "CheckListBox1");
+        auto *picker = Child<QDateEdit>(&eod, "DatePicker");
         QCOMPARE(picker->date(), start);
         QCOMPARE(list->count(), 2);
         QCOMPARE(list->item(1)->checkState(), Qt::Checked); // already marked
@@ -368,12 +359,12 @@ private Q_SLOTS:
 
         list->item(0)->setCheckState(Qt::Checked);
         list->item(1)->setCheckState(Qt::Unchecked);
-        child<QPushButton>(&eod, "CancelBut")->click();
+        Child<QPushButton>(&eod, "CancelBut")->click();
         QVERIFY(!doc.Modified);
         eod.show();
         list->item(0)->setCheckState(Qt::Checked);
         list->item(1)->setCheckState(Qt::Unchecked);
-        child<QPushButton>(&eod, "OKBut")->click();
+        Child<QPushButton>(&eod, "OKBut")->click();
         QVERIFY(!eod.isVisible());
         QCOMPARE(ShotDate(doc.strips[1]), start);
         QVERIFY(!IsShot(doc.strips[2]));
