@@ -127,8 +127,8 @@ private slots:
 
     void menus_data()
     {
-        QTest::addColumn<QString>("menu");
-        QTest::addColumn<QString>("expected"); // captions joined by "|"
+        // expected: captions joined by "|"
+        Columns<QString, QString>("menu", "expected");
         Row("menu bar", "", QString("&File|&Edit|&Production|&Strips|Ele&ments|&View|&Help"));
         Row("File", "&File",
             "&New|&Open...|&Save|Save &As...|-|&Import script...|Import &Final Draft reports...|"
@@ -249,8 +249,8 @@ private slots:
 
     void doubleShortcutsGoToFirstEntry_data()
     {
-        QTest::addColumn<QString>("first"); // takes the key in the tag
-        QTest::addColumn<QString>("second");
+        // first: takes the key in the tag
+        Columns<QString, QString>("first", "second");
         Row("Shift+Ins", "Insertscene1", QString("Adddaydivider1"));
         Row("Ctrl+Ins", "Editscene1", QString("Addbanner1"));
         Row("Ctrl+E", "Endofday1", QString("Addelement1"));
@@ -427,8 +427,7 @@ private slots:
 
     void dropOfFiles_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("titleAfter");
+        Columns<Answer, QString>("answer", "titleAfter");
         // Yes: the untitled schedule's Save As is cancelled here, and the drop goes on.
         Row("Yes opens the first file", Answer::Yes, "One");
         Row("No opens the first file", Answer::No, "One");
@@ -502,8 +501,8 @@ private slots:
 
     void enablingByState_data()
     {
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("disabled"); // every entry off
+        // disabled: every entry off
+        Columns<QString, QString>("state", "disabled");
         const QString empty = "Cut1 Copy1 Paste1 Delete1 PopCut1 PopCopy1 PopPaste1 PopDelete1 Undo1 Redo1 "
                               "Insertscene1 Editscene1 PopInsertscene1 PopEditscene1 Lockstriptodate1 PopLockstrip1 "
                               "Insertdaydivider1 PopInsertdaydivider1 Insertbanner1 EditBanner1 Editelement1 "
@@ -774,10 +773,8 @@ private slots:
 
     void newWithChanges_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("savePath"); // the Save As dialog's answer; empty = cancelled
-        QTest::addColumn<bool>("emptied");
-        QTest::addColumn<bool>("written");
+        // savePath: the Save As dialog's answer; empty = cancelled
+        Columns<Answer, QString, bool, bool>("answer", "savePath", "emptied", "written");
         Row("yes, saved", Answer::Yes, "new-yes.tbf", true, true);
         Row("yes, save cancelled: changes lost", Answer::Yes, "", true, false);
         Row("no", Answer::No, "", true, false);
@@ -904,10 +901,7 @@ private slots:
 
     void closeQuery_data()
     {
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<bool>("mayClose");
-        QTest::addColumn<int>("dialogs");
+        Columns<bool, Answer, bool, int>("modified", "answer", "mayClose", "dialogs");
         Row("unchanged", false, Answer::Yes, true, 0);
         Row("yes", true, Answer::Yes, true, 1);
         Row("no", true, Answer::No, true, 0);
@@ -951,11 +945,7 @@ private slots:
 
     void boardKeys_data()
     {
-        QTest::addColumn<int>("selStart");
-        QTest::addColumn<int>("selEnd");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("shift");
-        QTest::addColumn<QString>("after");
+        Columns<int, int, int, bool, QString>("selStart", "selEnd", "key", "shift", "after");
         Row("Right from nothing", 0, 0, int(Qt::Key_Right), false, "1-1");
         Row("Right", 2, 2, int(Qt::Key_Right), false, "3-3");
         Row("Right after a range", 1, 3, int(Qt::Key_Right), false, "4-4");
@@ -1162,9 +1152,7 @@ private slots:
 
     void autosaveOfferedAtStart_data()
     {
-        QTest::addColumn<bool>("ownerSavedLater");
-        QTest::addColumn<bool>("untitled");
-        QTest::addColumn<bool>("offered");
+        Columns<bool, bool, bool>("ownerSavedLater", "untitled", "offered");
         Row("changes after the last save", false, false, true);
         Row("saved after the autosave", true, false, false);
         Row("untitled schedule", false, true, true);
@@ -1215,8 +1203,8 @@ private slots:
 
     void failedOpenLeavesNothing_data()
     {
-        QTest::addColumn<QByteArray>("content"); // empty: the path is a folder
-        QTest::addColumn<QString>("cause");
+        // content: empty: the path is a folder
+        Columns<QByteArray, QString>("content", "cause");
         const QByteArray good = ReadFileBytes(saved("failed-source.tbf", "Good", 3));
         Row("cut short", good.left(good.size() / 2), "The file is cut short: it ends at line");
         Row("not a schedule", QByteArray("Dear diary,\r\nrain again.\r\n"), "is not a Torvanbridge schedule");
@@ -1375,8 +1363,7 @@ private slots:
 
     void fitToScreen_data()
     {
-        QTest::addColumn<QRect>("wanted");
-        QTest::addColumn<QRect>("placed");
+        Columns<QRect, QRect>("wanted", "placed");
         const QRect screen(0, 0, 1280, 800);
         Row("fits", QRect(100, 50, 800, 600), QRect(100, 50, 800, 600));
         Row("from a larger screen", QRect(200, 100, 1900, 1100), QRect(0, 0, 1280, 800));

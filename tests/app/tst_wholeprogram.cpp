@@ -76,10 +76,10 @@ private Q_SLOTS:
 
     void entriesOpenTheirDialogs_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("selected");    // the strip selected; element 1 is selected too
-        QTest::addColumn<QString>("caption"); // empty: nothing opens
-        QTest::addColumn<QString>("help");    // the page F1 in the dialog opens; empty: not tried
+        // selected: the strip selected; element 1 is selected too
+        // caption: empty: nothing opens
+        // help: the page F1 in the dialog opens; empty: not tried
+        Columns<QString, int, QString, QString>("entry", "selected", "caption", "help");
         Row("edit scene", "Editscene1", 1, "Edit scene breakdown #11", "scene-breakdown.html");
         Row("edit scene, pop-up", "PopEditscene1", 1, "Edit scene breakdown #11", "");
         Row("edit scene on a divider", "PopEditscene1", 0, "", "");
@@ -143,8 +143,7 @@ private Q_SLOTS:
 
     void sceneEntriesAddWhereTheyShould_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("order");
+        Columns<QString, QString>("entry", "order");
         Row("menu", "Addscene1", "1 3 2");
         Row("pop-up", "PopAddscene1", "1 3 2");
         Row("insert, pop-up", "PopInsertscene1", "1 2 3");
@@ -171,9 +170,9 @@ private Q_SLOTS:
 
     void entriesRunTheirOperations_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("strips");   // Kinds() after
-        QTest::addColumn<QString>("elements"); // descriptions and board ids after
+        // strips: Kinds() after
+        // elements: descriptions and board ids after
+        Columns<QString, QString, QString>("entry", "strips", "elements");
         const QString kinds = "1 1 2 4";
         const QString elements = "ANNA=5 LAMP=Prp BEN=6";
         Row("add day divider, pop-up", "PopAdddaydivider1", "1 1 2 4 2", elements);
@@ -212,9 +211,7 @@ private Q_SLOTS:
     // selection.
     void doubleClickEditsTheSelection_data()
     {
-        QTest::addColumn<bool>("bannerRequest");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<QString>("caption");
+        Columns<bool, int, QString>("bannerRequest", "selected", "caption");
         Row("scene", false, 1, "Edit scene breakdown #1");
         Row("banner", true, 2, "Banner");
         Row("banner request on a scene", true, 1, "");
@@ -242,9 +239,7 @@ private Q_SLOTS:
 
     void finalDraftImport_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<int>("saves");
-        QTest::addColumn<bool>("imports");
+        Columns<Answer, int, bool>("answer", "saves", "imports");
         Row("Yes saves first", Answer::Yes, 1, true);
         Row("Cancel", Answer::Cancel, 0, false);
     }
@@ -297,10 +292,8 @@ private Q_SLOTS:
     // name lacks; a file that cannot be written is reported and the board stays.
     void exportEntries_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QString>("written"); // empty: nothing written
-        QTest::addColumn<QByteArray>("start");
+        // written: empty: nothing written
+        Columns<QString, QString, QString, QByteArray>("entry", "chosen", "written", "start");
         Row("spreadsheet", "AsSpreadsheet1", "board", "board.csv", QByteArray("Kind,Day,"));
         Row("web page", "AsHTML1", "board.htm", "board.htm", QByteArray("<!DOCTYPE html>"));
         Row("no folder", "AsHTML1", "missing/board.html", "", QByteArray());

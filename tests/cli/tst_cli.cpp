@@ -93,8 +93,8 @@ private Q_SLOTS:
     }
     void usageErrors_data()
     {
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<QString>("message"); // stderr holds it
+        // message: stderr holds it
+        Columns<QStringList, QString>("args", "message");
 
         const L scene{"add-scene", "EX", "-o", "OUT", "--scene", "1", "--int-ext", "I"};
         const L element{"add-element", "EX", "-o", "OUT", "--description", "X", "--category"};
@@ -193,8 +193,9 @@ private Q_SLOTS:
     }
     void refusedWritesNothing_data()
     {
-        QTest::addColumn<QStringList>("args"); // "-o OUT" follows
-        QTest::addColumn<QString>("message");  // stderr holds it
+        // args: "-o OUT" follows
+        // message: stderr holds it
+        Columns<QStringList, QString>("args", "message");
 
         const L scene{"add-scene", "EX", "--scene", "1", "--int-ext", "I", "--day-night", "D", "--pages"};
         Row("corrupt schedule", L{"resave", "@corrupt.tbf"},
@@ -262,11 +263,11 @@ private Q_SLOTS:
     }
     void schedules_data()
     {
-        QTest::addColumn<QStringList>("args"); // "-o OUT" follows the command and its inputs
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("out");    // stdout, when given
-        QTest::addColumn<QString>("err");    // stderr holds it
-        QTest::addColumn<QString>("checks"); // of the file written, ";"-separated:
+        // args: "-o OUT" follows the command and its inputs
+        // out: stdout, when given
+        // err: stderr holds it
+        // checks: of the file written, ";"-separated:
+        Columns<QStringList, int, QString, QString, QString>("args", "code", "out", "err", "checks");
         // "kinds K", "strips N", "elements N", "rule R", "next N", "s ROW F1,F2... V1|V2..."
         // strip fields by number and "e ROW F1,F2... V1|V2..." element fields by number.
         // The outputs of the commands on whole schedules are pinned by golden_outputs.
@@ -366,12 +367,12 @@ private Q_SLOTS:
     }
     void board_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QByteArray>("settings"); // the user's Torvanbridge.ini; empty: none
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("out");   // stdout after "OUT: "
-        QTest::addColumn<QPoint>("pixel");  // of the PNG
-        QTest::addColumn<QString>("check"); // its colour, or what the PDF holds
+        // settings: the user's Torvanbridge.ini; empty: none
+        // out: stdout after "OUT: "
+        // pixel: of the PNG
+        // check: its colour, or what the PDF holds
+        Columns<QStringList, QByteArray, QString, QString, QPoint, QString>("options", "settings", "file", "out",
+                                                                            "pixel", "check");
 
         // At 140% the fifth strip is a day divider, drawn with the user's divider colour.
         const L big{"--scale", "1.4", "--width", "900", "--height", "700"};
@@ -426,9 +427,8 @@ private Q_SLOTS:
     }
     void checkTemplate_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
+        // expected: in stdout, or stderr on failure
+        Columns<QByteArray, int, QString>("text", "code", "expected");
         const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
         Row("fields checked",
             head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"

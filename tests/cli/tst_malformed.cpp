@@ -61,9 +61,7 @@ class TestMalformed : public QObject
 private slots:
     void corpus_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("text");
+        Columns<QString, int, QString>("file", "code", "text");
         QFile list(Corpus + QStringLiteral("expected.txt"));
         QVERIFY(list.open(QIODevice::ReadOnly | QIODevice::Text));
         int rows = 0;

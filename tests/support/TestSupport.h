@@ -72,6 +72,14 @@ int AddDivider(ScheduleDocument &doc);
 int AddBanner(ScheduleDocument &doc, const QString &text, int days = 0);
 int AddElement(ScheduleDocument &doc, const QString &description, int category = 1, const QString &boardId = {});
 
+// Declares the columns of a data table: Columns<QString, int>("name", "count").
+template <typename... T, typename... Names>
+void Columns(const Names &...names)
+{
+    static_assert(sizeof...(T) == sizeof...(Names), "one name for each column");
+    (QTest::addColumn<T>(names), ...);
+}
+
 // One data row on one line: Row(tag, values...) is QTest::newRow(tag) << values...
 template <typename... T>
 void Row(const char *tag, const T &...values)

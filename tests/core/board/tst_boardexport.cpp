@@ -81,8 +81,8 @@ class TestBoardExport : public QObject
 private Q_SLOTS:
     void formatOfName_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("format"); // -1 none
+        // format: -1 none
+        Columns<QString, int>("path", "format");
         Row("csv", "/tmp/a.csv", int(BoardExportFormat::Spreadsheet));
         Row("CSV", "b.CSV", int(BoardExportFormat::Spreadsheet));
         Row("html", "c.html", int(BoardExportFormat::Html));

@@ -28,13 +28,9 @@ class TestBoardMoves : public QObject
 private Q_SLOTS:
     void moveStrips_data()
     {
-        QTest::addColumn<int>("selStart");
-        QTest::addColumn<int>("selEnd");
-        QTest::addColumn<int>("target");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<int>("newStart");
-        QTest::addColumn<int>("newEnd");
-        QTest::addColumn<QString>("label"); // blank: nothing moved, no undo level
+        // label: blank: nothing moved, no undo level
+        Columns<int, int, int, QString, int, int, QString>("selStart", "selEnd", "target", "order", "newStart",
+                                                           "newEnd", "label");
 
         Row("3..5 before 9", 3, 5, 9, "1 2 6 7 8 3 4 5 9 10 11 12", 6, 8, "Move strips");
         Row("3..5 past the end", 3, 5, 13, "1 2 6 7 8 9 10 11 12 3 4 5", 10, 12, "Move strips");

@@ -61,10 +61,7 @@ class TestBoardPrinting : public QObject
 private Q_SLOTS:
     void pages_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<bool>("perforated");
-        QTest::addColumn<bool>("everyHeader");
+        Columns<int, int, bool, bool>("from", "to", "perforated", "everyHeader");
 
         Row("one strip", 7, 7, false, false);
         Row("all, plain", 1, -1, false, false);
@@ -113,8 +110,7 @@ private Q_SLOTS:
     }
     void overallScale_data()
     {
-        QTest::addColumn<bool>("perforated");
-        QTest::addColumn<double>("after");
+        Columns<bool, double>("perforated", "after");
         Row("plain keeps 150 %", false, 1.5);
         Row("perforated resets to 100 %", true, 1.0);
     }

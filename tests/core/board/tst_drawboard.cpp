@@ -106,11 +106,7 @@ class TestDrawBoard : public QObject
 private Q_SLOTS:
     void geometry_data()
     {
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("stripW");
-        QTest::addColumn<int>("rowH");
-        QTest::addColumn<int>("colW");
-        QTest::addColumn<int>("margin");
+        Columns<double, int, int, int, int>("scale", "stripW", "rowH", "colW", "margin");
         Row("60%", 0.6, 24, 11, 120, 2), Row("90%", 0.9, 36, 16, 180, 3), Row("130%", 1.3, 52, 23, 260, 4),
             Row("140%", 1.4, 56, 25, 280, 4);
     }
@@ -144,9 +140,7 @@ private Q_SLOTS:
     }
     void zoomSteps_data()
     {
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<double>("snapped");
+        Columns<double, int, double>("scale", "index", "snapped");
         Row("60%", 0.6, 0, 0.6), Row("70%", 0.7, 1, 0.7), Row("100%", 1.0, 4, 1.0), Row("140%", 1.4, 8, 1.4),
             Row("125%", 1.25, -1, 1.0), Row("50%", 0.5, -1, 1.0), Row("150%", 1.5, -1, 1.0), Row("zero", 0.0, -1, 1.0);
     }
@@ -172,9 +166,7 @@ private Q_SLOTS:
     }
     void stripColours_data()
     {
-        QTest::addColumn<StripRecord>("strip");
-        QTest::addColumn<QColor>("background");
-        QTest::addColumn<QColor>("text");
+        Columns<StripRecord, QColor, QColor>("strip", "background", "text");
         const BoardStyle s = distinctStyle();
         auto slot = [&](StripSlot x) { return s.backgroundOf(x); };
         auto ink = [&](StripSlot x) { return s.textOf(x); };
@@ -209,9 +201,7 @@ private Q_SLOTS:
     }
     void usesElement_data()
     {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<int>("element");
-        QTest::addColumn<bool>("uses");
+        Columns<QString, int, bool>("list", "element", "uses");
         Row("first", "1,5,12", 1, true), Row("middle", "1,5,12", 5, true), Row("last", "1,5,12", 12, true),
             Row("digit of another", "1,5,12", 2, false), Row("empty", "", 1, false),
             Row("leading blank", " 7", 7, true), Row("not a number", "x,3", 3, true);
@@ -226,12 +216,8 @@ private Q_SLOTS:
     }
     void descriptionTexts_data()
     {
-        QTest::addColumn<StripRecord>("strip");
-        QTest::addColumn<int>("line1");
-        QTest::addColumn<int>("line2");
-        QTest::addColumn<bool>("shootingDays");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
+        Columns<StripRecord, int, int, bool, QString, QString>("strip", "line1", "line2", "shootingDays", "first",
+                                                               "second");
 
         StripRecord scene = strip("1", "D", "I");
         scene.set(StripField::SceneNumber, "12A");
@@ -283,8 +269,7 @@ private Q_SLOTS:
     }
     void hintTexts_data()
     {
-        QTest::addColumn<StripRecord>("strip");
-        QTest::addColumn<QString>("hint");
+        Columns<StripRecord, QString>("strip", "hint");
         StripRecord scene = strip("1", "DSK", "I/E");
         scene.set(StripField::SceneNumber, "31");
         scene.set(StripField::Location, "Truro market");
@@ -374,11 +359,7 @@ private Q_SLOTS:
     }
     void returnedText_data()
     {
-        QTest::addColumn<int>("strips");
-        QTest::addColumn<int>("elements");
-        QTest::addColumn<int>("firstStrip");
-        QTest::addColumn<bool>("printing");
-        QTest::addColumn<QString>("result");
+        Columns<int, int, int, bool, QString>("strips", "elements", "firstStrip", "printing", "result");
         // 800 x 600: the strips start at x = 200 and the element rows at y = 291 (screen)
         // or 288 + 3 (names); 15 strips and 18 rows fit, partly, on the screen.
         Row("all fit", 10, 10, 1, false, " 10 10"), Row("screen, cut", 30, 40, 1, false, " 15 18"),

@@ -38,8 +38,7 @@ private Q_SLOTS:
 
     void matches_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("rows");
+        Columns<QString, QString>("text", "rows");
         Row("scene number", "3a", "4");
         Row("location, any case", "harbour", "1");
         Row("set", "lamp", "4");
@@ -63,9 +62,7 @@ private Q_SLOTS:
 
     void nextAndPreviousGoRound_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<bool>("forward");
-        QTest::addColumn<int>("found");
+        Columns<int, bool, int>("from", "forward", "found");
         Row("from nothing forward", 0, true, 2);
         Row("from nothing backward", 0, false, 7);
         Row("forward past the end", 7, true, 2);

@@ -36,9 +36,7 @@ class TestElementEditing : public QObject
 private Q_SLOTS:
     void highestCast_data()
     {
-        QTest::addColumn<QStringList>("categories");
-        QTest::addColumn<QStringList>("ids");
-        QTest::addColumn<int>("highest");
+        Columns<QStringList, QStringList, int>("categories", "ids", "highest");
         Row("empty table", QStringList(), QStringList(), 0);
         Row("gaps", QStringList{"1", "1", "1"}, QStringList{"1", "2", "7"}, 7);
         Row("letters count as 0", QStringList{"1", "1"}, QStringList{"A", "3"}, 3);
@@ -122,9 +120,7 @@ private Q_SLOTS:
 
     void validation_data()
     {
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("message");
+        Columns<QString, QString, QString>("description", "id", "message");
         Row("no description", "", "1",
             "You need to enter a description for the element, or else click Cancel if you "
             "do not wish to change anything.");
@@ -209,9 +205,7 @@ private Q_SLOTS:
 
     void duplicateCastId_data()
     {
-        QTest::addColumn<int>("editIndex");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<bool>("duplicate");
+        Columns<int, QString, bool>("editIndex", "id", "duplicate");
         Row("new cast with a used number", -1, "3", true);
         Row("the prop itself asks too", 4, "3", true);
         Row("the cast member itself", 2, "3", false);

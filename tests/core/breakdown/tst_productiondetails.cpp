@@ -63,9 +63,8 @@ private Q_SLOTS:
 
     void logo_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("source");
-        QTest::addColumn<QString>("message"); // blank: loaded
+        // message: blank: loaded
+        Columns<QString, int, QString>("file", "source", "message");
         Row("JPEG", "logo.jpg", int(LogoSource::Chosen), "");
         Row("PNG", "logo.png", int(LogoSource::Stored), "");
         Row("bitmap", "logo.bmp", int(LogoSource::Chosen), "");

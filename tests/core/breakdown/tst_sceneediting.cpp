@@ -64,10 +64,7 @@ class TestSceneEditing : public QObject
 private Q_SLOTS:
     void lengthToSpins_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("lines");
-        QTest::addColumn<int>("whole");
-        QTest::addColumn<int>("eighths");
+        Columns<QString, int, int, int>("text", "lines", "whole", "eighths");
         Row("one eighth", "0.125", 56, 0, 1);
         Row("whole pages", "2", 56, 2, 0);
         Row("half", "0.5", 56, 0, 4);
@@ -93,9 +90,7 @@ private Q_SLOTS:
     }
     void spinsToLength_data()
     {
-        QTest::addColumn<int>("whole");
-        QTest::addColumn<int>("eighths");
-        QTest::addColumn<QString>("text");
+        Columns<int, int, QString>("whole", "eighths", "text");
         Row("eighth", 0, 1, "0.125");
         Row("mixed", 1, 3, "1.375");
         Row("whole", 2, 0, "2");
@@ -225,10 +220,7 @@ private Q_SLOTS:
     }
     void okLabelsAndScroll_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<int>("strips");
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<int>("scroll");
+        Columns<int, int, QString, int>("mode", "strips", "label", "scroll");
         Row("add, long board", int(SceneMode::Add), 9, "add new scene", 5);
         Row("add, short board", int(SceneMode::Add), 2, "add new scene", 3);
         Row("insert", int(SceneMode::Insert), 9, "add new scene", -1);
@@ -320,12 +312,8 @@ private Q_SLOTS:
     }
     void stepToScene_data()
     {
-        QTest::addColumn<QString>("board"); // S scene, D divider, B banner
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("direction");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<bool>("found");
-        QTest::addColumn<bool>("atLimit");
+        // board: S scene, D divider, B banner
+        Columns<QString, int, int, int, bool, bool>("board", "from", "direction", "index", "found", "atLimit");
         Row("next scene", "SSDS", 1, 1, 2, true, false);
         Row("over a divider", "SSDS", 2, 1, 4, true, true);
         Row("only dividers follow", "SSDSDD", 4, 1, 6, false, true);
@@ -362,8 +350,7 @@ private Q_SLOTS:
     }
     void memoLines_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("lines");
+        Columns<QString, QStringList>("text", "lines");
         Row("empty", "", QStringList());
         Row("one", "a b", QStringList{"a b"});
         Row("final break", "a\nb\n", QStringList{"a", "b"});

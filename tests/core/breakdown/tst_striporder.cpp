@@ -102,9 +102,7 @@ private Q_SLOTS:
 
     void sortByColumn_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("sorted");
+        Columns<int, QStringList, QString>("column", "values", "sorted");
         Row("scene numbers are numbers", SortColumn::Scene, QStringList{"10", "2", "1"}, "1 2 10");
         Row("12A sorts with 12, board order kept", SortColumn::Scene, QStringList{"12A", "3", "12", "A"}, "A 3 12A 12");
         Row("locale order of text", SortColumn::Location, QStringList{"Zoo", "bar", "Apple"}, "Apple bar Zoo");

@@ -85,12 +85,12 @@ private Q_SLOTS:
     }
     void restDays_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("rule");
-        QTest::addColumn<int>("days");          // shooting days on the board, one divider each
-        QTest::addColumn<bool>("tail");         // a scene after the last divider
-        QTest::addColumn<QString>("expected");  // kind:day of every strip
-        QTest::addColumn<QStringList>("dates"); // dates of the rest days, in order
+        // days: shooting days on the board, one divider each
+        // tail: a scene after the last divider
+        // expected: kind:day of every strip
+        // dates: dates of the rest days, in order
+        Columns<QString, QString, int, bool, QString, QStringList>("start", "rule", "days", "tail", "expected",
+                                                                   "dates");
 
         // Friday start, Saturday and Sunday off: day 1 Friday, rest on 2 and 3, day 4 Monday.
         Row("D67 from a Friday", FridayMarch6, "D67", 3, false, "1:0 2:1 3:2 3:3 1:3 2:4 1:4 2:5",

@@ -17,10 +17,9 @@ class TestDocumentOperations : public QObject
 private Q_SLOTS:
     void assignments_data()
     {
-        QTest::addColumn<QString>("op"); // add, is or remove
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QList<int>>("elements");
-        QTest::addColumn<QString>("expected"); // the list after, or whether assigned
+        // op: add, is or remove
+        // expected: the list after, or whether assigned
+        Columns<QString, QString, QList<int>, QString>("op", "list", "elements", "expected");
         Row("add to blank", "add", "", QList<int>{7}, "7");
         Row("add appends in order", "add", "3,12", QList<int>{7}, "3,12,7");
         // Only three-digit numbers are found by the padded duplicate test.
@@ -86,11 +85,9 @@ private Q_SLOTS:
 
     void readAssignmentList_data()
     {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<bool>("atCommas"); // the board's reading
-        QTest::addColumn<bool>("skip");     // unreadable items skipped, not ending the list
-        QTest::addColumn<QList<int>>("numbers");
-        QTest::addColumn<bool>("unreadable");
+        // atCommas: the board's reading
+        // skip: unreadable items skipped, not ending the list
+        Columns<QString, bool, bool, QList<int>, bool>("list", "atCommas", "skip", "numbers", "unreadable");
         using N = QList<int>;
         Row("blank", "", false, false, N{}, false);
         Row("ends at a bad item", "3,x,7", false, false, N{3}, true);
@@ -119,8 +116,7 @@ private Q_SLOTS:
 
     void formatPageLength_data()
     {
-        QTest::addColumn<double>("pages");
-        QTest::addColumn<QString>("expected");
+        Columns<double, QString>("pages", "expected");
         Row("zero", 0.0, "");
         Row("half is 4/8", 0.5, "4/8");
         Row("whole and eighths", 1.375, "1 3/8");

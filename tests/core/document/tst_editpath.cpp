@@ -89,9 +89,9 @@ private Q_SLOTS:
     // undo), derives the days once and tells the views once.
     void oneSnapshotOneRecalculationOneNotification_data()
     {
-        QTest::addColumn<Operation>("operation");
-        QTest::addColumn<QString>("label");  // empty: no snapshot
-        QTest::addColumn<int>("firstStrip"); // the scroll asked of the board, 0 none
+        // label: empty: no snapshot
+        // firstStrip: the scroll asked of the board, 0 none
+        Columns<Operation, QString, int>("operation", "label", "firstStrip");
 
         const BannerContent banner{QStringLiteral("Move"), {QStringLiteral("clRed"), QStringLiteral("clWhite")}, 0};
         Row("add scene", Operation([](auto &d) { (void)SaveScene(d, SceneMode::Add, 0, BlankScenePage(), {}); }),

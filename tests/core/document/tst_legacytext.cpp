@@ -10,6 +10,7 @@
 
 using namespace tb::legacy;
 
+using tb::test::Columns;
 using tb::test::Row;
 
 class TestLegacyText : public QObject
@@ -21,8 +22,7 @@ private slots:
 
     void joinCommaText_data()
     {
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<QString>("text");
+        Columns<QStringList, QString>("items", "text");
         Row("no items", QStringList(), ""), Row("one empty item", QStringList{""}, "\"\""),
             Row("two empty items", QStringList{"", ""}, ","), Row("plain", QStringList{"a", "b"}, "a,b"),
             Row("empty in the middle", QStringList{"a", "", "b"}, "a,,b"),
@@ -42,8 +42,7 @@ private slots:
 
     void splitCommaText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("items");
+        Columns<QString, QStringList>("text", "items");
         Row("empty", "", QStringList()), Row("only blanks", " \t ", QStringList()),
             Row("quoted empty", "\"\"", QStringList{""}), Row("blank separates", "a b", QStringList{"a", "b"}),
             Row("text after quote", "\"a\"b,c", QStringList{"a", "b", "c"}),
@@ -97,9 +96,7 @@ private slots:
 
     void strToInt_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<int>("value");
+        Columns<QString, bool, int>("text", "ok", "value");
         Row("leading zeros", "00012", true, 12), Row("negative", "-42", true, -42), Row("plus", "+7", true, 7),
             Row("leading blanks", " \t 12", true, 12), Row("trailing blank", "12 ", false, 0),
             Row("empty", "", false, 0), Row("sign only", "-", false, 0), Row("dollar only", "$", false, 0),
@@ -128,8 +125,7 @@ private slots:
 
     void floatToText_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
+        Columns<double, QString>("value", "text");
         Row("0.75", 0.75, "0.75"), Row("serial and half day", 46082.5, "46082.5"),
             Row("1/3", 1.0 / 3, "0.333333333333333"), Row("2/3", 2.0 / 3, "0.666666666666667"),
             Row("0.1+0.2", 0.1 + 0.2, "0.3"), Row("18 digits", 123456789012345678.0, "1.23456789012346E17"),
@@ -153,8 +149,7 @@ private slots:
 
     void singleToText_data()
     {
-        QTest::addColumn<float>("value");
-        QTest::addColumn<QString>("text");
+        Columns<float, QString>("value", "text");
         Row("3.375", 3.375f, "3.375"), Row("0.1", 0.1f, "0.1"), Row("1.1", 1.1f, "1.1"),
             Row("negative zero", -0.0f, "0"), Row("negative", -2.5f, "-2.5"), Row("small", 0.001f, "0.001"),
             Row("large", 1e10f, "10000000000"), Row("2^24", 16777216.0f, "16777216");
@@ -173,9 +168,7 @@ private slots:
 
     void floatFromText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<double>("value");
+        Columns<QString, bool, double>("text", "ok", "value");
         Row("comma", "0,5", true, 0.5), Row("blanks", " \t1.25 ", true, 1.25), Row("integer", "-3", true, -3.0),
             Row("plus", "+3", true, 3.0), Row("exponent", "1E-2", true, 0.01),
             Row("exponent with plus", "1e+3", true, 1000.0), Row("comma and exponent", "2,5e1", true, 25.0),
@@ -200,8 +193,7 @@ private slots:
 
     void pad3_data()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("text");
+        Columns<int, QString>("value", "text");
         Row("one digit", 7, "  7"), Row("three digits", 120, "120"), Row("four digits", 1234, "1234"),
             Row("negative", -5, " -5"), Row("zero", 0, "  0");
     }
@@ -217,8 +209,7 @@ private slots:
 
     void serialDates_data()
     {
-        QTest::addColumn<double>("serial");
-        QTest::addColumn<QDate>("date");
+        Columns<double, QDate>("serial", "date");
         Row("serial zero", 0.0, QDate(1899, 12, 30)), Row("day before", -1.0, QDate(1899, 12, 29)),
             Row("1900-01-01", 2.0, QDate(1900, 1, 1)), Row("2000-01-01", 36526.0, QDate(2000, 1, 1)),
             Row("2026-03-06", 46087.0, QDate(2026, 3, 6)), Row("time of day", 46087.75, QDate(2026, 3, 6)),
@@ -238,9 +229,7 @@ private slots:
 
     void formatDate_data()
     {
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("text");
+        Columns<QDate, QString, QString>("date", "pattern", "text");
         const QDate friday(2026, 3, 6);
         Row("day fields", friday, "d dd ddd dddd", "6 06 Fri Friday"), Row("ddddd", friday, "ddddd", "3/6/2026"),
             Row("dddddd", friday, "dddddd", "Friday, March 6, 2026"),
@@ -295,9 +284,7 @@ private slots:
 
     void parseShortDate_data()
     {
-        QTest::addColumn<QString>("localeName");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QDate>("date");
+        Columns<QString, QString, QDate>("localeName", "text", "date");
         Row("en_US four-digit year", "en_US", "3/6/2026", QDate(2026, 3, 6)),
             Row("en_US leading zeros", "en_US", "03/06/2026", QDate(2026, 3, 6)),
             Row("en_US two-digit year", "en_US", "3/6/26", QDate(2026, 3, 6)),
@@ -327,8 +314,7 @@ private slots:
 
     void dayOfWeek_data()
     {
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<int>("day");
+        Columns<QDate, int>("date", "day");
         Row("Sunday", QDate(2026, 3, 1), 1), Row("Monday", QDate(2026, 3, 2), 2), Row("Friday", QDate(2026, 3, 6), 6),
             Row("Saturday", QDate(2026, 3, 7), 7), Row("invalid", QDate(), 0);
     }
@@ -344,8 +330,7 @@ private slots:
 
     void colorValueNames_data()
     {
-        QTest::addColumn<quint32>("value");
-        QTest::addColumn<QString>("text");
+        Columns<quint32, QString>("value", "text");
         Row("clBlack", 0x000000u, "clBlack"), Row("clRed", 0x0000FFu, "clRed"),
             Row("clMoneyGreen", 0xC0DCC0u, "clMoneyGreen"), Row("clMedGray", 0xA4A0A0u, "clMedGray"),
             Row("clScrollBar", 0xFF000000u, "clScrollBar"), Row("clBtnFace", 0xFF00000Fu, "clBtnFace"),
@@ -366,9 +351,7 @@ private slots:
 
     void stringToColorValue_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<quint32>("value");
+        Columns<QString, bool, quint32>("text", "ok", "value");
         Row("lower-case name", "clbtnface", true, 0xFF00000Fu), Row("upper-case name", "CLRED", true, 0x0000FFu),
             Row("hex", "$00FF8000", true, 0x00FF8000u), Row("decimal", "255", true, 0x0000FFu),
             Row("negative decimal", "-16777201", true, 0xFF00000Fu), Row("unknown name", "clBogus", false, 0u),
@@ -387,8 +370,7 @@ private slots:
 
     void colorToString_data()
     {
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<QString>("text");
+        Columns<QColor, QString>("color", "text");
         Row("red", QColor(255, 0, 0), "clRed"), Row("money green", QColor(192, 220, 192), "clMoneyGreen"),
             Row("parts in BGR order", QColor(0x12, 0x34, 0x56), "$00563412"),
             Row("button face is no name", QColor(212, 208, 200), "$00C8D0D4"), Row("invalid", QColor(), "clNone"),
@@ -404,8 +386,7 @@ private slots:
 
     void stringToColor_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QColor>("color");
+        Columns<QString, QColor>("text", "color");
         Row("clRed", "clRed", QColor(255, 0, 0)), Row("clSkyBlue", "clSkyBlue", QColor(166, 202, 240)),
             Row("hex in BGR order", "$00563412", QColor(0x12, 0x34, 0x56)),
             Row("decimal blue", "16711680", QColor(0, 0, 255)), Row("clBtnFace", "clBtnFace", QColor(212, 208, 200)),
@@ -427,8 +408,7 @@ private slots:
 
     void windows1252Bytes_data()
     {
-        QTest::addColumn<int>("byte");
-        QTest::addColumn<int>("character");
+        Columns<int, int>("byte", "character");
         Row("euro", 0x80, 0x20AC), Row("undefined 0x81", 0x81, 0x81), Row("undefined 0x8D", 0x8D, 0x8D),
             Row("right single quote", 0x92, 0x2019), Row("em dash", 0x97, 0x2014), Row("undefined 0x9D", 0x9D, 0x9D),
             Row("Y diaeresis", 0x9F, 0x178), Row("no-break space", 0xA0, 0xA0), Row("e acute", 0xE9, 0xE9),
@@ -455,8 +435,7 @@ private slots:
 
     void canEncodeWindows1252_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("canEncode");
+        Columns<QString, bool>("text", "canEncode");
         Row("ASCII", "plain text", true), Row("Latin-1", "café", true), Row("code page specials", "€‚„…“”–—™", true),
             Row("undefined byte", QString(QChar(0x81)), true),
             Row("C1 control with a byte taken", QString(QChar(0x80)), false), Row("Polish", "Łódź", false),
@@ -477,8 +456,7 @@ private slots:
 
     void decodeFileText_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
+        Columns<QByteArray, QString>("bytes", "text");
         Row("ASCII", QByteArray("Scene 12, INT."), "Scene 12, INT."),
             Row("1252 e acute", QByteArray("caf\xE9"), "café"), Row("UTF-8 e acute", QByteArray("caf\xC3\xA9"), "café"),
             Row("UTF-8 after a long ASCII run", QByteArray("0123456789abcdef\xC3\xA9"), "0123456789abcdefé"),
@@ -506,8 +484,7 @@ private slots:
 
     void encodeFileText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("bytes");
+        Columns<QString, QByteArray>("text", "bytes");
         Row("Latin-1 in 1252", "café", QByteArray("caf\xE9")),
             Row("specials in 1252", "“x” – €", QByteArray("\x93x\x94 \x96 \x80")),
             Row("Polish in UTF-8", "Łódź", QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA")),

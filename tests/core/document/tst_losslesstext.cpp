@@ -147,8 +147,7 @@ private slots:
     // The cases that used to change on the next open, and the earlier edition's files.
     void decoding_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
+        Columns<QByteArray, QString>("bytes", "text");
         Row("windows-1252 as the earlier edition wrote", QByteArray("caf\xE9 \x93q\x94 \x80"), "café “q” €");
         Row("utf-8", QByteArray("caf\xC3\xA9"), "café");
         Row("utf-8 with a mark",
@@ -173,8 +172,7 @@ private slots:
 
     void encoding_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("bytes");
+        Columns<QString, QByteArray>("text", "bytes");
         Row("fits windows-1252", QStringLiteral("café “q”"), QByteArray("caf\xE9 \x93q\x94"));
         Row("windows-1252 bytes that read as utf-8", "CAFÉ’S", QByteArray("CAF\xC3\x89\xE2\x80\x99S"));
         Row("mojibake-looking text", "Ã© and Â£5",

@@ -7,6 +7,7 @@
 #include <QTest>
 
 using namespace tb;
+using tb::test::Columns;
 using tb::test::Row;
 
 namespace {
@@ -48,8 +49,7 @@ private Q_SLOTS:
 
     void manPageEscapes_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("roff");
+        Columns<QString, QString>("text", "roff");
         Row("options", "use --all", "use \\-\\-all");
         Row("backslash", "C:\\temp", "C:\\etemp");
         Row("leading dot", ".tbf files", "\\&.tbf files");

@@ -100,11 +100,7 @@ private slots:
 
     void inProcess_data()
     {
-        QTest::addColumn<QString>("writer");
-        QTest::addColumn<int>("scenes");
-        QTest::addColumn<QByteArray>("op");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<qint64>("after");
+        Columns<QString, int, QByteArray, int, qint64>("writer", "scenes", "op", "error", "after");
         for (const auto &[faultName, fault] : Faults) {
             const QByteArray name(faultName);
             for (const char *writer : {"schedule", "autosave", "settings", "call sheet"}) {
@@ -187,11 +183,7 @@ private slots:
 
     void commandLine_data()
     {
-        QTest::addColumn<QStringList>("command");
-        QTest::addColumn<QString>("out");
-        QTest::addColumn<QByteArray>("op");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<qint64>("after");
+        Columns<QStringList, QString, QByteArray, int, qint64>("command", "out", "op", "error", "after");
         const QString example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
         const QList<std::tuple<const char *, QStringList, const char *>> commands = {
             {"resave", {"resave", example, "-o"}, "out.tbf"},

@@ -98,8 +98,7 @@ private Q_SLOTS:
 
     void roundTripIsByteIdentical_data()
     {
-        QTest::addColumn<quint32>("seed");
-        QTest::addColumn<bool>("ascii");
+        Columns<quint32, bool>("seed", "ascii");
         for (quint32 seed : {1u, 2u, 3u, 4u})
             QTest::addRow("seed %u", seed) << seed << false;
         Row("ascii only", 9u, true);
@@ -127,8 +126,7 @@ private Q_SLOTS:
 
     void encodingChoice_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QByteArray>("expectedLine");
+        Columns<QString, QByteArray>("title", "expectedLine");
         Row("windows-1252", "Café – “Noir”", QByteArray("Caf\xE9 \x96 \x93Noir\x94"));
         Row("utf-8 when needed", "Łódź café", QByteArray("\xC5\x81\xC3\xB3\x64\xC5\xBA caf\xC3\xA9"));
     }
@@ -213,8 +211,7 @@ private Q_SLOTS:
 
     void zoomLine_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<double>("zoom");
+        Columns<QString, double>("line", "zoom");
         Row("zero", "0", 1.0);
         Row("below the floor", "0.1", 1.0);
         Row("at the floor", "0.2", 0.2);
@@ -249,10 +246,9 @@ private Q_SLOTS:
             lines[line] = text;
             return (lines.join("\r\n") + "\r\n").toLatin1();
         };
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("message"); // the earlier edition's text the message starts with
-        QTest::addColumn<QString>("cause");   // what went wrong, in plain words
-        QTest::addColumn<QString>("status");
+        // message: the earlier edition's text the message starts with
+        // cause: what went wrong, in plain words
+        Columns<QByteArray, QString, QString, QString>("bytes", "message", "cause", "status");
         // The malformed-input corpus holds many more; these check the document left behind.
         Row("empty file", QByteArray(), HeaderError, "is not a Torvanbridge schedule", "Error reading file.");
         const QString open = "Error opening file ";

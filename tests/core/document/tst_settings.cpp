@@ -164,8 +164,7 @@ private slots:
 
     void booleanForms_data()
     {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<bool>("expected");
+        Columns<QByteArray, bool>("value", "expected");
         // A boolean is an integer, true when not 0; text that is no integer gives the
         // default (true for ScenePopups).
         Row("1", QByteArray("1"), true);
@@ -264,8 +263,7 @@ private slots:
 
     void descriptionLineItems_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("stored");
+        Columns<int, int>("index", "stored");
         Row("Location", 0, 12);
         Row("Synopsis", 1, 7);
         Row("Sequence", 2, 11);
@@ -298,8 +296,8 @@ private slots:
 
     void warningAnswers_data()
     {
-        QTest::addColumn<int>("unticked"); // which "Warn me about" box is cleared
-        QTest::addColumn<QString>("line");
+        // unticked: which "Warn me about" box is cleared
+        Columns<int, QString>("unticked", "line");
         Row("scene change", 0, "[StripDlg]\r\nSceneChange=1\r\n");
         Row("auto-rest click", 1, "[PBDialog]\r\nAutoRestClick=1\r\n");
         Row("call sheet rest", 2, "[CallSheetDlg]\r\nCallSheetRest=1\r\n");

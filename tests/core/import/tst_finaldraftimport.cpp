@@ -99,9 +99,7 @@ private Q_SLOTS:
 
     void offsets_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("scene");
+        Columns<QString, QString, QString>("line", "page", "scene");
 
         Row("page 12, scene 5", "## Page: 12, Scene: 5", "12", "5");
         Row("four characters of scene", "## Page: 3, Scene: 12A extra", "3", "12A ");
@@ -128,10 +126,7 @@ private Q_SLOTS:
 
     void headings_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("intExt");
-        QTest::addColumn<QString>("dayNight");
-        QTest::addColumn<QString>("location");
+        Columns<QString, QString, QString, QString>("heading", "intExt", "dayNight", "location");
 
         Row("kitchen at night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
         Row("the last letter is kept", "EXT. BARN", "E", "", "BARN");
@@ -165,8 +160,7 @@ private Q_SLOTS:
 
     void carriedPosition_data()
     {
-        QTest::addColumn<QList<QStringList>>("scenes");
-        QTest::addColumn<QString>("lastIntExt");
+        Columns<QList<QStringList>, QString>("scenes", "lastIntExt");
 
         // The combined interior/exterior is looked for at the position the previous
         // scene left behind.
@@ -192,9 +186,7 @@ private Q_SLOTS:
 
     void knownCharacters_data()
     {
-        QTest::addColumn<QStringList>("scene");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<QString>("assignments");
+        Columns<QStringList, QStringList, QString>("scene", "cast", "assignments");
 
         // Each cue assigns again; the assignment list's own duplicate test lets a small
         // number in twice.
@@ -240,9 +232,7 @@ private Q_SLOTS:
 
     void lengths_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("length");
-        QTest::addColumn<QStringList>("messages");
+        Columns<QString, QString, QStringList>("line", "length", "messages");
 
         const QStringList none;
         const QStringList conversion{QString::fromLatin1(FinalDraftLengthErrorText)};
@@ -318,11 +308,7 @@ private Q_SLOTS:
 
     void commandSteps_data()
     {
-        QTest::addColumn<bool>("finalDraft");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<QList<Answer>>("answers");
-        QTest::addColumn<bool>("goesOn");
-        QTest::addColumn<int>("saves");
+        Columns<bool, bool, QList<Answer>, bool, int>("finalDraft", "modified", "answers", "goesOn", "saves");
 
         for (bool fd : {false, true}) {
             const char *name = fd ? "Final Draft" : "script";

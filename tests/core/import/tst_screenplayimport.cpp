@@ -74,10 +74,7 @@ class TestScreenplayImport : public QObject
 private Q_SLOTS:
     void headings_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("intExt");
-        QTest::addColumn<QString>("dayNight");
-        QTest::addColumn<QString>("location");
+        Columns<QString, QString, QString, QString>("heading", "intExt", "dayNight", "location");
 
         Row("interior night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
         Row("two dashes, no blanks", "EXT. PARK--DAY", "E", "D", "PARK");
@@ -110,8 +107,7 @@ private Q_SLOTS:
 
     void cueNames_data()
     {
-        QTest::addColumn<QString>("cue");
-        QTest::addColumn<QString>("name");
+        Columns<QString, QString>("cue", "name");
         Row("continued", "MIKE (CONT'D)", "MIKE");
         Row("two extensions", "DONNA (V.O.) (CONT'D)", "DONNA");
         Row("dual dialogue", "BRICK ^", "BRICK");
@@ -130,8 +126,7 @@ private Q_SLOTS:
 
     void synopsis_data()
     {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<QString>("synopsis");
+        Columns<QString, QString>("action", "synopsis");
         Row("short, first line only", "A gorgeous day.\nThe sun shines.", "A gorgeous day.");
         Row("first sentence of a long line",
             "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.",
@@ -259,10 +254,7 @@ private Q_SLOTS:
 
     void realFountainScripts_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("headings");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<double>("printedPages");
+        Columns<QString, int, QStringList, double>("file", "headings", "cast", "printedPages");
         // Printed pages: the scripts' PDFs on US Letter (without the title page), the last
         // page counted by its lines.
         Row("Brick & Steel", "brick_and_steel.fountain", 8,
@@ -326,8 +318,7 @@ private Q_SLOTS:
 
     void doubts_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("doubt");
+        Columns<QString, QString>("name", "doubt");
         Row("page number", "12.", "no letters");
         Row("bare number", "2", "no letters");
         Row("page with a letter", "12a.", "a page number");
@@ -370,9 +361,7 @@ private Q_SLOTS:
 
     void plainTextReview_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("headings");
-        QTest::addColumn<QStringList>("speakers");
+        Columns<QString, int, QStringList>("file", "headings", "speakers");
         // Speaking characters as the text import names them; BOB and CYBER BOB are two
         // cues of one character in the script, and stay two names.
         Row("trelby", "trelby-test.txt", 11,

@@ -49,10 +49,7 @@ class TestScriptImport : public QObject
 private Q_SLOTS:
     void headings_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("intExt");
-        QTest::addColumn<QString>("dayNight");
-        QTest::addColumn<QString>("location");
+        Columns<QString, QString, QString, QString>("heading", "intExt", "dayNight", "location");
 
         Row("kitchen at night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
         Row("scene numbers both sides", "12 EXT. FARM - DAY 12", "E", "D", "12 FARM");
@@ -87,10 +84,7 @@ private Q_SLOTS:
     }
     void sceneLengths_data()
     {
-        QTest::addColumn<int>("linesPerPage");
-        QTest::addColumn<QList<int>>("headingLines");
-        QTest::addColumn<int>("lineCount");
-        QTest::addColumn<QStringList>("lengths");
+        Columns<int, QList<int>, int, QStringList>("linesPerPage", "headingLines", "lineCount", "lengths");
 
         // 30 / 55 = 0.545 pages, rounded down to 4/8; 3 lines are less than an eighth and
         // get one; the last scene keeps its raw fraction (57 / 55).
@@ -120,8 +114,8 @@ private Q_SLOTS:
     }
     void cues_data()
     {
-        QTest::addColumn<QString>("cue");
-        QTest::addColumn<QString>("element"); // empty: no element
+        // element: empty: no element
+        Columns<QString, QString>("cue", "element");
 
         Row("two words", "JOHN SMITH", "John smith");
         Row("indented like a cue", "                      KEVIN", "Kevin");
@@ -248,8 +242,7 @@ private Q_SLOTS:
     }
     void readingFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QStringList>("lines");
+        Columns<QByteArray, QStringList>("bytes", "lines");
 
         using L = QStringList;
         Row("LF", QByteArray("INT. CAFE\n\nANN\n"), L{"INT. CAFE", "", "ANN"});
@@ -280,10 +273,10 @@ private Q_SLOTS:
     }
     void realScreenplays_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("headings");      // INT/EXT headings, as the file's notes count them
-        QTest::addColumn<int>("speakers");      // distinct speaking characters, likewise
-        QTest::addColumn<QStringList>("other"); // capitals-only lines the rules take as names too
+        // headings: INT/EXT headings, as the file's notes count them
+        // speakers: distinct speaking characters, likewise
+        // other: capitals-only lines the rules take as names too
+        Columns<QString, int, int, QStringList>("file", "headings", "speakers", "other");
 
         Row("trelby", "trelby-test.txt", 11, 7,
             QStringList{"Map of the atlantic ocean", "Map of the american continents"});

@@ -142,9 +142,7 @@ class TestAlLayout : public QObject
 private Q_SLOTS:
     void scaling_data()
     {
-        QTest::addColumn<int>("design");
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<int>("expected");
+        Columns<int, int, int>("design", "dpi", "expected");
         // The half added before rounding leans values upward; ties go to the even neighbour.
         Row("1 at screen", 1, 96, 2);
         Row("2 at screen", 2, 96, 2);
@@ -165,10 +163,8 @@ private Q_SLOTS:
     }
     void bandsOnPages_data()
     {
-        QTest::addColumn<QString>("bands");
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<QString>("pages"); // the bands of each page by name
+        // pages: the bands of each page by name
+        Columns<QString, QString, int, QString>("bands", "values", "height", "pages");
         const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
         Row("detail without values prints once", detail, "", 10000, "D");
         Row("detail repeats while any field has a value",
@@ -460,9 +456,7 @@ private Q_SLOTS:
     }
     void textLines_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("width");
-        QTest::addColumn<QStringList>("lines");
+        Columns<QString, double, QStringList>("text", "width", "lines");
         Row("empty", "", 0.0, QStringList());
         Row("line breaks", "a\r\nb\rc\nd", 0.0, QStringList{"a", "b", "c", "d"});
         Row("one break at the end", "a\r\nb\r\n", 0.0, QStringList{"a", "b"});

@@ -93,9 +93,7 @@ private Q_SLOTS:
     }
     void fillsTheDay_data()
     {
-        QTest::addColumn<int>("day");
-        QTest::addColumn<QStringList>("scenes");
-        QTest::addColumn<QString>("pages");
+        Columns<int, QStringList, QString>("day", "scenes", "pages");
 
         Row("first day", 0, QStringList{"1", "2"}, "Total pages: 2 2/8");
         Row("second day", 1, QStringList{"3", "1"}, "Total pages: 4");
@@ -194,9 +192,7 @@ private Q_SLOTS:
     }
     void crewHalves_data()
     {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<QStringList>("first");
-        QTest::addColumn<QStringList>("second");
+        Columns<int, QStringList, QStringList>("rows", "first", "second");
         Row("one row", 1, QStringList{"c1"}, QStringList{});
         Row("two rows", 2, QStringList{"c1"}, QStringList{"c2"});
         Row("five rows", 5, QStringList{"c1", "c2", "c3"}, QStringList{"c4", "c5"});
@@ -283,10 +279,7 @@ private Q_SLOTS:
     }
     void fileBadInput_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("weather");
-        QTest::addColumn<QString>("wrap");
+        Columns<QByteArray, QString, QString, QString>("bytes", "message", "weather", "wrap");
 
         Row("other header", QByteArray("Torvanbridge data file\r\n46482\r\n"), CallSheetFileBadHeader, "keep",
             "6:00 pm");

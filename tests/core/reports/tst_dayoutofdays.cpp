@@ -48,12 +48,9 @@ class TestDayOutOfDays : public QObject
 private Q_SLOTS:
     void statusCodes_data()
     {
-        QTest::addColumn<int>("days");
-        QTest::addColumn<QString>("work");
-        QTest::addColumn<int>("threshold");
-        QTest::addColumn<bool>("holdRule");
-        QTest::addColumn<bool>("showHolds");
-        QTest::addColumn<QString>("expected"); // day cells joined by "|"
+        // expected: day cells joined by "|"
+        Columns<int, QString, int, bool, bool, QString>("days", "work", "threshold", "holdRule", "showHolds",
+                                                        "expected");
 
         Row("single day", 1, "1", 10, false, true, "SWF");
         Row("single day among others", 3, "2", 10, false, true, "|SWF|");

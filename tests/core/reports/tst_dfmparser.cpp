@@ -66,8 +66,7 @@ private Q_SLOTS:
 
     void syntaxErrors_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("message");
+        Columns<QString, QString>("text", "message");
         Row("no object", "Left = 1\n", "t.dfm, line 1: expected \"object\", found \"Left\"");
         Row("missing class", "object F:\nend", "t.dfm, line 2: expected a class name after \"F:\", found \"end\"");
         Row("missing equals", "object F: TForm\n  Left 1\nend",
@@ -108,8 +107,7 @@ private Q_SLOTS:
 
     void templateErrors_data()
     {
-        QTest::addColumn<QString>("body");
-        QTest::addColumn<QString>("message");
+        Columns<QString, QString>("body", "message");
         Row("unknown class", "  object X: TLabel\n  end\n",
             "t.dfm, line 2: expected a report class (TAlReport, tAlBand, TAlLabel, TAlField, "
             "TAlSysField, TAlShape, tAlImage, TAlDetailLink), found \"TLabel\"");
@@ -210,8 +208,8 @@ private Q_SLOTS:
 
     void loadTemplateReportsWhyNot_data()
     {
-        QTest::addColumn<QByteArray>("content"); // none: no file at all
-        QTest::addColumn<QString>("why");
+        // content: none: no file at all
+        Columns<QByteArray, QString>("content", "why");
         Row("missing", QByteArray(), "%1: no such template file");
         Row("no report", QByteArray("object F: TForm\r\n  object B: tAlBand\r\n  end\r\nend\r\n"),
             "t.dfm: the template holds no TAlReport");
@@ -245,8 +243,7 @@ private Q_SLOTS:
 
     void shippedTemplatesLoad_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("fields");
+        Columns<QString, QString>("file", "fields");
         const QString header = QStringLiteral("PictureField AddressField CompanyField ");
         Row("shooting schedule", "ShootSch1.dfm",
             "PictureField CompanyField DayField GroupEndField SceneField PageField "

@@ -112,10 +112,8 @@ private Q_SLOTS:
     }
     void dayRanges_data()
     {
-        QTest::addColumn<ScheduleReportOptions>("options");
-        QTest::addColumn<QStringList>("scenes");
-        QTest::addColumn<QString>("firstDay");
-        QTest::addColumn<QStringList>("grandTotal");
+        Columns<ScheduleReportOptions, QStringList, QString, QStringList>("options", "scenes", "firstDay",
+                                                                          "grandTotal");
         Row("all", range(true, 1, 1), QStringList{"Scene: 1", "Scene: 2", "Scene: 3", "Scene: 4"},
             "SHOOTING DAY 1 : " + longDate(0), QStringList{"End"});
         Row("day 2 to 2", range(false, 2, 2), QStringList{"Scene: 2", "Scene: 3"}, "SHOOTING DAY 2 : " + longDate(1),
@@ -282,8 +280,7 @@ private Q_SLOTS:
     }
     void locationLine_data()
     {
-        QTest::addColumn<QStringList>("intExtDayNight");
-        QTest::addColumn<QString>("line");
+        Columns<QStringList, QString>("intExtDayNight", "line");
         Row("int day", QStringList{"I", "D"}, "INT - HARBOUR - DAY");
         Row("ext night", QStringList{"E", "N"}, "EXT - HARBOUR - NIGHT");
         Row("int/ext dawn", QStringList{"I/E", "DWN"}, "INT/EXT - HARBOUR - DAWN");
@@ -313,8 +310,8 @@ private Q_SLOTS:
     }
     void missingTemplate_data()
     {
-        QTest::addColumn<int>("report");
-        QTest::addColumn<QString>("message"); // %1 = the template path
+        // message: %1 = the template path
+        Columns<int, QString>("report", "message");
         Row("schedule", 0, "Could not load schedule template file (%1). Please try re-installing Torvanbridge.");
         Row("breakdown", 1,
             "Could not load breakdown sheet template file (%1). Please try re-installing "

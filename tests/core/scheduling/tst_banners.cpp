@@ -77,11 +77,7 @@ private Q_SLOTS:
     }
     void readForEditing_data()
     {
-        QTest::addColumn<QString>("colours");
-        QTest::addColumn<QString>("dayCount");
-        QTest::addColumn<QString>("background");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("days");
+        Columns<QString, QString, QString, QString, int>("colours", "dayCount", "background", "text", "days");
 
         Row("pair", "clRed,clWhite", "3", "clRed", "clWhite", 3);
         Row("no comma: the preference", "clRed", "1", "clYellow", "clNavy", 1);
@@ -132,12 +128,8 @@ private Q_SLOTS:
     }
     void convertRestDays_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("rule");
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<QString>("ruleAfter");
+        Columns<QString, QString, Answer, QString, QString, QString>("start", "rule", "answer", "before", "after",
+                                                                     "ruleAfter");
 
         Row("D67 from a Friday", FridayMarch6, "D67", Answer::Yes, "1 2 3 3 1 2", "1 2 4 4 1 2", "");
         Row("no rest days yet: the rule is cleared", "", "S6", Answer::Yes, "1 2 1 2", "1 2 1 2", "");

@@ -58,11 +58,7 @@ private Q_SLOTS:
     }
     void clearingTheStartDate_data()
     {
-        QTest::addColumn<QString>("rule");
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<bool>("asked");
-        QTest::addColumn<bool>("cleared");
-        QTest::addColumn<QString>("kinds");
+        Columns<QString, Answer, bool, bool, QString>("rule", "answer", "asked", "cleared", "kinds");
 
         // Only the weekday rule needs the start date, so only it is asked about; a
         // start-day rule goes silently, and its rest days with it.
@@ -101,11 +97,9 @@ private Q_SLOTS:
     }
     void ruleShownByTheDialog_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("rule");
-        QTest::addColumn<bool>("byWeekday");
-        QTest::addColumn<QString>("ticked");  // "1" for each ticked box 1..7
-        QTest::addColumn<QString>("written"); // the rule the dialog writes back unchanged
+        // ticked: "1" for each ticked box 1..7
+        // written: the rule the dialog writes back unchanged
+        Columns<QString, QString, bool, QString, QString>("start", "rule", "byWeekday", "ticked", "written");
 
         Row("none", FridayMarch6, "", false, "0000000", "S");
         Row("S6", FridayMarch6, "S6", false, "0000010", "S6");
@@ -135,8 +129,7 @@ private Q_SLOTS:
     }
     void ruleRefused_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("rule");
+        Columns<QString, QString>("start", "rule");
         Row("other letter", FridayMarch6, "W6");
         Row("digit 8", FridayMarch6, "S8");
         Row("digit 0", FridayMarch6, "S0");

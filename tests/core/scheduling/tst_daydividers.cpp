@@ -71,8 +71,7 @@ private Q_SLOTS:
     }
     void removeAll_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("expected");
+        Columns<Answer, QString>("answer", "expected");
         // With a start-day rule of "S1" a rest day follows each divider that ends day 1
         // modulo 7; removing the dividers removes the rest days that followed them.
         Row("yes", Answer::Yes, "1 4 1 1");
@@ -112,11 +111,7 @@ private Q_SLOTS:
     }
     void autoPages_data()
     {
-        QTest::addColumn<QStringList>("board");
-        QTest::addColumn<int>("max");
-        QTest::addColumn<AutoPagesMode>("mode");
-        QTest::addColumn<bool>("remove");
-        QTest::addColumn<QString>("expected");
+        Columns<QStringList, int, AutoPagesMode, bool, QString>("board", "max", "mode", "remove", "expected");
 
         const auto keep = AutoPagesMode::Keep;
         const auto split = AutoPagesMode::Split;
@@ -203,8 +198,7 @@ private Q_SLOTS:
     }
     void autoPagesAtCapacity_data()
     {
-        QTest::addColumn<int>("scenes");
-        QTest::addColumn<bool>("fits");
+        Columns<int, bool>("scenes", "fits");
         // One-page scenes with a maximum of 1: a divider between every two scenes and one
         // at the end, so 500 scenes fill the table to exactly 1000 strips.
         Row("fits exactly", 500, true);

@@ -41,10 +41,8 @@ private Q_SLOTS:
     }
     void marksTheDay_data()
     {
-        QTest::addColumn<QString>("before"); // Reserved12 of rows 1 and 2
-        QTest::addColumn<bool>("tick1");
-        QTest::addColumn<bool>("tick2");
-        QTest::addColumn<QString>("after");
+        // before: Reserved12 of rows 1 and 2
+        Columns<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
 
         Row("tick both", ",", true, true, "46482,46482");
         Row("untick clears", "46482,46482", true, false, "46482,");

@@ -229,12 +229,7 @@ private Q_SLOTS:
     }
     void drop_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<bool>("onBoundary");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<int>("newStart");
-        QTest::addColumn<int>("newEnd");
+        Columns<int, int, bool, QString, int, int>("from", "to", "onBoundary", "order", "newStart", "newEnd");
         Row("2..3 past the end", 2, 23, false, "1 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 2 3", 19, 20);
         Row("3..5 inside the selection", 3, 5, true, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20", 3, 5);
     }
@@ -307,12 +302,8 @@ private Q_SLOTS:
     }
     void wheel_data()
     {
-        QTest::addColumn<int>("delta"); // +120 wheel up, -120 wheel down
-        QTest::addColumn<bool>("shift");
-        QTest::addColumn<int>("h");
-        QTest::addColumn<int>("v");
-        QTest::addColumn<int>("newH");
-        QTest::addColumn<int>("newV");
+        // delta: +120 wheel up, -120 wheel down
+        Columns<int, bool, int, int, int, int>("delta", "shift", "h", "v", "newH", "newV");
         Row("down: one strip left", -120, false, 5, 5, 4, 5);
         Row("up: one strip right", 120, false, 5, 5, 6, 5);
         Row("down at the first strip", -120, false, 1, 5, 1, 5);

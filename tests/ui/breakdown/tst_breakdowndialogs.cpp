@@ -227,9 +227,7 @@ private Q_SLOTS:
     }
     void editedFieldWarnsOnNext_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<bool>("remember");
-        QTest::addColumn<QString>("synopsis");
+        Columns<Answer, bool, QString>("answer", "remember", "synopsis");
         Row("Yes saves", Answer::Yes, false, "Changed");
         Row("No drops", Answer::No, false, "");
         // Remembered, the question is asked no more and the answer saves as Yes did.

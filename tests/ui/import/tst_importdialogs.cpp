@@ -194,8 +194,7 @@ private Q_SLOTS:
     // the file page; Cancel later leaves the open schedule as it was.
     void wizardRefusesFile_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("message");
+        Columns<QString, QString>("file", "message");
         Row("unreadable", "B-SIDE.TXT", "Error with import procedure.\r\r");
         Row("not an fdx", "bad.fdx", QString::fromLatin1(FdxReadErrorText));
     }
@@ -314,8 +313,7 @@ private Q_SLOTS:
 
     void wizardScreenplayFiles_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("markedFountain");
+        Columns<QString, bool>("file", "markedFountain");
         Row("Fountain", "heist.fountain", false);
         Row("Final Draft", "heist.fdx", false);
         Row("txt marked as Fountain", "heist.txt", true);
@@ -353,10 +351,7 @@ private Q_SLOTS:
 
     void wizardReview_data()
     {
-        QTest::addColumn<QString>("finish");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<QStringList>("assignments");
-        QTest::addColumn<QString>("dropped");
+        Columns<QString, QStringList, QStringList, QString>("finish", "cast", "assignments", "dropped");
         // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
         const QStringList all{"Mary", "2.", "A river.", "John", "3."};
         Row("Import! removes the unticked", "NextBut", QStringList{"Mary", "John"}, QStringList{"1", "2,1"},

@@ -127,9 +127,7 @@ private Q_SLOTS:
     }
     void printBoardToPdf_data()
     {
-        QTest::addColumn<bool>("perforated");
-        QTest::addColumn<bool>("oneStrip");
-        QTest::addColumn<double>("zoomAfter");
+        Columns<bool, bool, double>("perforated", "oneStrip", "zoomAfter");
         Row("plain, all", false, false, 1.5);
         Row("perforated, all", true, false, 1.0);
         Row("plain, one strip", false, true, 1.5);

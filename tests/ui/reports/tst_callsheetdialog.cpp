@@ -173,10 +173,7 @@ private Q_SLOTS:
     }
     void dateChangeQuestion_data()
     {
-        QTest::addColumn<bool>("edited");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("asked");
-        QTest::addColumn<QString>("firstScene");
+        Columns<bool, int, bool, QString>("edited", "answer", "asked", "firstScene");
         Row("no hand edit", false, int(Answer::Yes), false, "3");
         Row("edited, Yes refills", true, int(Answer::Yes), true, "3");
         Row("edited, No keeps", true, int(Answer::No), true, "1");

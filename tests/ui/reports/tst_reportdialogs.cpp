@@ -114,8 +114,7 @@ private Q_SLOTS:
     }
     void previewZoomBox_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("zoom");
+        Columns<QString, int>("typed", "zoom");
         Row("letters", "abc", 100);
         Row("too large", "300", 75);
         Row("too small", "10", 75);

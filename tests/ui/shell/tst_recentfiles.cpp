@@ -14,6 +14,7 @@
 #include <QTest>
 
 using namespace tb;
+using tb::test::Columns;
 using tb::test::Row;
 
 namespace {
