@@ -160,14 +160,13 @@ private Q_SLOTS:
     void completion()
     {
         QFETCH(QString, line);
-        QFETCH(QString, expected);
         if (QStandardPaths::findExecutable("bash").isEmpty())
             QSKIP("bash is not installed");
         QTemporaryDir folder;
         QDir(folder.path()).mkdir("sub");
         for (const char *name : {"a.tbf", "b.csv", "script.txt", "c.pdf"})
             QFile(folder.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly);
-        QCOMPARE(complete(path("share/bash-completion/completions/torvanbridge-cli"), line, folder.path()), expected);
+        QTEST(complete(path("share/bash-completion/completions/torvanbridge-cli"), line, folder.path()), "expected");
     }
 
     void fileTypes_data()

@@ -1373,8 +1373,7 @@ private slots:
     void fitToScreen()
     {
         QFETCH(QRect, wanted);
-        QFETCH(QRect, placed);
-        QCOMPARE(FitToScreen(wanted, QRect(0, 0, 1280, 800)), placed);
+        QTEST(FitToScreen(wanted, QRect(0, 0, 1280, 800)), "placed");
     }
 };
 

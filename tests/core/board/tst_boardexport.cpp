@@ -93,9 +93,8 @@ private Q_SLOTS:
     void formatOfName()
     {
         QFETCH(QString, path);
-        QFETCH(int, format);
         const std::optional<BoardExportFormat> found = BoardExportFormatOf(path);
-        QCOMPARE(found ? int(*found) : -1, format);
+        QTEST(found ? int(*found) : -1, "format");
     }
 
     void spreadsheetRows()

@@ -114,7 +114,6 @@ private Q_SLOTS:
     {
         QFETCH(int, column);
         QFETCH(QStringList, values);
-        QFETCH(QString, sorted);
         QList<SortRow> rows;
         for (int i = 0; i < values.size(); ++i) {
             SortRow row(SortColumn::Count);
@@ -123,7 +122,7 @@ private Q_SLOTS:
             rows.append(row);
         }
         SortRowsByColumn(rows, column);
-        QCOMPARE(Column(rows, column), sorted);
+        QTEST(Column(rows, column), "sorted");
     }
 
     void threeKeysKeepBoardOrderInTies()

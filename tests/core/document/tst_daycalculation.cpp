@@ -119,8 +119,6 @@ private Q_SLOTS:
         QFETCH(QString, rule);
         QFETCH(int, days);
         QFETCH(bool, tail);
-        QFETCH(QString, expected);
-        QFETCH(QStringList, dates);
 
         ScheduleDocument doc;
         doc.values.StartDate = start;
@@ -133,13 +131,13 @@ private Q_SLOTS:
             AddScene(doc, "last", "1");
         RecalculateDays(doc);
         RecalculateDays(doc); // rest days are recreated, not duplicated
-        QCOMPARE(Days(doc), expected);
+        QTEST(Days(doc), "expected");
 
         QStringList restDates;
         for (int i = 1; i <= doc.strips.count(); ++i)
             if (doc.strips[i].isAutoRestDay())
                 restDates.append(field(doc, i, StripField::SceneNumber));
-        QCOMPARE(restDates, dates);
+        QTEST(restDates, "dates");
         // Dividers are dated only with a start date.
         QCOMPARE(field(doc, 2, StripField::SceneNumber).isEmpty(), start.isEmpty());
     }

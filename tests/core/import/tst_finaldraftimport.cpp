@@ -111,15 +111,13 @@ private Q_SLOTS:
     void offsets()
     {
         QFETCH(QString, line);
-        QFETCH(QString, page);
-        QFETCH(QString, scene);
 
         Imported run(WriteCrLf("offset-scenes.txt", {"1\tX\t1\t1/8 Pg"}),
                      WriteCrLf("offset-script.txt", {line, "INT. ROOM - DAY", "ANN"}));
         QVERIFY(run.result.ok());
         QCOMPARE(run.doc.strips.count(), 1);
-        QCOMPARE(run.strip(1)[StripField::ScriptPage], page);
-        QCOMPARE(run.strip(1)[StripField::SceneNumber], scene);
+        QTEST(run.strip(1)[StripField::ScriptPage], "page");
+        QTEST(run.strip(1)[StripField::SceneNumber], "scene");
         QCOMPARE(run.strip(1)[StripField::Location], "ROOM");
         QCOMPARE(Cast(run.doc), QStringList{"ANN"});
     }
@@ -146,16 +144,13 @@ private Q_SLOTS:
     void headings()
     {
         QFETCH(QString, heading);
-        QFETCH(QString, intExt);
-        QFETCH(QString, dayNight);
-        QFETCH(QString, location);
 
         Imported run(QList<QStringList>{{heading}});
         QVERIFY(run.result.ok());
         QCOMPARE(run.doc.strips.count(), 1);
-        QCOMPARE(run.strip(1)[StripField::IntExt], intExt);
-        QCOMPARE(run.strip(1)[StripField::DayNight], dayNight);
-        QCOMPARE(run.strip(1)[StripField::Location], location);
+        QTEST(run.strip(1)[StripField::IntExt], "intExt");
+        QTEST(run.strip(1)[StripField::DayNight], "dayNight");
+        QTEST(run.strip(1)[StripField::Location], "location");
     }
 
     void carriedPosition_data()
@@ -178,10 +173,9 @@ private Q_SLOTS:
     void carriedPosition()
     {
         QFETCH(QList<QStringList>, scenes);
-        QFETCH(QString, lastIntExt);
         Imported run(scenes);
         QVERIFY(run.result.ok());
-        QCOMPARE(run.strip(run.doc.strips.count())[StripField::IntExt], lastIntExt);
+        QTEST(run.strip(run.doc.strips.count())[StripField::IntExt], "lastIntExt");
     }
 
     void knownCharacters_data()
@@ -202,12 +196,10 @@ private Q_SLOTS:
     void knownCharacters()
     {
         QFETCH(QStringList, scene);
-        QFETCH(QStringList, cast);
-        QFETCH(QString, assignments);
         Imported run(QList<QStringList>{scene});
         QVERIFY(run.result.ok());
-        QCOMPARE(Cast(run.doc), cast);
-        QCOMPARE(run.strip(1)[StripField::Assignments], assignments);
+        QTEST(Cast(run.doc), "cast");
+        QTEST(run.strip(1)[StripField::Assignments], "assignments");
     }
 
     void twentyCharacters()
@@ -251,13 +243,11 @@ private Q_SLOTS:
     void lengths()
     {
         QFETCH(QString, line);
-        QFETCH(QString, length);
-        QFETCH(QStringList, messages);
 
         Imported run(WriteCrLf("lengths.txt", {line}), WriteCrLf("one-scene.txt", ScriptReport({{"INT. A - DAY"}})));
         QVERIFY(run.result.ok());
-        QCOMPARE(run.prompter.texts(), messages);
-        QCOMPARE(run.strip(1)[StripField::PageLength], length);
+        QTEST(run.prompter.texts(), "messages");
+        QTEST(run.strip(1)[StripField::PageLength], "length");
     }
 
     void lengthsStopWithoutAMarker()
@@ -325,7 +315,6 @@ private Q_SLOTS:
         QFETCH(bool, modified);
         QFETCH(QList<Answer>, answers);
         QFETCH(bool, goesOn);
-        QFETCH(int, saves);
 
         ScheduleDocument doc;
         ScriptedPrompter prompter;
@@ -338,7 +327,7 @@ private Q_SLOTS:
 
         const bool result = finalDraft ? BeginFinalDraftImport(doc, save) : AskToSaveBeforeScriptImport(doc, save);
         QCOMPARE(result, goesOn);
-        QCOMPARE(saved, saves);
+        QTEST(saved, "saves");
         if (modified) {
             QCOMPARE(prompter.prompts.size(), 1);
             const Prompt &p = prompter.prompts.first();

@@ -95,14 +95,11 @@ private Q_SLOTS:
     void headings()
     {
         QFETCH(QString, heading);
-        QFETCH(QString, intExt);
-        QFETCH(QString, dayNight);
-        QFETCH(QString, location);
         QString i, d, l;
         ReadSceneHeading(heading, ScriptImportSettings(), &i, &d, &l);
-        QCOMPARE(i, intExt);
-        QCOMPARE(d, dayNight);
-        QCOMPARE(l, location);
+        QTEST(i, "intExt");
+        QTEST(d, "dayNight");
+        QTEST(l, "location");
     }
 
     void cueNames_data()
@@ -120,8 +117,7 @@ private Q_SLOTS:
     void cueNames()
     {
         QFETCH(QString, cue);
-        QFETCH(QString, name);
-        QCOMPARE(CueName(cue), name);
+        QTEST(CueName(cue), "name");
     }
 
     void synopsis_data()
@@ -139,8 +135,7 @@ private Q_SLOTS:
     void synopsis()
     {
         QFETCH(QString, action);
-        QFETCH(QString, synopsis);
-        QCOMPARE(SynopsisFrom(action), synopsis);
+        QTEST(SynopsisFrom(action), "synopsis");
     }
 
     void fountainRules()
@@ -275,8 +270,7 @@ private Q_SLOTS:
         auto run = std::make_unique<Imported>();
         run->result = ImportFountain(run->doc, *lines, ScriptImportSettings());
         QVERIFY(run->result.ok());
-        QFETCH(int, headings);
-        QCOMPARE(run->doc.strips.count(), headings);
+        QTEST(run->doc.strips.count(), "headings");
         QStringList names = Cast(run->doc);
         QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>(cast.begin(), cast.end()));
         QCOMPARE(names.size(), cast.size());
@@ -338,8 +332,7 @@ private Q_SLOTS:
     void doubts()
     {
         QFETCH(QString, name);
-        QFETCH(QString, doubt);
-        QCOMPARE(CharacterDoubt(name), doubt);
+        QTEST(CharacterDoubt(name), "doubt");
     }
 
     void reviewRemovesWithAssignments()
@@ -381,8 +374,7 @@ private Q_SLOTS:
         QVERIFY(lines.ok());
         auto run = std::make_unique<Imported>();
         QVERIFY(DoImport(run->doc, *lines, ScriptImportSettings()).ok());
-        QFETCH(int, headings);
-        QCOMPARE(run->doc.strips.count(), headings);
+        QTEST(run->doc.strips.count(), "headings");
         const int before = run->doc.elements.count();
         const QStringList dropped = RemoveDoubtfulCharacters(run->doc);
         QCOMPARE(run->doc.elements.count(), before - dropped.size());

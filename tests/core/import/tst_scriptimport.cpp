@@ -71,16 +71,13 @@ private Q_SLOTS:
     void headings()
     {
         QFETCH(QString, heading);
-        QFETCH(QString, intExt);
-        QFETCH(QString, dayNight);
-        QFETCH(QString, location);
 
         Imported run({"Some action.", heading, "More action."});
         QVERIFY(run.result.ok());
         QCOMPARE(run.doc.strips.count(), 1);
-        QCOMPARE(run.strip(1)[StripField::IntExt], intExt);
-        QCOMPARE(run.strip(1)[StripField::DayNight], dayNight);
-        QCOMPARE(run.strip(1)[StripField::Location], location);
+        QTEST(run.strip(1)[StripField::IntExt], "intExt");
+        QTEST(run.strip(1)[StripField::DayNight], "dayNight");
+        QTEST(run.strip(1)[StripField::Location], "location");
     }
     void sceneLengths_data()
     {
@@ -98,7 +95,6 @@ private Q_SLOTS:
         QFETCH(int, linesPerPage);
         QFETCH(QList<int>, headingLines);
         QFETCH(int, lineCount);
-        QFETCH(QStringList, lengths);
 
         // Lines of action in ordinary case, which the import skips, and the headings.
         QStringList lines(lineCount, "Action goes on here.");
@@ -110,7 +106,7 @@ private Q_SLOTS:
         QStringList actual;
         for (int row = 1; row <= run.doc.strips.count(); ++row)
             actual.append(run.strip(row)[StripField::PageLength]);
-        QCOMPARE(actual, lengths);
+        QTEST(actual, "lengths");
     }
     void cues_data()
     {
@@ -258,11 +254,10 @@ private Q_SLOTS:
     void readingFiles()
     {
         QFETCH(QByteArray, bytes);
-        QFETCH(QStringList, lines);
         const QString path = WriteFile(QStringLiteral("script-%1.txt").arg(QTest::currentDataTag()), bytes);
         const ResultOf<QStringList> read = ReadScriptFile(path);
         QVERIFY(read.ok());
-        QCOMPARE(*read, lines);
+        QTEST(*read, "lines");
 
         if (QTest::currentDataTag() == QByteArrayLiteral("LF")) {
             const ResultOf<QStringList> missing = ReadScriptFile(TempPath("no-such-script.txt"));

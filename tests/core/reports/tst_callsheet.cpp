@@ -200,8 +200,6 @@ private Q_SLOTS:
     void crewHalves()
     {
         QFETCH(int, rows);
-        QFETCH(QStringList, first);
-        QFETCH(QStringList, second);
         CallSheet sheet;
         FillCallSheet(*m_doc, sheet, serial(Start));
         sheet.crew.rows.clear();
@@ -209,8 +207,8 @@ private Q_SLOTS:
             sheet.crew.rows.append({QStringLiteral("c%1").arg(r), QStringLiteral("8")});
         ResultOf<BuiltReport> built = CreateCallSheetPages(*m_doc, sheet, templateContext());
         QVERIFY(built.ok());
-        QCOMPARE(values(*built, "CrewField1"), first);
-        QCOMPARE(values(*built, "CrewField2"), second);
+        QTEST(values(*built, "CrewField1"), "first");
+        QTEST(values(*built, "CrewField2"), "second");
     }
     void advanceSchedule()
     {

@@ -128,15 +128,13 @@ private Q_SLOTS:
     {
         QFETCH(ScheduleReportOptions, options);
         QFETCH(QStringList, scenes);
-        QFETCH(QString, firstDay);
-        QFETCH(QStringList, grandTotal);
         layOut(*m_doc, "1 | 2 3 | 4 |");
         Pushes pushes;
         auto built = CreateSchedulePages(*m_doc, options, pushes.context());
         QVERIFY2(built.ok(), qPrintable(built.message()));
         QCOMPARE(pushes.values("SceneField"), scenes);
-        QCOMPARE(pushes.values("DayField").value(0), firstDay);
-        QCOMPARE(pushes.values("GrandTotal"), grandTotal);
+        QTEST(pushes.values("DayField").value(0), "firstDay");
+        QTEST(pushes.values("GrandTotal"), "grandTotal");
         QCOMPARE(built->rows, scenes.size());
         QCOMPARE(built->nothingToPrint, scenes.isEmpty());
     }
