@@ -123,8 +123,7 @@ private Q_SLOTS:
     }
     void manualPages()
     {
-        QFETCH(QString, page);
-        QFETCH(QString, expected);
+        auto [page, expected] = Fetch<QString, QString>("page", "expected");
         const QString file = path("share/man/man1/" + page + ".1.gz");
         const CliRun text = RunProgram("gzip", {"-dc", file});
         QVERIFY(text.out.startsWith(".TH " + page.toUpper() + " 1 "));
@@ -182,9 +181,7 @@ private Q_SLOTS:
     }
     void fileTypes()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, type);
+        auto [name, content, type] = Fetch<QString, QByteArray, QString>("name", "content", "type");
         // The type database reads the folders of XDG_DATA_DIRS once, on first use.
         qputenv("XDG_DATA_DIRS", m_usr.toLocal8Bit() + "/share");
         QTemporaryDir folder;
@@ -205,8 +202,7 @@ private Q_SLOTS:
     }
     void validators()
     {
-        QFETCH(QString, tool);
-        QFETCH(QStringList, args);
+        auto [tool, args] = Fetch<QString, QStringList>("tool", "args");
         if (QStandardPaths::findExecutable(tool).isEmpty())
             QSKIP("the validator is not installed");
         const CliRun r = RunProgram(tool, args);

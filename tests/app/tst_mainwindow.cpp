@@ -161,8 +161,7 @@ private slots:
 
     void menus()
     {
-        QFETCH(QString, menu);
-        QFETCH(QString, expected);
+        auto [menu, expected] = Fetch<QString, QString>("menu", "expected");
         Harness h;
         if (menu.isEmpty()) {
             QStringList bar;
@@ -259,8 +258,7 @@ private slots:
 
     void doubleShortcutsGoToFirstEntry()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
+        auto [first, second] = Fetch<QString, QString>("first", "second");
         Harness h;
         QVERIFY(h.start());
         AddScene(h.doc, "1", "1");
@@ -436,8 +434,7 @@ private slots:
 
     void dropOfFiles()
     {
-        QFETCH(Answer, answer);
-        QFETCH(QString, titleAfter);
+        auto [answer, titleAfter] = Fetch<Answer, QString>("answer", "titleAfter");
         Harness h;
         QVERIFY(h.start());
         h.main->recentFiles()->clear(); // the list an earlier test kept
@@ -523,8 +520,7 @@ private slots:
 
     void enablingByState()
     {
-        QFETCH(QString, state);
-        QFETCH(QString, disabled);
+        auto [state, disabled] = Fetch<QString, QString>("state", "disabled");
         Harness h;
         if (state != "empty") {
             AddScene(h.doc, "1", "1");
@@ -783,10 +779,8 @@ private slots:
 
     void newWithChanges()
     {
-        QFETCH(Answer, answer);
-        QFETCH(QString, savePath);
-        QFETCH(bool, emptied);
-        QFETCH(bool, written);
+        auto [answer, savePath, emptied, written] =
+            Fetch<Answer, QString, bool, bool>("answer", "savePath", "emptied", "written");
         ScheduleDocument doc;
         ScriptedPrompter prompter;
         doc.setPrompter(&prompter);
@@ -910,10 +904,8 @@ private slots:
 
     void closeQuery()
     {
-        QFETCH(bool, modified);
-        QFETCH(Answer, answer);
-        QFETCH(bool, mayClose);
-        QFETCH(int, dialogs);
+        auto [modified, answer, mayClose, dialogs] =
+            Fetch<bool, Answer, bool, int>("modified", "answer", "mayClose", "dialogs");
         ScheduleDocument doc;
         ScriptedPrompter prompter;
         doc.setPrompter(&prompter);
@@ -960,11 +952,8 @@ private slots:
     }
     void boardKeys()
     {
-        QFETCH(int, selStart);
-        QFETCH(int, selEnd);
-        QFETCH(int, key);
-        QFETCH(bool, shift);
-        QFETCH(QString, after);
+        auto [selStart, selEnd, key, shift, after] =
+            Fetch<int, int, int, bool, QString>("selStart", "selEnd", "key", "shift", "after");
         Harness w;
         QVERIFY(w.start());
         fillBoard(w.doc);
@@ -1159,9 +1148,7 @@ private slots:
     }
     void autosaveOfferedAtStart()
     {
-        QFETCH(bool, ownerSavedLater);
-        QFETCH(bool, untitled);
-        QFETCH(bool, offered);
+        auto [ownerSavedLater, untitled, offered] = Fetch<bool, bool, bool>("ownerSavedLater", "untitled", "offered");
         const QString own = saved("offer-own.tbf", "Harbour", 1);
         const QString autosave = TempPath("offer-autosave.tbf");
         {
@@ -1215,8 +1202,7 @@ private slots:
     }
     void failedOpenLeavesNothing()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, cause);
+        auto [content, cause] = Fetch<QByteArray, QString>("content", "cause");
         const QString path = TempPath(QStringLiteral("failed-%1.tbf").arg(QTest::currentDataTag()));
         QVERIFY(content.isEmpty() ? QDir().mkpath(path) : WriteBytes(path, content));
         Harness w;

@@ -107,10 +107,8 @@ private Q_SLOTS:
 
     void entriesOpenTheirDialogs()
     {
-        QFETCH(QString, entry);
-        QFETCH(int, selected);
-        QFETCH(QString, caption);
-        QFETCH(QString, help);
+        auto [entry, selected, caption, help] =
+            Fetch<QString, int, QString, QString>("entry", "selected", "caption", "help");
         Harness p("whole.ini");
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
@@ -246,9 +244,7 @@ private Q_SLOTS:
 
     void finalDraftImport()
     {
-        QFETCH(Answer, answer);
-        QFETCH(int, saves);
-        QFETCH(bool, imports);
+        auto [answer, saves, imports] = Fetch<Answer, int, bool>("answer", "saves", "imports");
         Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");
@@ -300,10 +296,8 @@ private Q_SLOTS:
     }
     void exportEntries()
     {
-        QFETCH(QString, entry);
-        QFETCH(QString, chosen);
-        QFETCH(QString, written);
-        QFETCH(QByteArray, start);
+        auto [entry, chosen, written, start] =
+            Fetch<QString, QString, QString, QByteArray>("entry", "chosen", "written", "start");
         QTemporaryDir folder;
         Harness p("whole.ini");
         QVERIFY(p.start());

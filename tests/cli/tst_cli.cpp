@@ -181,8 +181,7 @@ private Q_SLOTS:
     }
     void usageErrors()
     {
-        QFETCH(QStringList, args);
-        QFETCH(QString, message);
+        auto [args, message] = Fetch<QStringList, QString>("args", "message");
         const QString out = rowOutput(args.value(0) == "board"         ? ".png"
                                       : args.value(0) == "print-board" ? ".pdf"
                                                                        : ".tbf");
@@ -246,8 +245,7 @@ private Q_SLOTS:
     }
     void refusedWritesNothing()
     {
-        QFETCH(QStringList, args);
-        QFETCH(QString, message);
+        auto [args, message] = Fetch<QStringList, QString>("args", "message");
         const QString first = args.value(0);
         const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
         const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : first == "export" ? ".csv" : ".tbf");
@@ -315,11 +313,8 @@ private Q_SLOTS:
 
     void schedules()
     {
-        QFETCH(QStringList, args);
-        QFETCH(int, code);
-        QFETCH(QString, out);
-        QFETCH(QString, err);
-        QFETCH(QString, checks);
+        auto [args, code, out, err, checks] =
+            Fetch<QStringList, int, QString, QString, QString>("args", "code", "out", "err", "checks");
 
         const QString file = rowOutput(".tbf");
         int inputs = 1;
@@ -396,12 +391,9 @@ private Q_SLOTS:
     }
     void board()
     {
-        QFETCH(QStringList, options);
-        QFETCH(QByteArray, settings);
-        QFETCH(QString, file);
-        QFETCH(QString, out);
-        QFETCH(QPoint, pixel);
-        QFETCH(QString, check);
+        auto [options, settings, file, out, pixel, check] =
+            Fetch<QStringList, QByteArray, QString, QString, QPoint, QString>("options", "settings", "file", "out",
+                                                                              "pixel", "check");
         // The test runner's private configuration folder stands for the user's.
         const QString ini = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini";
         QFile::remove(ini);
@@ -441,9 +433,7 @@ private Q_SLOTS:
     }
     void checkTemplate()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(int, code);
-        QFETCH(QString, expected);
+        auto [text, code, expected] = Fetch<QByteArray, int, QString>("text", "code", "expected");
         QDir().mkpath(TempPath(QTest::currentDataTag()));
         const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
         QVERIFY(WriteBytes(path, text));

@@ -80,9 +80,7 @@ private slots:
     }
     void corpus()
     {
-        QFETCH(QString, file);
-        QFETCH(int, code);
-        QFETCH(QString, text);
+        auto [file, code, text] = Fetch<QString, int, QString>("file", "code", "text");
         const QString path = Corpus + file;
         const QString out = TempPath(QStringLiteral("malformed-out"));
         const QString format = file.section(u'/', 0, 0);

@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QtTest/qtest.h>
 
+#include <tuple>
+
 namespace tb::test {
 
 // Records every prompt and answers questions from a script (Yes when the script is empty).
@@ -78,6 +80,15 @@ void Columns(const Names &...names)
 {
     static_assert(sizeof...(T) == sizeof...(Names), "one name for each column");
     (QTest::addColumn<T>(names), ...);
+}
+
+// The current row's values of the named columns, as QFETCH gives them one by one:
+// auto [name, count] = Fetch<QString, int>("name", "count").
+template <typename... T, typename... Names>
+std::tuple<T...> Fetch(const Names &...names)
+{
+    static_assert(sizeof...(T) == sizeof...(Names), "one name for each column");
+    return {*static_cast<T *>(QTest::qData(names, ::qMetaTypeId<T>()))...};
 }
 
 // One data row on one line: Row(tag, values...) is QTest::newRow(tag) << values...

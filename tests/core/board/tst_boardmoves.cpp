@@ -46,10 +46,7 @@ private Q_SLOTS:
     }
     void moveStrips()
     {
-        QFETCH(int, selStart);
-        QFETCH(int, selEnd);
-        QFETCH(int, target);
-        QFETCH(QString, label);
+        auto [selStart, selEnd, target, label] = Fetch<int, int, int, QString>("selStart", "selEnd", "target", "label");
         ScheduleDocument doc;
         for (int i = 1; i <= 12; ++i)
             AddScene(doc, QString::number(i), "1");

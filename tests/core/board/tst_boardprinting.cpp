@@ -71,10 +71,8 @@ private Q_SLOTS:
     }
     void pages()
     {
-        QFETCH(int, from);
-        QFETCH(int, to);
-        QFETCH(bool, perforated);
-        QFETCH(bool, everyHeader);
+        auto [from, to, perforated, everyHeader] =
+            Fetch<int, int, bool, bool>("from", "to", "perforated", "everyHeader");
 
         ScheduleDocument doc;
         fillBoard(doc, 60); // 72 strips
@@ -116,8 +114,7 @@ private Q_SLOTS:
     }
     void overallScale()
     {
-        QFETCH(bool, perforated);
-        QFETCH(double, after);
+        auto [perforated, after] = Fetch<bool, double>("perforated", "after");
         ScheduleDocument doc;
         fillBoard(doc, 10);
         BoardPrintOptions options;

@@ -146,8 +146,7 @@ private Q_SLOTS:
     }
     void zoomSteps()
     {
-        QFETCH(double, scale);
-        QFETCH(int, index);
+        auto [scale, index] = Fetch<double, int>("scale", "index");
         QCOMPARE(ZoomIndexForScale(scale), index);
         QTEST(SnapBoardScale(scale), "snapped");
         if (index >= 0)
@@ -208,8 +207,7 @@ private Q_SLOTS:
     }
     void usesElement()
     {
-        QFETCH(QString, list);
-        QFETCH(int, element);
+        auto [list, element] = Fetch<QString, int>("list", "element");
         StripRecord s = strip("1");
         s.set(StripField::Assignments, list);
         QTEST(UsesElement(s, element), "uses");
@@ -258,9 +256,7 @@ private Q_SLOTS:
     {
         QFETCH(StripRecord, strip);
         BoardStyle style;
-        QFETCH(int, line1);
-        QFETCH(int, line2);
-        QFETCH(bool, shootingDays);
+        auto [line1, line2, shootingDays] = Fetch<int, int, bool>("line1", "line2", "shootingDays");
         style.DescLine1 = line1;
         style.DescLine2 = line2;
         style.ShowShootingDays = shootingDays;
@@ -368,10 +364,8 @@ private Q_SLOTS:
     }
     void returnedText()
     {
-        QFETCH(int, strips);
-        QFETCH(int, elements);
-        QFETCH(int, firstStrip);
-        QFETCH(bool, printing);
+        auto [strips, elements, firstStrip, printing] =
+            Fetch<int, int, int, bool>("strips", "elements", "firstStrip", "printing");
         ScheduleDocument doc;
         for (int i = 1; i <= strips; ++i)
             AddScene(doc, QString::number(i), "1");

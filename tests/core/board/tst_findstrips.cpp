@@ -71,8 +71,7 @@ private Q_SLOTS:
     }
     void nextAndPreviousGoRound()
     {
-        QFETCH(int, from);
-        QFETCH(bool, forward);
+        auto [from, forward] = Fetch<int, bool>("from", "forward");
         QTEST(FindStrip(doc, QStringLiteral("mara"), from, forward), "found");
     }
 

@@ -47,8 +47,7 @@ private Q_SLOTS:
 
     void highestCast()
     {
-        QFETCH(QStringList, categories);
-        QFETCH(QStringList, ids);
+        auto [categories, ids] = Fetch<QStringList, QStringList>("categories", "ids");
         ScheduleDocument doc;
         for (int i = 0; i < categories.size(); ++i) {
             const int row = AddElement(doc, QStringLiteral("E%1").arg(i), 1, ids.at(i));
@@ -130,9 +129,7 @@ private Q_SLOTS:
 
     void validation()
     {
-        QFETCH(QString, description);
-        QFETCH(QString, id);
-        QFETCH(QString, message);
+        auto [description, id, message] = Fetch<QString, QString, QString>("description", "id", "message");
         ScheduleDocument doc;
         ScriptedPrompter prompter;
         doc.setPrompter(&prompter);
@@ -214,8 +211,7 @@ private Q_SLOTS:
 
     void duplicateCastId()
     {
-        QFETCH(int, editIndex);
-        QFETCH(QString, id);
+        auto [editIndex, id] = Fetch<int, QString>("editIndex", "id");
         ScheduleDocument doc;
         AddElement(doc, "Anna", 1, "1");
         AddElement(doc, "Ben", 1, "3");

@@ -77,9 +77,7 @@ private Q_SLOTS:
 
     void logo()
     {
-        QFETCH(QString, file);
-        QFETCH(int, source);
-        QFETCH(QString, message);
+        auto [file, source, message] = Fetch<QString, int, QString>("file", "source", "message");
         const QString path = TempPath(file);
         if (file.startsWith("logo")) {
             QImage image(40, 20, QImage::Format_RGB32);

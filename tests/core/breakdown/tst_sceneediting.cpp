@@ -81,8 +81,7 @@ private Q_SLOTS:
     }
     void lengthToSpins()
     {
-        QFETCH(QString, text);
-        QFETCH(int, lines);
+        auto [text, lines] = Fetch<QString, int>("text", "lines");
         int w = -1, e = -1;
         LengthToSpins(text, lines, &w, &e);
         QTEST(w, "whole");
@@ -98,8 +97,7 @@ private Q_SLOTS:
     }
     void spinsToLength()
     {
-        QFETCH(int, whole);
-        QFETCH(int, eighths);
+        auto [whole, eighths] = Fetch<int, int>("whole", "eighths");
         QTEST(SpinsToLength(whole, eighths), "text");
     }
     void pageFromStrip()
@@ -228,9 +226,7 @@ private Q_SLOTS:
     }
     void okLabelsAndScroll()
     {
-        QFETCH(int, mode);
-        QFETCH(int, strips);
-        QFETCH(QString, label);
+        auto [mode, strips, label] = Fetch<int, int, QString>("mode", "strips", "label");
         ScheduleDocument doc;
         ScrollView view;
         doc.setView(&view);
@@ -322,11 +318,8 @@ private Q_SLOTS:
     }
     void stepToScene()
     {
-        QFETCH(QString, board);
-        QFETCH(int, from);
-        QFETCH(int, direction);
-        QFETCH(int, index);
-        QFETCH(bool, found);
+        auto [board, from, direction, index, found] =
+            Fetch<QString, int, int, int, bool>("board", "from", "direction", "index", "found");
         ScheduleDocument doc;
         ScrollView view;
         doc.setView(&view);
@@ -358,8 +351,7 @@ private Q_SLOTS:
     }
     void memoLines()
     {
-        QFETCH(QString, text);
-        QFETCH(QStringList, lines);
+        auto [text, lines] = Fetch<QString, QStringList>("text", "lines");
         QCOMPARE(MemoLines(text), lines);
         // Through the stored comma text and back.
         QCOMPARE(legacy::SplitCommaText(legacy::JoinCommaText(lines)), lines);

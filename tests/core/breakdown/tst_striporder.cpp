@@ -112,8 +112,7 @@ private Q_SLOTS:
 
     void sortByColumn()
     {
-        QFETCH(int, column);
-        QFETCH(QStringList, values);
+        auto [column, values] = Fetch<int, QStringList>("column", "values");
         QList<SortRow> rows;
         for (int i = 0; i < values.size(); ++i) {
             SortRow row(SortColumn::Count);

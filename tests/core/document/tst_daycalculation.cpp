@@ -115,10 +115,7 @@ private Q_SLOTS:
     }
     void restDays()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, rule);
-        QFETCH(int, days);
-        QFETCH(bool, tail);
+        auto [start, rule, days, tail] = Fetch<QString, QString, int, bool>("start", "rule", "days", "tail");
 
         ScheduleDocument doc;
         doc.values.StartDate = start;

@@ -38,10 +38,8 @@ private Q_SLOTS:
 
     void assignments()
     {
-        QFETCH(QString, op);
-        QFETCH(QString, list);
-        QFETCH(QList<int>, elements);
-        QFETCH(QString, expected);
+        auto [op, list, elements, expected] =
+            Fetch<QString, QString, QList<int>, QString>("op", "list", "elements", "expected");
         ScheduleDocument doc;
         ScriptedPrompter prompter;
         doc.setPrompter(&prompter);
@@ -104,9 +102,7 @@ private Q_SLOTS:
 
     void readAssignmentList()
     {
-        QFETCH(QString, list);
-        QFETCH(bool, atCommas);
-        QFETCH(bool, skip);
+        auto [list, atCommas, skip] = Fetch<QString, bool, bool>("list", "atCommas", "skip");
         const AssignmentRead read =
             ReadAssignmentList(list, skip ? UnreadableItem::Skipped : UnreadableItem::EndsList,
                                atCommas ? AssignmentItems::AtCommas : AssignmentItems::CommaText);

@@ -163,8 +163,7 @@ private Q_SLOTS:
 
     void oneSnapshotOneRecalculationOneNotification()
     {
-        QFETCH(Operation, operation);
-        QFETCH(QString, label);
+        auto [operation, label] = Fetch<Operation, QString>("operation", "label");
         ScheduleDocument doc;
         Board(doc);
         doc.undo.levels[1].label = QStringLiteral("before");

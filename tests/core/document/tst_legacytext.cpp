@@ -11,6 +11,7 @@
 using namespace tb::legacy;
 
 using tb::test::Columns;
+using tb::test::Fetch;
 using tb::test::Row;
 
 class TestLegacyText : public QObject
@@ -112,9 +113,7 @@ private slots:
 
     void strToInt()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, ok);
-        QFETCH(int, value);
+        auto [text, ok, value] = Fetch<QString, bool, int>("text", "ok", "value");
         bool converted = !ok;
         QCOMPARE(StrToInt(text, &converted), value);
         QCOMPARE(converted, ok);
@@ -179,8 +178,7 @@ private slots:
 
     void floatFromText()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, ok);
+        auto [text, ok] = Fetch<QString, bool>("text", "ok");
         bool converted = !ok;
         QTEST(FloatFromText(text, &converted), "value");
         QCOMPARE(converted, ok);
@@ -214,8 +212,7 @@ private slots:
 
     void serialDates()
     {
-        QFETCH(double, serial);
-        QFETCH(QDate, date);
+        auto [serial, date] = Fetch<double, QDate>("serial", "date");
         QCOMPARE(SerialToDate(serial), date);
         if (date.isValid() && serial == std::floor(serial))
             QCOMPARE(DateToSerial(date), serial);
@@ -242,8 +239,7 @@ private slots:
 
     void formatDate()
     {
-        QFETCH(QDate, date);
-        QFETCH(QString, pattern);
+        auto [date, pattern] = Fetch<QDate, QString>("date", "pattern");
         QTEST(FormatDate(date, pattern, QLocale(QLocale::English, QLocale::UnitedStates)), "text");
     }
 
@@ -298,8 +294,7 @@ private slots:
 
     void parseShortDate()
     {
-        QFETCH(QString, localeName);
-        QFETCH(QString, text);
+        auto [localeName, text] = Fetch<QString, QString>("localeName", "text");
         QTEST(ParseShortDate(text, QLocale(localeName)), "date");
     }
 
@@ -331,8 +326,7 @@ private slots:
 
     void colorValueNames()
     {
-        QFETCH(quint32, value);
-        QFETCH(QString, text);
+        auto [value, text] = Fetch<quint32, QString>("value", "text");
         QCOMPARE(ColorValueToString(value), text);
         quint32 read = ~value;
         QVERIFY(StringToColorValue(text, &read));
@@ -350,9 +344,7 @@ private slots:
 
     void stringToColorValue()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, ok);
-        QFETCH(quint32, value);
+        auto [text, ok, value] = Fetch<QString, bool, quint32>("text", "ok", "value");
         quint32 read = 0xDEADBEEF;
         QCOMPARE(StringToColorValue(text, &read), ok);
         QCOMPARE(read, ok ? value : 0xDEADBEEF);
@@ -405,8 +397,7 @@ private slots:
 
     void windows1252Bytes()
     {
-        QFETCH(int, byte);
-        QFETCH(int, character);
+        auto [byte, character] = Fetch<int, int>("byte", "character");
         const QByteArray bytes(1, char(byte));
         const QString text{QChar(char16_t(character))};
         QCOMPARE(DecodeWindows1252(bytes), text);
@@ -432,8 +423,7 @@ private slots:
 
     void canEncodeWindows1252()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, canEncode);
+        auto [text, canEncode] = Fetch<QString, bool>("text", "canEncode");
         QCOMPARE(CanEncodeWindows1252(text), canEncode);
         const QByteArray bytes = EncodeWindows1252(text);
         if (canEncode)
@@ -481,8 +471,7 @@ private slots:
 
     void encodeFileText()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, bytes);
+        auto [text, bytes] = Fetch<QString, QByteArray>("text", "bytes");
         QCOMPARE(EncodeFileText(text), bytes);
         QCOMPARE(DecodeFileText(bytes), text);
     }

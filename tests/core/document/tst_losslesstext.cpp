@@ -183,8 +183,7 @@ private slots:
     }
     void encoding()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, bytes);
+        auto [text, bytes] = Fetch<QString, QByteArray>("text", "bytes");
         QCOMPARE(legacy::EncodeFileText(text), bytes);
         QCOMPARE(legacy::DecodeFileText(bytes), text);
     }

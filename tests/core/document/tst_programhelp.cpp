@@ -8,6 +8,7 @@
 
 using namespace tb;
 using tb::test::Columns;
+using tb::test::Fetch;
 using tb::test::Row;
 
 namespace {
@@ -58,8 +59,7 @@ private Q_SLOTS:
     }
     void manPageEscapes()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, roff);
+        auto [text, roff] = Fetch<QString, QString>("text", "roff");
         qputenv("SOURCE_DATE_EPOCH", "1800000000");
         const QString page = FormatManPage(samplePage("run", text), "1.2");
         QVERIFY(page.startsWith(".TH TOOL 1 \"2027-01-15\" \"Torvanbridge 1.2\" \"User Commands\"\n"

@@ -115,11 +115,8 @@ private slots:
     }
     void inProcess()
     {
-        QFETCH(QString, writer);
-        QFETCH(int, scenes);
-        QFETCH(QByteArray, op);
-        QFETCH(int, error);
-        QFETCH(qint64, after);
+        auto [writer, scenes, op, error, after] =
+            Fetch<QString, int, QByteArray, int, qint64>("writer", "scenes", "op", "error", "after");
 
         ScheduleDocument doc;
         ScriptedPrompter prompter;
@@ -205,11 +202,8 @@ private slots:
     }
     void commandLine()
     {
-        QFETCH(QStringList, command);
-        QFETCH(QString, out);
-        QFETCH(QByteArray, op);
-        QFETCH(int, error);
-        QFETCH(qint64, after);
+        auto [command, out, op, error, after] =
+            Fetch<QStringList, QString, QByteArray, int, qint64>("command", "out", "op", "error", "after");
 
         static QString large;
         if (large.isEmpty()) {

@@ -106,8 +106,7 @@ private Q_SLOTS:
 
     void roundTripIsByteIdentical()
     {
-        QFETCH(quint32, seed);
-        QFETCH(bool, ascii);
+        auto [seed, ascii] = Fetch<quint32, bool>("seed", "ascii");
         ScheduleDocument doc;
         fillRandom(doc, seed, ascii);
         const QString first = TempPath(QStringLiteral("rt-%1-a.tbf").arg(seed));
@@ -133,8 +132,7 @@ private Q_SLOTS:
 
     void encodingChoice()
     {
-        QFETCH(QString, title);
-        QFETCH(QByteArray, expectedLine);
+        auto [title, expectedLine] = Fetch<QString, QByteArray>("title", "expectedLine");
         ScheduleDocument doc;
         doc.values.PictureTitle = title;
         const QString path = TempPath("enc.tbf");
@@ -221,8 +219,7 @@ private Q_SLOTS:
 
     void zoomLine()
     {
-        QFETCH(QString, line);
-        QFETCH(double, zoom);
+        auto [line, zoom] = Fetch<QString, double>("line", "zoom");
         ScheduleDocument doc;
         QStringList lines = ScheduleFileLines(doc);
         lines[12] = line;
@@ -265,9 +262,7 @@ private Q_SLOTS:
     // names the file and the cause.
     void malformed()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, message);
-        QFETCH(QString, cause);
+        auto [bytes, message, cause] = Fetch<QByteArray, QString, QString>("bytes", "message", "cause");
         const QString path = TempPath("bad.tbf");
         QVERIFY(WriteBytes(path, bytes));
 

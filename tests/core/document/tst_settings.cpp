@@ -274,8 +274,7 @@ private slots:
 
     void descriptionLineItems()
     {
-        QFETCH(int, index);
-        QFETCH(int, stored);
+        auto [index, stored] = Fetch<int, int>("index", "stored");
         QCOMPARE(DescLineItems().size(), 5);
         if (index >= 0 && index < 5)
             QCOMPARE(DescLineItems().at(index), QString::fromLatin1(QTest::currentDataTag()));
@@ -304,8 +303,7 @@ private slots:
 
     void warningAnswers()
     {
-        QFETCH(int, unticked);
-        QFETCH(QString, line);
+        auto [unticked, line] = Fetch<int, QString>("unticked", "line");
         const QString path = TempPath("warn/Torvanbridge.ini");
         QFile::remove(path);
         Settings s(path);

@@ -311,10 +311,8 @@ private Q_SLOTS:
 
     void commandSteps()
     {
-        QFETCH(bool, finalDraft);
-        QFETCH(bool, modified);
-        QFETCH(QList<Answer>, answers);
-        QFETCH(bool, goesOn);
+        auto [finalDraft, modified, answers, goesOn] =
+            Fetch<bool, bool, QList<Answer>, bool>("finalDraft", "modified", "answers", "goesOn");
 
         ScheduleDocument doc;
         ScriptedPrompter prompter;

@@ -262,9 +262,7 @@ private Q_SLOTS:
 
     void realFountainScripts()
     {
-        QFETCH(QString, file);
-        QFETCH(QStringList, cast);
-        QFETCH(double, printedPages);
+        auto [file, cast, printedPages] = Fetch<QString, QStringList, double>("file", "cast", "printedPages");
         const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath(file));
         QVERIFY(lines.ok());
         auto run = std::make_unique<Imported>();
@@ -365,8 +363,7 @@ private Q_SLOTS:
 
     void plainTextReview()
     {
-        QFETCH(QString, file);
-        QFETCH(QStringList, speakers);
+        auto [file, speakers] = Fetch<QString, QStringList>("file", "speakers");
         const QString path = QDir(ScreenplaysDir).filePath(file);
         if (!QFile::exists(path))
             QSKIP("the shared screenplays are not there");

@@ -92,9 +92,8 @@ private Q_SLOTS:
     }
     void sceneLengths()
     {
-        QFETCH(int, linesPerPage);
-        QFETCH(QList<int>, headingLines);
-        QFETCH(int, lineCount);
+        auto [linesPerPage, headingLines, lineCount] =
+            Fetch<int, QList<int>, int>("linesPerPage", "headingLines", "lineCount");
 
         // Lines of action in ordinary case, which the import skips, and the headings.
         QStringList lines(lineCount, "Action goes on here.");
@@ -135,8 +134,7 @@ private Q_SLOTS:
     }
     void cues()
     {
-        QFETCH(QString, cue);
-        QFETCH(QString, element);
+        auto [cue, element] = Fetch<QString, QString>("cue", "element");
 
         Imported run({"INT. ROOM - DAY", cue, "Hello."});
         QCOMPARE(run.doc.strips.count(), 1);
@@ -284,10 +282,8 @@ private Q_SLOTS:
     // extension in parentheses dropped, apart from the closing "THE END".
     void realScreenplays()
     {
-        QFETCH(QString, file);
-        QFETCH(int, headings);
-        QFETCH(int, speakers);
-        QFETCH(QStringList, other);
+        auto [file, headings, speakers, other] =
+            Fetch<QString, int, int, QStringList>("file", "headings", "speakers", "other");
 
         const QString path = QDir(ScreenplayDir).filePath(file);
         if (!QFile::exists(path))

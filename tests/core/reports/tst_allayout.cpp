@@ -154,8 +154,7 @@ private Q_SLOTS:
     }
     void scaling()
     {
-        QFETCH(int, design);
-        QFETCH(int, dpi);
+        auto [design, dpi] = Fetch<int, int>("design", "dpi");
         QTEST(ScaleToOutput(design, dpi, 96), "expected");
         QCOMPARE(MillimetresToDots(25.4, 1200), 1200); // 1200.5 rounds to the even 1200
         QCOMPARE(MillimetresToDots(10, 600), 237);     // 236.7 + 0.5
@@ -207,10 +206,8 @@ private Q_SLOTS:
     }
     void bandsOnPages()
     {
-        QFETCH(QString, bands);
-        QFETCH(QString, values);
-        QFETCH(int, height);
-        QFETCH(QString, pages);
+        auto [bands, values, height, pages] =
+            Fetch<QString, QString, int, QString>("bands", "values", "height", "pages");
         const Laid laid = layOut(bands, values, height);
         QVERIFY(laid.form);
         QCOMPARE(bandNames(laid.layout), pages);
@@ -467,8 +464,7 @@ private Q_SLOTS:
     }
     void textLines()
     {
-        QFETCH(QString, text);
-        QFETCH(double, width);
+        auto [text, width] = Fetch<QString, double>("text", "width");
         QFont font(QStringLiteral("Liberation Mono"));
         font.setPixelSize(10);
         const QFontMetricsF metrics(font);

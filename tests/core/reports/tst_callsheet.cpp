@@ -101,9 +101,7 @@ private Q_SLOTS:
     }
     void fillsTheDay()
     {
-        QFETCH(int, day);
-        QFETCH(QStringList, scenes);
-        QFETCH(QString, pages);
+        auto [day, scenes, pages] = Fetch<int, QStringList, QString>("day", "scenes", "pages");
         CallSheet sheet;
         FillCallSheet(*m_doc, sheet, serial(Start.addDays(day)) + 0.25);
         QCOMPARE(column(sheet.scenes, CallSheetColumns::SceneNumber), scenes);
@@ -290,10 +288,8 @@ private Q_SLOTS:
     }
     void fileBadInput()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, message);
-        QFETCH(QString, weather);
-        QFETCH(QString, wrap);
+        auto [bytes, message, weather, wrap] =
+            Fetch<QByteArray, QString, QString, QString>("bytes", "message", "weather", "wrap");
         const QString path = TempPath(QStringLiteral("bad-%1.tbc").arg(QTest::currentDataTag()).replace(u' ', u'-'));
         QVERIFY(bytes == "<none>" || WriteBytes(path, bytes));
         CallSheet sheet;

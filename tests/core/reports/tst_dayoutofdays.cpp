@@ -64,12 +64,8 @@ private Q_SLOTS:
     }
     void statusCodes()
     {
-        QFETCH(int, days);
-        QFETCH(QString, work);
-        QFETCH(int, threshold);
-        QFETCH(bool, holdRule);
-        QFETCH(bool, showHolds);
-        QFETCH(QString, expected);
+        auto [days, work, threshold, holdRule, showHolds, expected] = Fetch<int, QString, int, bool, bool, QString>(
+            "days", "work", "threshold", "holdRule", "showHolds", "expected");
 
         ScheduleDocument doc;
         doc.values.HoldDays = threshold;

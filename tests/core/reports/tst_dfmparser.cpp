@@ -98,8 +98,7 @@ private Q_SLOTS:
 
     void syntaxErrors()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, message);
+        auto [text, message] = Fetch<QString, QString>("text", "message");
         ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
         QVERIFY(!parsed.ok());
         QCOMPARE(parsed.message(), message);
@@ -143,8 +142,7 @@ private Q_SLOTS:
 
     void templateErrors()
     {
-        QFETCH(QString, body);
-        QFETCH(QString, message);
+        auto [body, message] = Fetch<QString, QString>("body", "message");
         ResultOf<DfmObject> parsed =
             ParseDfmText(QStringLiteral("object F: TForm\n") + body + QStringLiteral("end\n"), QStringLiteral("t.dfm"));
         QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
@@ -223,8 +221,7 @@ private Q_SLOTS:
 
     void loadTemplateReportsWhyNot()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, why);
+        auto [content, why] = Fetch<QByteArray, QString>("content", "why");
         const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/t.dfm");
         QDir().mkpath(QFileInfo(path).path());
         QFile f(path);
@@ -268,8 +265,7 @@ private Q_SLOTS:
 
     void shippedTemplatesLoad()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, fields);
+        auto [file, fields] = Fetch<QString, QString>("file", "fields");
         auto loaded = LoadTemplate(QStringLiteral(TB_SOURCE_DIR) + "/templates/" + file);
         QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
         const ReportForm &form = *loaded.value();

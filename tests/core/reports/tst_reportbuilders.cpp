@@ -126,8 +126,7 @@ private Q_SLOTS:
     }
     void dayRanges()
     {
-        QFETCH(ScheduleReportOptions, options);
-        QFETCH(QStringList, scenes);
+        auto [options, scenes] = Fetch<ScheduleReportOptions, QStringList>("options", "scenes");
         layOut(*m_doc, "1 | 2 3 | 4 |");
         Pushes pushes;
         auto built = CreateSchedulePages(*m_doc, options, pushes.context());
@@ -287,8 +286,7 @@ private Q_SLOTS:
     }
     void locationLine()
     {
-        QFETCH(QStringList, intExtDayNight);
-        QFETCH(QString, line);
+        auto [intExtDayNight, line] = Fetch<QStringList, QString>("intExtDayNight", "line");
         const int row = scene(*m_doc, "1");
         m_doc->strips[row].set(StripField::IntExt, intExtDayNight[0]);
         m_doc->strips[row].set(StripField::DayNight, intExtDayNight[1]);
@@ -320,8 +318,7 @@ private Q_SLOTS:
     }
     void missingTemplate()
     {
-        QFETCH(int, report);
-        QFETCH(QString, message);
+        auto [report, message] = Fetch<int, QString>("report", "message");
         QStringList trace;
         const QString path = TempPath("gone.dfm");
         const ReportBuildContext context{[&](const QString &l) { trace.append(l); }, nullptr, path};

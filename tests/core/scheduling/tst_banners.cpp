@@ -92,11 +92,8 @@ private Q_SLOTS:
     }
     void readForEditing()
     {
-        QFETCH(QString, colours);
-        QFETCH(QString, dayCount);
-        QFETCH(QString, background);
-        QFETCH(QString, text);
-        QFETCH(int, days);
+        auto [colours, dayCount, background, text, days] =
+            Fetch<QString, QString, QString, QString, int>("colours", "dayCount", "background", "text", "days");
         Fixture f;
         const int row = AddBanner(f.doc, "Wrap party");
         f.doc.strips[row].set(StripField::StripColour, colours);
@@ -137,9 +134,7 @@ private Q_SLOTS:
     }
     void convertRestDays()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, rule);
-        QFETCH(Answer, answer);
+        auto [start, rule, answer] = Fetch<QString, QString, Answer>("start", "rule", "answer");
         Fixture f;
         f.doc.values.StartDate = start;
         f.doc.values.AutoRestDayRule = rule;

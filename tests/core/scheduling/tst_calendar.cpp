@@ -69,10 +69,7 @@ private Q_SLOTS:
     }
     void clearingTheStartDate()
     {
-        QFETCH(QString, rule);
-        QFETCH(Answer, answer);
-        QFETCH(bool, asked);
-        QFETCH(bool, cleared);
+        auto [rule, answer, asked, cleared] = Fetch<QString, Answer, bool, bool>("rule", "answer", "asked", "cleared");
         Fixture f;
         f.doc.values.StartDate = FridayMarch6;
         f.doc.values.AutoRestDayRule = rule;
@@ -110,9 +107,7 @@ private Q_SLOTS:
     }
     void ruleShownByTheDialog()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, rule);
-        QFETCH(QString, ticked);
+        auto [start, rule, ticked] = Fetch<QString, QString, QString>("start", "rule", "ticked");
         Fixture f;
         f.doc.values.StartDate = start;
         f.doc.values.AutoRestDayRule = rule;
@@ -135,8 +130,7 @@ private Q_SLOTS:
     }
     void ruleRefused()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, rule);
+        auto [start, rule] = Fetch<QString, QString>("start", "rule");
         Fixture f;
         f.doc.values.StartDate = start;
         f.doc.values.AutoRestDayRule = "S6";

@@ -140,10 +140,8 @@ private Q_SLOTS:
     }
     void autoPages()
     {
-        QFETCH(QStringList, board);
-        QFETCH(int, max);
-        QFETCH(AutoPagesMode, mode);
-        QFETCH(bool, remove);
+        auto [board, max, mode, remove] =
+            Fetch<QStringList, int, AutoPagesMode, bool>("board", "max", "mode", "remove");
 
         Fixture f;
         Build(f.doc, board);
@@ -204,8 +202,7 @@ private Q_SLOTS:
     }
     void autoPagesAtCapacity()
     {
-        QFETCH(int, scenes);
-        QFETCH(bool, fits);
+        auto [scenes, fits] = Fetch<int, bool>("scenes", "fits");
         Fixture f;
         f.doc.values.AutoRestDayRule = "S";            // a rule without digits: no rest days
         Build(f.doc, QStringList(scenes, "1") << "|"); // the divider is removed first

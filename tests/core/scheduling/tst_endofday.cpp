@@ -51,10 +51,7 @@ private Q_SLOTS:
     }
     void marksTheDay()
     {
-        QFETCH(QString, before);
-        QFETCH(bool, tick1);
-        QFETCH(bool, tick2);
-        QFETCH(QString, after);
+        auto [before, tick1, tick2, after] = Fetch<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
         m_doc.strips[1].set(StripField::Reserved12, before.section(u',', 0, 0));
         m_doc.strips[2].set(StripField::Reserved12, before.section(u',', 1, 1));
         QCOMPARE(SceneStripsOn(m_doc, Start), (QList<int>{1, 2}));

@@ -235,10 +235,7 @@ private Q_SLOTS:
     }
     void drop()
     {
-        QFETCH(int, from);
-        QFETCH(int, to);
-        QFETCH(bool, onBoundary);
-        QFETCH(QString, order);
+        auto [from, to, onBoundary, order] = Fetch<int, int, bool, QString>("from", "to", "onBoundary", "order");
         QSignalSpy changed(board, &BoardView::documentChanged);
         const int last = onBoundary ? to : from + 1;
         QTest::mouseClick(board->paintBox(), Qt::LeftButton, Qt::NoModifier, stripPoint(from));
@@ -317,10 +314,7 @@ private Q_SLOTS:
     }
     void wheel()
     {
-        QFETCH(int, delta);
-        QFETCH(bool, shift);
-        QFETCH(int, h);
-        QFETCH(int, v);
+        auto [delta, shift, h, v] = Fetch<int, bool, int, int>("delta", "shift", "h", "v");
         board->setScrollPositions(h, v);
         sendWheel(board->paintBox(), delta, shift ? Qt::ShiftModifier : Qt::NoModifier);
         QTEST(board->horizontalScroll(), "newH");

@@ -235,8 +235,7 @@ private Q_SLOTS:
     }
     void editedFieldWarnsOnNext()
     {
-        QFETCH(Answer, answer);
-        QFETCH(bool, remember);
+        auto [answer, remember] = Fetch<Answer, bool>("answer", "remember");
         ScheduleDocument &doc = small();
         RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Edit, 1);

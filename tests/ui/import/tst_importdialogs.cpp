@@ -200,8 +200,7 @@ private Q_SLOTS:
     }
     void wizardRefusesFile()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, message);
+        auto [file, message] = Fetch<QString, QString>("file", "message");
         Wizard w;
         AddScene(w.doc, "99", "3");
         w.choose(file);
@@ -320,8 +319,7 @@ private Q_SLOTS:
     }
     void wizardScreenplayFiles()
     {
-        QFETCH(QString, file);
-        QFETCH(bool, markedFountain);
+        auto [file, markedFountain] = Fetch<QString, bool>("file", "markedFountain");
         Wizard w;
         QFile::copy(w.folder.path("heist.fountain"), w.folder.path("heist.txt"));
         w.wizard.setDirectory(w.folder.path("drafts")); // and back: the list is read again
@@ -363,9 +361,7 @@ private Q_SLOTS:
     }
     void wizardReview()
     {
-        QFETCH(QString, finish);
-        QFETCH(QStringList, cast);
-        QFETCH(QString, dropped);
+        auto [finish, cast, dropped] = Fetch<QString, QStringList, QString>("finish", "cast", "dropped");
         Wizard w;
         w.choose("junk.txt");
         for (int k = 0; k < 4; ++k)

@@ -134,8 +134,7 @@ private Q_SLOTS:
     }
     void printBoardToPdf()
     {
-        QFETCH(bool, perforated);
-        QFETCH(bool, oneStrip);
+        auto [perforated, oneStrip] = Fetch<bool, bool>("perforated", "oneStrip");
         ScheduleDocument doc;
         QVERIFY(OpenDocument(doc, Example));
         Settings settings(TempPath(QStringLiteral("print.ini")));

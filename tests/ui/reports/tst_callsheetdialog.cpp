@@ -180,9 +180,7 @@ private Q_SLOTS:
     }
     void dateChangeQuestion()
     {
-        QFETCH(bool, edited);
-        QFETCH(int, answer);
-        QFETCH(bool, asked);
+        auto [edited, answer, asked] = Fetch<bool, int, bool>("edited", "answer", "asked");
         Ui::TfrmCallSheet &ui = m_dialog->form();
         if (edited)
             QTest::mouseClick(ui.UnitEdit, Qt::LeftButton);

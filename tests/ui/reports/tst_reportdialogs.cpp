@@ -122,8 +122,7 @@ private Q_SLOTS:
     }
     void previewZoomBox()
     {
-        QFETCH(QString, typed);
-        QFETCH(int, zoom);
+        auto [typed, zoom] = Fetch<QString, int>("typed", "zoom");
         TfrmPreview &preview = *m_preview;
         auto *box = preview.findChild<QComboBox *>("cbxScale");
         QCOMPARE(box->currentText(), QStringLiteral("100"));

@@ -15,6 +15,7 @@
 
 using namespace tb;
 using tb::test::Columns;
+using tb::test::Fetch;
 using tb::test::Row;
 
 namespace {
