@@ -5,14 +5,11 @@
 
 #include "TestSupport.h"
 
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tb::test;
 

@@ -3,7 +3,6 @@
 #include "app/TfrmAbout.h"
 #include "app/TfrmMain.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
@@ -38,7 +37,6 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>

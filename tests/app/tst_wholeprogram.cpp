@@ -4,7 +4,6 @@
 #include "MainWindowTestSupport.h"
 
 #include "app/TfrmMain.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "import/ImportCommandSteps.h"
@@ -21,14 +20,12 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>

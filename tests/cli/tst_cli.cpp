@@ -6,15 +6,10 @@
 
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QPoint>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -8,10 +8,6 @@
 #include "reports/AlLayout.h"
 #include "reports/AlReport.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
 using namespace tb;
 using namespace tb::test;
 

@@ -2,12 +2,10 @@
 
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/DocumentView.h"
 #include "document/ScheduleDocument.h"
 
 #include <QList>
-#include <QTest>
 
 namespace tb::test {
 

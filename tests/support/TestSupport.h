@@ -1,15 +1,19 @@
 #pragma once
 
+#include "document/DocumentOperations.h"
 #include "document/DocumentView.h"
 #include "document/Prompter.h"
 #include "document/ScheduleDocument.h"
 #include "document/StatusSink.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
-#include <QtTest/qtest.h>
+#include <QTest>
 
 #include <tuple>
 

@@ -3,11 +3,8 @@
 #include "TestSupport.h"
 
 #include "board/BoardExport.h"
-#include "document/DocumentOperations.h"
 
-#include <QFile>
 #include <QImage>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -3,8 +3,6 @@
 #include "board/BoardMoves.h"
 #include "document/UndoStore.h"
 
-#include <QTest>
-
 using namespace tb;
 using namespace tb::test;
 

@@ -7,7 +7,6 @@
 #include <QBuffer>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

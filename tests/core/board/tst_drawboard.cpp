@@ -7,7 +7,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -1,9 +1,6 @@
 #include "TestSupport.h"
 
 #include "board/FindStrips.h"
-#include "document/DocumentOperations.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

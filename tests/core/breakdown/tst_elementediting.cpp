@@ -1,10 +1,7 @@
 #include "TestSupport.h"
 
 #include "breakdown/ElementEditing.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -1,12 +1,9 @@
 #include "TestSupport.h"
 
 #include "breakdown/ProductionDetails.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
-#include <QFile>
 #include <QImage>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

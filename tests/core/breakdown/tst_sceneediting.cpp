@@ -1,11 +1,8 @@
 #include "TestSupport.h"
 
 #include "breakdown/SceneEditing.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -2,10 +2,7 @@
 
 #include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

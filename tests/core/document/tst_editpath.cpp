@@ -6,14 +6,11 @@
 #include "breakdown/SceneEditing.h"
 #include "breakdown/StripOrder.h"
 #include "document/Clipboard.h"
-#include "document/DocumentOperations.h"
 #include "scheduling/Banners.h"
 #include "scheduling/Calendar.h"
 #include "scheduling/DayDividers.h"
 #include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
-
-#include <QTest>
 
 #include <functional>
 

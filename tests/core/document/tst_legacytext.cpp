@@ -3,7 +3,6 @@
 #include "document/LegacyText.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <cmath>
 #include <limits>

@@ -5,7 +5,6 @@
 
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 

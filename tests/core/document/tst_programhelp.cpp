@@ -4,8 +4,6 @@
 
 #include "document/ProgramHelp.h"
 
-#include <QTest>
-
 using namespace tb;
 using tb::test::Columns;
 using tb::test::Fetch;

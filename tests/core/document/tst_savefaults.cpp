@@ -6,15 +6,12 @@
 #include "TestSupport.h"
 
 #include "document/AtomicWrite.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "document/ShellCommands.h"
 #include "reports/CallSheetFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 

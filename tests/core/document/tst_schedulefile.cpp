@@ -1,12 +1,8 @@
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <algorithm>
 

@@ -5,11 +5,6 @@
 #include "document/Settings.h"
 #include "document/StandardColours.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
-
 using namespace tb;
 using namespace tb::test;
 

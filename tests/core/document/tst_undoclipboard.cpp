@@ -2,11 +2,9 @@
 
 #include "document/Clipboard.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/UndoStore.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

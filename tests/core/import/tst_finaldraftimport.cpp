@@ -1,11 +1,7 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/FinalDraftImport.h"
 #include "import/ImportCommandSteps.h"
-
-#include <QDir>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

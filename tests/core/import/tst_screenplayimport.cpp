@@ -1,6 +1,5 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/CharacterReview.h"
 #include "import/FdxImport.h"
 #include "import/FountainImport.h"
@@ -8,9 +7,7 @@
 #include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
-#include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -1,14 +1,11 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -13,7 +13,6 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QPdfWriter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

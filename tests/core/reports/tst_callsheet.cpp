@@ -8,9 +8,6 @@
 #include "reports/CallSheetFile.h"
 #include "scheduling/EndOfDay.h"
 
-#include <QFile>
-#include <QTest>
-
 #include <memory>
 
 using namespace tb;

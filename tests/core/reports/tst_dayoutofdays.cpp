@@ -1,14 +1,12 @@
 #include "TestSupport.h"
 
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "reports/DayOutOfDays.h"
 #include "reports/DayOutOfDaysPrint.h"
 
 #include <QBuffer>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

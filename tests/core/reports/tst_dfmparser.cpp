@@ -4,9 +4,6 @@
 #include "reports/DfmParser.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QTest>
 #include <QtEndian>
 
 using namespace tb;

@@ -3,13 +3,10 @@
 #include "TestSupport.h"
 
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "reports/ReportBuilders.h"
 
-#include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 

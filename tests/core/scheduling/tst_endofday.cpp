@@ -4,14 +4,12 @@
 
 #include "board/DrawBoard.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "scheduling/EndOfDay.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

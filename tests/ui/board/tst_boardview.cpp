@@ -1,16 +1,13 @@
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/Settings.h"
 #include "ui/board/BoardView.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QFile>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QToolTip>
 #include <QVBoxLayout>

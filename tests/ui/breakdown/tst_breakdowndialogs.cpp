@@ -1,6 +1,5 @@
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/Settings.h"
 #include "ui/breakdown/TfrmAddElement.h"
 #include "ui/breakdown/TfrmConform.h"
@@ -11,7 +10,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,7 +19,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
-#include <QTest>
 #include <QTimer>
 
 #include <memory>

@@ -1,6 +1,5 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/FdxImport.h"
 #include "import/FinalDraftImport.h"
 #include "ui/import/TfrmFDImport.h"
@@ -8,8 +7,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -19,7 +16,6 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>

@@ -12,10 +12,8 @@
 #include "ui_TfrmPerfSetup.h"
 #include "ui_TfrmPrintIt.h"
 
-#include <QFile>
 #include <QPrinter>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

@@ -3,7 +3,6 @@
 #include "TestSupport.h"
 
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/Settings.h"
 #include "reports/CallSheetFile.h"
@@ -11,11 +10,9 @@
 #include "ui_TfrmCallSheet.h"
 
 #include <QCalendarWidget>
-#include <QFile>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QPrinter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;

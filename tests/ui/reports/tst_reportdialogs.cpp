@@ -18,12 +18,10 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 

@@ -1,6 +1,5 @@
 #include "SchedulingTestView.h"
 
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "scheduling/EndOfDay.h"
 #include "ui/scheduling/TfrmAutoPages.h"
@@ -25,7 +24,6 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <QTimer>
 
 using namespace tb;

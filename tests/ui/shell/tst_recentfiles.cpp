@@ -6,12 +6,10 @@
 
 #include <QAction>
 #include <QDialog>
-#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tb;
 using tb::test::Columns;
