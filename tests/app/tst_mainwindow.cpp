@@ -780,8 +780,7 @@ private slots:
         auto [answer, savePath, emptied, written] =
             Fetch<Answer, QString, bool, bool>("answer", "savePath", "emptied", "written");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         changed(doc);
         prompter.answers = {answer};
         ScriptedFiles files;
@@ -814,8 +813,7 @@ private slots:
     {
         const QString path = saved("open-me.tbf", "Rain");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         changed(doc);
         prompter.answers = {Answer::No};
         ScriptedFiles files;
@@ -868,8 +866,7 @@ private slots:
     {
         const QString path = saved("recent.tbf", "Recent");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         changed(doc);
         ScriptedFiles files;
         prompter.answers = {Answer::Cancel};
@@ -905,8 +902,7 @@ private slots:
         auto [modified, answer, mayClose, dialogs] =
             Fetch<bool, Answer, bool, int>("modified", "answer", "mayClose", "dialogs");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         if (modified)
             changed(doc);
         prompter.answers = {answer};
@@ -1308,8 +1304,7 @@ private slots:
         existing.LoadSettings();
         QCOMPARE(existing.stripBackground[int(StripSlot::DayExt)], 0x00FFFFFFu);
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         TfrmPref pref(doc, existing, TempPath("pref-autosave.tbf"));
         QTimer::singleShot(0, [&] {
             QTest::mouseClick(pref.findChild<QPushButton *>("ResetColoursBut"), Qt::LeftButton);

@@ -23,6 +23,9 @@ namespace tb::test {
 class ScriptedPrompter : public Prompter
 {
 public:
+    ScriptedPrompter() = default;
+    // Answers the document's prompts from now on.
+    explicit ScriptedPrompter(ScheduleDocument &doc) { doc.setPrompter(this); }
     PromptReply ask(const Prompt &prompt) override
     {
         prompts.append(prompt);
@@ -47,6 +50,8 @@ public:
 class RecordingStatus : public StatusSink
 {
 public:
+    RecordingStatus() = default;
+    explicit RecordingStatus(ScheduleDocument &doc) { doc.setStatusSink(this); }
     void setPanelText(int panel, const QString &text) override { panels[panel] = text; }
     void setProgress(int percent) override { progress.append(percent); }
     void setBusy(bool b) override { busy = b; }
@@ -60,6 +65,8 @@ public:
 class RecordingView : public DocumentView
 {
 public:
+    RecordingView() = default;
+    explicit RecordingView(ScheduleDocument &doc) { doc.setView(this); }
     void setTitle(const QString &t) override { title = t; }
     void addRecentFile(const QString &path) override { recent.append(path); }
     void zoomChanged(double z) override { zoom = z; }

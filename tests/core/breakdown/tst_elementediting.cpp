@@ -128,8 +128,7 @@ private Q_SLOTS:
     {
         auto [description, id, message] = Fetch<QString, QString, QString>("description", "id", "message");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         ElementPage page;
         page.description = description;
         page.boardId = id;
@@ -220,8 +219,7 @@ private Q_SLOTS:
     void duplicateQuestion()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         AddElement(doc, "Ben", 1, "3");
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!ConfirmDuplicateCastId(doc, -1, "3"));
@@ -242,8 +240,7 @@ private Q_SLOTS:
         AddElement(doc, "Ben", 1, "2");
         AddElement(doc, "Cora", 1, "7");
         AddElement(doc, "Dov", 1, "A");
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!ResetCastNumbering(doc));
         QCOMPARE(Column(doc, ElementField::BoardId), "1 Prp 2 7 A");
@@ -270,8 +267,7 @@ private Q_SLOTS:
         doc.strips[1].set(StripField::Assignments, "1,2,3,4");
         doc.strips[2].set(StripField::Assignments, "3,3");
         doc.strips[4].set(StripField::Assignments, "4,9");
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!SortElementsByCategory(doc));
         QCOMPARE(Column(doc, ElementField::Description), "Lamp Anna Vase Crowd");

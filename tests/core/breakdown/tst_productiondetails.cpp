@@ -16,8 +16,7 @@ private Q_SLOTS:
     void roundTrip()
     {
         ScheduleDocument doc;
-        RecordingView view;
-        doc.setView(&view);
+        RecordingView view{doc};
         NewDocument(doc);
         ProductionDetails d = ReadProductionDetails(doc);
         QCOMPARE(QStringList({d.unitCall, d.costumeCall, d.makeupCall, d.wrapTime}),
@@ -84,8 +83,7 @@ private Q_SLOTS:
             QVERIFY(WriteBytes(path, "this is text, not a picture"));
         }
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const QImage loaded = LoadLogo(doc, path, LogoSource(source));
         if (message.isEmpty()) {
             QCOMPARE(loaded.size(), QSize(40, 20));

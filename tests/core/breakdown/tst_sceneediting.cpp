@@ -144,8 +144,7 @@ private Q_SLOTS:
     void zeroLengthIsRefused()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         AddScene(doc, "1", "1");
         ScenePage page = BlankScenePage();
         page.eighths = 0;
@@ -240,8 +239,7 @@ private Q_SLOTS:
     void fullTableIsRefused()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         for (int i = 0; i < MaxStrips; ++i)
             AddScene(doc, QString::number(i), "1");
         const int next = doc.values.NextStripId;

@@ -142,8 +142,7 @@ private Q_SLOTS:
     void sortWithoutDividersAsksNothing()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "1", "PIER");
         Scene(doc, "2", "BARN");
         SortStrips(doc, SortColumn::Location, SortColumn::None, SortColumn::None);
@@ -163,8 +162,7 @@ private Q_SLOTS:
     {
         QFETCH(Answer, answer);
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "1", "PIER");
         AddDivider(doc);
         Scene(doc, "2", "BARN");
@@ -184,8 +182,7 @@ private Q_SLOTS:
     void conformEntries()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         for (int i = 1; i <= 4; ++i)
             doc.strips[Scene(doc, QStringLiteral("S%1").arg(i), "LOC")].set(StripField::Synopsis, QString::number(i));
         AddDivider(doc);
@@ -278,8 +275,7 @@ private Q_SLOTS:
     void renumber()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "a", "A");
         const int divider = AddDivider(doc);
         doc.strips[divider].set(StripField::StripId, "77");

@@ -33,8 +33,7 @@ private Q_SLOTS:
     void numbersAndTotals()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        doc.setStatusSink(&status);
+        RecordingStatus status{doc};
         Build(doc, {"1.375", "0.5", "|", "2", "|", "7"}); // the last scene lies after the last divider: no total
         RecalculateDays(doc);
 
@@ -141,8 +140,7 @@ private Q_SLOTS:
     void fullBoardReportsOnce()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         doc.values.AutoRestDayRule = "S1234567";
         while (doc.strips.count() < MaxStrips) {
             AddScene(doc, "x", "1");

@@ -38,8 +38,7 @@ private Q_SLOTS:
         auto [op, list, elements, expected] =
             Fetch<QString, QString, QList<int>, QString>("op", "list", "elements", "expected");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const int row = AddScene(doc, "1", "1");
         doc.strips[row].set(StripField::Assignments, list);
         for (int element : elements) {
@@ -58,8 +57,7 @@ private Q_SLOTS:
     void badAssignmentItems()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const int row = AddScene(doc, "1", "1");
         doc.strips[row].set(StripField::Assignments, "3,x,7");
 
@@ -130,10 +128,8 @@ private Q_SLOTS:
     void newDocumentState()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        RecordingView view;
-        doc.setStatusSink(&status);
-        doc.setView(&view);
+        RecordingStatus status{doc};
+        RecordingView view{doc};
 
         AddScene(doc, "1", "1");
         AddElement(doc, "ANNA");
@@ -220,8 +216,7 @@ private Q_SLOTS:
     void setModifiedRecalculates()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        doc.setStatusSink(&status);
+        RecordingStatus status{doc};
         AddScene(doc, "1", "1.5");
         AddDivider(doc);
         doc.SelStart = 1;

@@ -116,8 +116,7 @@ private slots:
             Fetch<QString, int, QByteArray, int, qint64>("writer", "scenes", "op", "error", "after");
 
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         fill(doc, scenes, scenes / 2);
         SetModified(doc);
         QString target;
@@ -163,8 +162,7 @@ private slots:
     void withoutFault()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         fill(doc, 900, 450);
         QString target;
         const QString folder = folderWithEarlierFile(QStringLiteral("sched.tbf"), &target);

@@ -175,10 +175,8 @@ private Q_SLOTS:
         QVERIFY(SaveDocument(doc, path).ok());
 
         ScheduleDocument reopened;
-        RecordingStatus status;
-        RecordingView view;
-        reopened.setStatusSink(&status);
-        reopened.setView(&view);
+        RecordingStatus status{reopened};
+        RecordingView view{reopened};
         QVERIFY(OpenDocument(reopened, path).ok());
         QCOMPARE(status.progress.mid(0, 4), (QList<int>{33, 66, 100, 0}));
         QCOMPARE(status.panels.value(StatusSink::MessagePanel), "Opened OK.");
@@ -222,8 +220,7 @@ private Q_SLOTS:
         const QString path = TempPath("zoom.tbf");
         QVERIFY(WriteBytes(path, (lines.join("\r\n") + "\r\n").toLatin1()));
         ScheduleDocument reopened;
-        RecordingView view;
-        reopened.setView(&view);
+        RecordingView view{reopened};
         QVERIFY(OpenDocument(reopened, path).ok());
         QCOMPARE(reopened.values.BoardZoom, zoom);
         QCOMPARE(view.zoom, zoom);
@@ -263,12 +260,9 @@ private Q_SLOTS:
         QVERIFY(WriteBytes(path, bytes));
 
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        RecordingStatus sink;
-        RecordingView view;
-        doc.setPrompter(&prompter);
-        doc.setStatusSink(&sink);
-        doc.setView(&view);
+        ScriptedPrompter prompter{doc};
+        RecordingStatus sink{doc};
+        RecordingView view{doc};
         AddScene(doc, "old", "1");
         doc.FileName = "/old/path.tbf";
         const Result result = OpenDocument(doc, path);
@@ -298,8 +292,7 @@ private Q_SLOTS:
         for (int kept = 0; kept < lines.size(); ++kept) {
             QVERIFY(WriteBytes(path, (lines.mid(0, kept).join("\r\n") + (kept ? "\r\n" : "")).toLatin1()));
             ScheduleDocument reopened;
-            ScriptedPrompter prompter;
-            reopened.setPrompter(&prompter);
+            ScriptedPrompter prompter{reopened};
             QVERIFY(!OpenDocument(reopened, path).ok());
             QCOMPARE(prompter.prompts.size(), 1);
             const QString text = prompter.texts().first();
@@ -322,10 +315,8 @@ private Q_SLOTS:
     void failedSaveKeepsState()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        RecordingStatus status;
-        doc.setPrompter(&prompter);
-        doc.setStatusSink(&status);
+        ScriptedPrompter prompter{doc};
+        RecordingStatus status{doc};
         AddScene(doc, "1", "1");
         SetModified(doc);
         const QString path = TempPath("no-such-folder/sub/x.tbf");

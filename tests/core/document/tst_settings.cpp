@@ -329,8 +329,7 @@ private slots:
         QVERIFY(QDir().mkpath(path));
         Settings s(path);
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         PreferencesInput in = PreferencesFromSettings(s);
         in.autosaveMinutes = 9;
         QVERIFY(!ApplyPreferences(doc, s, in).ok());

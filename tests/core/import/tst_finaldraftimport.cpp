@@ -33,12 +33,11 @@ QStringList ScriptReport(const QList<QStringList> &scenes)
 struct Imported
 {
     ScheduleDocument doc;
-    ScriptedPrompter prompter;
+    ScriptedPrompter prompter{doc};
     Result result = Result::success();
 
     Imported(const QString &sceneReport, const QString &scriptReport)
     {
-        doc.setPrompter(&prompter);
         NewDocument(doc);
         result = ImportFinalDraft(doc, sceneReport, scriptReport);
     }
@@ -311,8 +310,7 @@ private Q_SLOTS:
             Fetch<bool, bool, QList<Answer>, bool>("finalDraft", "modified", "answers", "goesOn");
 
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         AddScene(doc, "1", "1");
         doc.Modified = modified;
         prompter.answers = answers;

@@ -174,8 +174,7 @@ private Q_SLOTS:
     void startsFromANewDocument()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        doc.setStatusSink(&status);
+        RecordingStatus status{doc};
         doc.values.PictureTitle = "Old film";
         doc.FileName = "/tmp/old.tbf";
         AddScene(doc, "7", "1");

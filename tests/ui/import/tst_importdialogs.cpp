@@ -92,11 +92,10 @@ struct Wizard
 {
     ScriptFolder folder;
     ScheduleDocument doc;
-    ScriptedPrompter prompter;
+    ScriptedPrompter prompter{doc};
     TfrmImportScript wizard{doc};
     Wizard()
     {
-        doc.setPrompter(&prompter);
         wizard.setDirectory(folder.dir.path());
         wizard.show();
     }
@@ -400,8 +399,7 @@ private Q_SLOTS:
     void finalDraftDialog()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         TfrmFDImport dialog(doc);
         auto *scene = Child<QLineEdit>(&dialog, "SceneEdit");
         auto *script = Child<QLineEdit>(&dialog, "ScriptEdit");

@@ -159,8 +159,7 @@ private Q_SLOTS:
     void startDate()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         doc.values.StartDate = FridayMarch6;
         doc.values.AutoRestDayRule = "D67";
         TfrmStartDate1 dialog(doc);
@@ -281,8 +280,7 @@ private Q_SLOTS:
     void lock()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Build(doc, {"1", "1"});
         doc.SelStart = doc.SelEnd = 2;
         TfrmLockStrip dialog(doc);
