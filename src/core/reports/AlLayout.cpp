@@ -47,11 +47,22 @@ int lineHeight(const QFontMetricsF &metrics)
     return int(std::ceil(metrics.lineSpacing()));
 }
 
-int textWidth(const QList<double> &widths)
+bool isBlank(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c == u' ' || c == u'\u00A0'; });
+}
+
+// Nothing but white space (what trimming would leave empty).
+bool isWhite(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+}
+
+int textWidth(const QList<TextLine> &lines)
 {
     double width = 0;
-    for (double w : widths)
-        width = std::max(width, w);
+    for (const TextLine &line : lines)
+        width = std::max(width, line.width);
     return int(std::ceil(width));
 }
 
@@ -88,18 +99,8 @@ QList<TAlField *> fieldsOn(const tAlBand *band)
 
 void setLines(PlacedControl &pc, const TAlLabel &label, int wrapWidth)
 {
-    const QList<TextLine> lines = BreakText(pc.text, label.outputFont, label.WordWrap ? wrapWidth : 0, &label);
-    pc.lines.clear();
-    pc.widths.clear();
-    pc.glyphs.clear();
-    pc.lines.reserve(lines.size());
-    pc.widths.reserve(lines.size());
-    pc.glyphs.reserve(lines.size());
-    for (const TextLine &line : lines) {
-        pc.lines.append(line.text);
-        pc.widths.append(line.width);
-        pc.glyphs.append(line.glyphs);
-    }
+    // Shared with the label's kept lines, not copied.
+    pc.lines = BreakText(pc.text, label.outputFont, label.WordWrap ? wrapWidth : 0, &label);
 }
 
 // A text that does not fit its place is never cut silently: the lines that fit are shown,
@@ -113,19 +114,21 @@ void markCut(PlacedControl &pc, const TAlLabel &label)
         return;
     const int room = std::max(1, (clip.bottom() + 1 - pc.rect.top()) / std::max(1, lh));
     const bool linesCut = room < pc.lines.size();
-    if (linesCut) {
+    if (linesCut)
         pc.lines.resize(room);
-        pc.widths.resize(room);
-        pc.glyphs.resize(room);
-    }
     const double width = clip.width();
     for (qsizetype i = 0; i < pc.lines.size(); ++i) {
         const bool last = linesCut && i == pc.lines.size() - 1;
-        if (!last && pc.widths.at(i) <= width)
+        if (!last && pc.lines.at(i).width <= width)
             continue;
-        pc.lines[i] = ElideLine(pc.lines.at(i), metrics, width, last);
-        pc.widths[i] = metrics.horizontalAdvance(pc.lines.at(i));
-        pc.glyphs[i].clear(); // shaped when drawn
+        const QString shortened = ElideLine(pc.lines.at(i).text, metrics, width, last);
+        // The shortened line is laid out once more, as any other text, so that it is
+        // drawn from its glyphs like the rest of the page.
+        const QList<TextLine> &elided = label.paragraph(shortened, 0.0);
+        if (elided.size() == 1)
+            pc.lines[i] = elided.first();
+        else
+            pc.lines[i] = TextLine{shortened, metrics.horizontalAdvance(shortened), {}}; // shaped when drawn
         pc.cut = true;
     }
     if (pc.cut)
@@ -265,16 +268,16 @@ private:
                         static_cast<const TAlSysField *>(pc.control)->DataType != tAlSysDataType::alr_PageOfPages)
                         continue;
                     const auto &label = static_cast<const TAlLabel &>(*pc.control);
-                    const int oldWidth = textWidth(pc.widths);
+                    const int oldWidth = textWidth(pc.lines);
                     pc.text = pageOfPages(p + 1, total);
                     setLines(pc, label, pc.rect.width());
                     if (label.AutoSize && !label.WordWrap) {
-                        const int grow = textWidth(pc.widths) - oldWidth;
+                        const int grow = textWidth(pc.lines) - oldWidth;
                         if (label.Alignment == TAlignment::taRightJustify)
                             pc.rect.setLeft(pc.rect.left() - grow);
                         else if (label.Alignment == TAlignment::taCenter)
                             pc.rect.setLeft(pc.rect.left() - grow / 2);
-                        pc.rect.setWidth(textWidth(pc.widths));
+                        pc.rect.setWidth(textWidth(pc.lines));
                     }
                 }
             }
@@ -413,7 +416,7 @@ private:
                 const int textHeight = int(pc.lines.size()) * lh;
                 if (label.AutoSize) {
                     if (!label.WordWrap) {
-                        const int w = textWidth(pc.widths);
+                        const int w = textWidth(pc.lines);
                         if (label.Alignment == TAlignment::taRightJustify)
                             r.setLeft(r.left() + r.width() - w);
                         else if (label.Alignment == TAlignment::taCenter)
@@ -433,7 +436,7 @@ private:
                     pc.brush = brushOf(static_cast<const TAlShape &>(*control));
             }
             pc.rect = r;
-            placed.controls.append(pc);
+            placed.controls.append(std::move(pc));
             growth.append(std::max(0, grown));
         }
         if (expand) {
@@ -489,7 +492,7 @@ private:
                 if (isLabel(pc.control)) {
                     const auto &label = static_cast<const TAlLabel &>(*pc.control);
                     const QFontMetricsF &metrics = label.metrics();
-                    const int w = textWidth(pc.widths);
+                    const int w = textWidth(pc.lines);
                     const int left = int(std::floor(lineLeft(pc.rect, label.Alignment, w)));
                     extent = QRect(left, pc.rect.top(), w, int(pc.lines.size()) * lineHeight(metrics));
                     if (!label.Transparent)
@@ -794,7 +797,9 @@ bool IsPlainLatin(const QString &text)
 {
     for (QChar c : text) {
         const char16_t u = c.unicode();
-        if (u < 0x20 || u > 0x24F)
+        // Latin letters, and the punctuation of typed scripts: dashes, curly quotes, the
+        // ellipsis of a shortened line.
+        if (u < 0x20 || (u > 0x24F && (u < 0x2010 || u > 0x2027)))
             return false;
     }
     return true;
@@ -941,9 +946,9 @@ QList<TextLine> LayOutParagraph(const QString &paragraph, const QFont &font, con
 QList<TextLine> BreakText(const QString &text, const QFont &font, double width, const TAlLabel *label)
 {
     // One paragraph (most texts): its kept lines as they are, shared rather than copied.
-    if (!text.isEmpty() && !text.contains(u'\r') && !text.contains(u'\n')) {
+    if (!text.isEmpty() && !std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c == u'\r' || c == u'\n'; })) {
         QList<TextLine> lines = label ? label->paragraph(text, width) : LayOutParagraph(text, font, width);
-        while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+        while (!lines.isEmpty() && isWhite(lines.last().text))
             lines.removeLast();
         return lines;
     }
@@ -972,7 +977,7 @@ QList<TextLine> BreakText(const QString &text, const QFont &font, double width, 
     if (begin < n)
         flush(text.mid(begin));
     // Blank lines at the end take no room.
-    while (!lines.isEmpty() && lines.last().text.trimmed().isEmpty())
+    while (!lines.isEmpty() && isWhite(lines.last().text))
         lines.removeLast();
     return lines;
 }
@@ -1022,21 +1027,29 @@ class GlyphBatches
 public:
     void add(const QGlyphRun &run, const QColor &colour, const QPointF &origin)
     {
-        Batch *batch = nullptr;
         const QRawFont font = run.rawFont();
-        for (Batch &b : m_batches) {
-            if (b.colour == colour && b.font == font) {
-                batch = &b;
-                break;
+        // Runs come in long stretches of one font and colour: the last batch first.
+        if (m_last < 0 || m_batches.at(m_last).colour != colour || m_batches.at(m_last).font != font) {
+            m_last = -1;
+            for (qsizetype i = 0; i < m_batches.size(); ++i) {
+                if (m_batches.at(i).colour == colour && m_batches.at(i).font == font) {
+                    m_last = i;
+                    break;
+                }
+            }
+            if (m_last < 0) {
+                m_batches.append(Batch{font, colour, {}, {}});
+                m_last = m_batches.size() - 1;
             }
         }
-        if (!batch) {
-            m_batches.append(Batch{font, colour, {}, {}});
-            batch = &m_batches.last();
-        }
-        batch->indexes += run.glyphIndexes();
-        for (const QPointF &p : run.positions())
-            batch->positions.append(p + origin);
+        Batch &batch = m_batches[m_last];
+        batch.indexes += run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        const qsizetype start = batch.positions.size();
+        batch.positions.resize(start + positions.size());
+        QPointF *out = batch.positions.data() + start;
+        for (const QPointF &p : positions)
+            *out++ = p + origin;
     }
 
     void draw(QPainter &painter)
@@ -1050,6 +1063,7 @@ public:
             painter.drawGlyphRun(QPointF(0, 0), run);
         }
         m_batches.clear();
+        m_last = -1;
     }
 
 private:
@@ -1061,6 +1075,7 @@ private:
         QList<QPointF> positions;
     };
     QList<Batch> m_batches;
+    qsizetype m_last = -1; // the batch the last run went to
 };
 
 } // namespace
@@ -1090,27 +1105,39 @@ void PaintPage(QPainter &painter, const LaidOutPage &page)
                 if (pc.lines.isEmpty())
                     break;
                 const QFontMetricsF &metrics = label.metrics();
-                painter.setFont(label.outputFont);
-                painter.setPen(label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128));
+                const QColor colour = label.Enabled ? toColor(label.Font.color) : QColor(128, 128, 128);
                 const double lh = lineHeight(metrics);
                 double top = pc.rect.top();
                 // The glyphs shaped when the lines were measured. Unclipped plain text goes
                 // into the page's batches (see GlyphBatches), clipped or decorated text is
-                // drawn at once, line by line.
-                const QColor colour = painter.pen().color();
+                // drawn at once, line by line. Font and pen are set only for what is drawn at
+                // once: each change of either costs the PDF file a new text state.
                 const bool batch = !pc.clipped && !label.outputFont.underline() && !label.outputFont.strikeOut();
-                for (qsizetype i = 0; i < pc.lines.size(); ++i) {
-                    const double left = lineLeft(pc.rect, label.Alignment, pc.widths.at(i));
-                    const QList<QGlyphRun> &glyphs = pc.glyphs.value(i);
+                bool penSet = false;
+                auto setPen = [&] {
+                    if (penSet)
+                        return;
+                    painter.setFont(label.outputFont);
+                    painter.setPen(colour);
+                    penSet = true;
+                };
+                for (const TextLine &line : pc.lines) {
+                    const double left = lineLeft(pc.rect, label.Alignment, line.width);
+                    const QList<QGlyphRun> &glyphs = line.glyphs;
                     if (useGlyphs && !glyphs.isEmpty()) {
                         for (const QGlyphRun &run : glyphs) {
-                            if (batch)
+                            if (batch) {
                                 batches.add(run, colour, QPointF(std::round(left), top));
-                            else
+                            } else {
+                                setPen();
                                 painter.drawGlyphRun(QPointF(left, top), run);
+                            }
                         }
-                    } else if (!pc.lines.at(i).isEmpty()) {
-                        painter.drawText(QPointF(left, top + metrics.ascent()), pc.lines.at(i));
+                    } else if (!isBlank(line.text)) {
+                        // Blanks have no glyphs to draw: the lines of a field that holds
+                        // only blanks are left as they are.
+                        setPen();
+                        painter.drawText(QPointF(left, top + metrics.ascent()), line.text);
                     }
                     top += lh;
                 }

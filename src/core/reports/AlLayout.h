@@ -34,13 +34,12 @@ struct PlacedControl
     const tAlControl *control = nullptr;
     QRect rect; // where it is drawn, in output units on the page
     bool clipped = false;
-    QRect clip;                     // when clipped: the part of the page it may draw on
-    QString text;                   // labels and fields: the text shown
-    QStringList lines;              // the text broken into the lines drawn
-    QList<double> widths;           // the advance of each line
-    QList<QList<QGlyphRun>> glyphs; // each line's shaped glyphs (empty: shaped when drawn)
-    bool cut = false;               // part of the text could not be shown: it ends in an ellipsis
-    QColor brush;                   // shapes: the row's colour from their BrushField (invalid: none)
+    QRect clip;            // when clipped: the part of the page it may draw on
+    QString text;          // labels and fields: the text shown
+    QList<TextLine> lines; // the text broken into the lines drawn, with their advances
+                           // and shaped glyphs (no glyphs: shaped when drawn)
+    bool cut = false;      // part of the text could not be shown: it ends in an ellipsis
+    QColor brush;          // shapes: the row's colour from their BrushField (invalid: none)
 };
 
 struct PlacedBand

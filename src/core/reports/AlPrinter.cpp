@@ -8,7 +8,6 @@
 #include <cmath>
 
 #ifdef __GLIBC__
-#include <malloc.h>
 #endif
 
 namespace tb {
@@ -236,29 +235,8 @@ private:
 
 } // namespace
 
-namespace {
-
-// A printed or written report builds each page in a buffer of some hundred kilobytes and
-// frees it when the next page starts. Left to its defaults the C library hands such blocks
-// back to the system and maps them anew for every page, which costs more than drawing the
-// page; kept in the program's heap, they are reused. Done once, on the first print.
-void KeepPageBuffers()
-{
-#ifdef __GLIBC__
-    static const bool kept = [] {
-        mallopt(M_MMAP_THRESHOLD, 256 * 1024 * 1024);
-        mallopt(M_TRIM_THRESHOLD, 512 * 1024 * 1024);
-        return true;
-    }();
-    (void)kept;
-#endif
-}
-
-} // namespace
-
 Result TAlReport::Print(QPagedPaintDevice &device, const std::function<void()> &abortJob)
 {
-    KeepPageBuffers();
     TAlPrinter &printer = TAlPrinter::Instance();
     printer.SetupForPrinting(&device, abortJob);
     ProgressBoxRun box(progressBox, QStringLiteral("Printing..."), true);

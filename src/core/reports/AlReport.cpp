@@ -117,24 +117,43 @@ const QList<TextLine> &TAlLabel::paragraph(const QString &text, double width) co
 
 // ---- Named values and pictures ----
 
-void TAlReport::AddNamedValue(const QString &fieldName, const QString &value)
+TAlField *TAlReport::fieldNamed(const QString &name)
 {
+    // Builders push thousands of values to a few dozen names: each name is looked up in
+    // the form once.
+    auto it = m_fieldsByName.constFind(name);
+    if (it != m_fieldsByName.cend())
+        return *it;
+    TAlField *found = nullptr;
     if (m_form) {
         for (const auto &component : m_form->components) {
-            if (component->kind() == Kind::Field && component->Name.compare(fieldName, Qt::CaseInsensitive) == 0) {
-                static_cast<TAlField &>(*component).values.append(value);
-                trace(QStringLiteral("AddNamedValue(") + fieldName + QStringLiteral(") = ") + value);
-                return;
+            if (component->kind() == Kind::Field && component->Name.compare(name, Qt::CaseInsensitive) == 0) {
+                found = static_cast<TAlField *>(component.get());
+                break;
             }
         }
     }
-    trace(QStringLiteral("AlField ") + fieldName + QStringLiteral(" = not found for value: ") + value);
+    m_fieldsByName.insert(name, found);
+    return found;
+}
+
+void TAlReport::AddNamedValue(const QString &fieldName, const QString &value)
+{
+    if (TAlField *field = fieldNamed(fieldName)) {
+        field->values.append(value);
+        if (tracing())
+            trace(QStringLiteral("AddNamedValue(") + fieldName + QStringLiteral(") = ") + value);
+        return;
+    }
+    if (tracing())
+        trace(QStringLiteral("AlField ") + fieldName + QStringLiteral(" = not found for value: ") + value);
 }
 
 void TAlReport::AddFieldValue(TAlField &field, const QString &value)
 {
     field.values.append(value);
-    trace(QStringLiteral("AddNamedValue(") + field.Name + QStringLiteral(") = ") + value);
+    if (tracing())
+        trace(QStringLiteral("AddNamedValue(") + field.Name + QStringLiteral(") = ") + value);
 }
 
 void TAlReport::SetPicture(const QImage &picture)

@@ -327,9 +327,10 @@ public:
     // reported through the callback.
     bool DebugTrace = false;
     TraceCallback OnTrace;
+    bool tracing() const { return DebugTrace && OnTrace; }
     void trace(const QString &line) const
     {
-        if (DebugTrace && OnTrace)
+        if (tracing())
             OnTrace(line);
     }
 
@@ -363,10 +364,18 @@ public:
     // Set by the progress box's cancel button (or by anyone) to stop the run.
     bool cancelled = false;
 
-    void setForm(ReportForm *form) { m_form = form; }
+    void setForm(ReportForm *form)
+    {
+        m_form = form;
+        m_fieldsByName.clear();
+    }
 
 private:
+    TAlField *fieldNamed(const QString &name);
+
     ReportForm *m_form = nullptr;
+    // The field each name pushed so far found (null: none), by the name as pushed.
+    QHash<QString, TAlField *> m_fieldsByName;
 };
 
 // The template form: owns every component in component order (the order the template

@@ -356,7 +356,7 @@ private Q_SLOTS:
         // Never cut silently: the line that fits ends in an ellipsis.
         QCOMPARE(c->lines.size(), 1);
         QVERIFY(c->cut);
-        QVERIFY(c->lines.first().endsWith(QChar(0x2026)));
+        QVERIFY(c->lines.first().text.endsWith(QChar(0x2026)));
         QVERIFY(c->clipped);
         QCOMPARE(c->clip, c->rect);
         const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
@@ -414,7 +414,8 @@ private Q_SLOTS:
         report.AddNamedValue("Top", "one\rtwo\rthree");
         report.AddNamedValue("Below", "under");
         report.AddNamedValue("Beside", "beside");
-        const PlacedBand &b = LayOutReport(report, pageOf(10000)).pages[0].bands[0];
+        const ReportLayout layout = LayOutReport(report, pageOf(10000)); // b points into it
+        const PlacedBand &b = layout.pages[0].bands[0];
         const int lh = int(std::ceil(static_cast<const TAlLabel *>(form->find("Top"))->metrics().lineSpacing()));
         const int grown = 3 * lh - ScaleToOutput(14, 1200, 96);
         // The field below moves down by what the one above grew; the one beside stays.
