@@ -25,8 +25,10 @@ import time
 FAULTS = [
     # ---- Document: reading and writing files, page lengths, assignments, clipboard
     ("ScheduleFile.cpp",
-     "    v.NextStripId = in.integer();\n    v.HoldDays = in.integer();\n",
-     "    v.HoldDays = in.integer();\n    v.NextStripId = in.integer();\n",
+     "    v.NextStripId = in.integerIn(0, MaxNextStripId, \"the last strip serial number\");\n"
+     "    v.HoldDays = in.integerIn(-HoldDaysLimit, HoldDaysLimit, \"the hold days threshold\");\n",
+     "    v.HoldDays = in.integerIn(-HoldDaysLimit, HoldDaysLimit, \"the hold days threshold\");\n"
+     "    v.NextStripId = in.integerIn(0, MaxNextStripId, \"the last strip serial number\");\n",
      "file reading takes next strip id and hold days in swapped order"),
     ("ScheduleFile.cpp",
      "if (cr && end < m_text.size() && m_text[end] == u'\\n')",

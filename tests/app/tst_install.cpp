@@ -5,46 +5,15 @@
 
 #include "TestSupport.h"
 
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace tb::test;
 
 namespace {
-
-// Adds one data row.
-template <typename... T>
-void row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
-using Run = CliRun;
-
-Run run(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000)
-{
-    QProcess p;
-    if (!folder.isEmpty())
-        p.setWorkingDirectory(folder);
-    p.start(program, args);
-    Run r;
-    if (!p.waitForFinished(timeoutMs)) {
-        p.kill();
-        p.waitForFinished();
-        r.err = "timed out: " + program;
-        return r;
-    }
-    r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    r.out = QString::fromUtf8(p.readAllStandardOutput());
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
-}
 
 // Bash's answer to a completion request for the line, run in the folder.
 QString complete(const QString &script, const QString &line, const QString &folder)
@@ -55,7 +24,7 @@ QString complete(const QString &script, const QString &line, const QString &fold
                                            "_torvanbridge_cli; printf '%s\\n' \"${COMPREPLY[@]}\" | "
                                            "sort | tr '\\n' ' '")
                                 .arg(script, words);
-    return run("bash", {"-c", command}, folder).out.trimmed();
+    return RunProgram("bash", {"-c", command}, folder).out.trimmed();
 }
 
 } // namespace
@@ -100,7 +69,7 @@ private Q_SLOTS:
               "share/icons/hicolor/scalable/apps/com.brenholt.Torvanbridge.svg", "share/man/man1/torvanbridge.1.gz",
               "share/man/man1/torvanbridge-cli.1.gz", "share/bash-completion/completions/torvanbridge-cli",
               "share/doc/torvanbridge/changelog.gz"})
-            row(file, QString::fromLatin1(file));
+            Row(file, QString::fromLatin1(file));
     }
     void layout()
     {
@@ -112,11 +81,11 @@ private Q_SLOTS:
     void commandLineToolRunsInstalled()
     {
         QVERIFY(!QFile::exists(path("bin/ShootSch1.dfm")));
-        const Run info = run(cli(), {"info", example()});
+        const CliRun info = RunProgram(cli(), {"info", example()});
         QCOMPARE(info.code, 0);
         QVERIFY(info.out.startsWith("Title:       Harbour Lights"));
         const QString pdf = m_root.filePath("schedule.pdf");
-        const Run report = run(cli(), {"report", "schedule", example(), "-o", pdf});
+        const CliRun report = RunProgram(cli(), {"report", "schedule", example(), "-o", pdf});
         QVERIFY2(report.code == 0, qPrintable(report.err));
         QVERIFY(ReadFileBytes(pdf).startsWith("%PDF"));
     }
@@ -126,9 +95,9 @@ private Q_SLOTS:
     void desktopProgramRunsInstalled()
     {
         const QString program = path("bin/torvanbridge");
-        const Run version = run(program, {"--version"});
+        const CliRun version = RunProgram(program, {"--version"});
         QCOMPARE(version.out.trimmed(), QStringLiteral("torvanbridge " TB_VERSION));
-        QVERIFY(run(program, {"--help"}).out.contains("Usage: torvanbridge [FILE]"));
+        QVERIFY(RunProgram(program, {"--help"}).out.contains("Usage: torvanbridge [FILE]"));
 
         QProcess gui;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -145,17 +114,15 @@ private Q_SLOTS:
 
     void manualPages_data()
     {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("expected");
-        row("torvanbridge", "torvanbridge", "torvanbridge [FILE]");
-        row("torvanbridge-cli", "torvanbridge-cli", "export IN -o OUT.csv|OUT.html");
+        Columns<QString, QString>("page", "expected");
+        Row("torvanbridge", "torvanbridge", "torvanbridge [FILE]");
+        Row("torvanbridge-cli", "torvanbridge-cli", "export IN -o OUT.csv|OUT.html");
     }
     void manualPages()
     {
-        QFETCH(QString, page);
-        QFETCH(QString, expected);
+        auto [page, expected] = Fetch<QString, QString>("page", "expected");
         const QString file = path("share/man/man1/" + page + ".1.gz");
-        const Run text = run("gzip", {"-dc", file});
+        const CliRun text = RunProgram("gzip", {"-dc", file});
         QVERIFY(text.out.startsWith(".TH " + page.toUpper() + " 1 "));
         if (QStandardPaths::findExecutable("man").isEmpty())
             QSKIP("man is not installed");
@@ -173,51 +140,45 @@ private Q_SLOTS:
 
     void completion_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("expected");
-        row("commands", "torvanbridge-cli ex", "export");
-        row("after --locale", "torvanbridge-cli --locale C rem", "remove-banners remove-dividers");
-        row("schedules", "torvanbridge-cli info ", "a.tbf sub");
-        row("report kinds", "torvanbridge-cli report s", "schedule");
-        row("report input", "torvanbridge-cli report schedule ", "a.tbf sub");
-        row("output kinds", "torvanbridge-cli export a.tbf -o ", "b.csv sub");
-        row("choices", "torvanbridge-cli export a.tbf --colours ", "classic plain");
-        row("options", "torvanbridge-cli details a.tbf --pr", "--prepared-by --producer");
-        row("screenplay", "torvanbridge-cli import-text ", "script.txt sub");
-        row("any file", "torvanbridge-cli import-fountain ", "a.tbf b.csv c.pdf script.txt sub");
-        row("after an option's value", "torvanbridge-cli board --scale 2 ", "a.tbf sub");
+        Columns<QString, QString>("line", "expected");
+        Row("commands", "torvanbridge-cli ex", "export");
+        Row("after --locale", "torvanbridge-cli --locale C rem", "remove-banners remove-dividers");
+        Row("schedules", "torvanbridge-cli info ", "a.tbf sub");
+        Row("report kinds", "torvanbridge-cli report s", "schedule");
+        Row("report input", "torvanbridge-cli report schedule ", "a.tbf sub");
+        Row("output kinds", "torvanbridge-cli export a.tbf -o ", "b.csv sub");
+        Row("choices", "torvanbridge-cli export a.tbf --colours ", "classic plain");
+        Row("options", "torvanbridge-cli details a.tbf --pr", "--prepared-by --producer");
+        Row("screenplay", "torvanbridge-cli import-text ", "script.txt sub");
+        Row("any file", "torvanbridge-cli import-fountain ", "a.tbf b.csv c.pdf script.txt sub");
+        Row("after an option's value", "torvanbridge-cli board --scale 2 ", "a.tbf sub");
     }
     void completion()
     {
         QFETCH(QString, line);
-        QFETCH(QString, expected);
         if (QStandardPaths::findExecutable("bash").isEmpty())
             QSKIP("bash is not installed");
         QTemporaryDir folder;
         QDir(folder.path()).mkdir("sub");
         for (const char *name : {"a.tbf", "b.csv", "script.txt", "c.pdf"})
             QFile(folder.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly);
-        QCOMPARE(complete(path("share/bash-completion/completions/torvanbridge-cli"), line, folder.path()), expected);
+        QTEST(complete(path("share/bash-completion/completions/torvanbridge-cli"), line, folder.path()), "expected");
     }
 
     void fileTypes_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("type");
-        row("by name", "a.tbf", QByteArray("anything\n"), "application/x-torvanbridge-schedule");
-        row("by content", "renamed.txt",
+        Columns<QString, QByteArray, QString>("name", "content", "type");
+        Row("by name", "a.tbf", QByteArray("anything\n"), "application/x-torvanbridge-schedule");
+        Row("by content", "renamed.txt",
             QByteArray("Torvanbridge data file. DO NOT EDIT THIS FILE "
                        "DIRECTLY!\r\n1.0\r\n"),
             "application/x-torvanbridge-schedule");
-        row("call sheet", "day1.tbs", QByteArray("Torvanbridge call sheet file V1\r\n"),
+        Row("call sheet", "day1.tbs", QByteArray("Torvanbridge call sheet file V1\r\n"),
             "application/x-torvanbridge-call-sheet");
     }
     void fileTypes()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, type);
+        auto [name, content, type] = Fetch<QString, QByteArray, QString>("name", "content", "type");
         // The type database reads the folders of XDG_DATA_DIRS once, on first use.
         qputenv("XDG_DATA_DIRS", m_usr.toLocal8Bit() + "/share");
         QTemporaryDir folder;
@@ -230,20 +191,18 @@ private Q_SLOTS:
 
     void validators_data()
     {
-        QTest::addColumn<QString>("tool");
-        QTest::addColumn<QStringList>("args");
-        row("desktop entry", "desktop-file-validate",
+        Columns<QString, QStringList>("tool", "args");
+        Row("desktop entry", "desktop-file-validate",
             QStringList{path("share/applications/com.brenholt.Torvanbridge.desktop")});
-        row("metainfo", "appstreamcli",
+        Row("metainfo", "appstreamcli",
             QStringList{"validate", "--no-net", path("share/metainfo/com.brenholt.Torvanbridge.metainfo.xml")});
     }
     void validators()
     {
-        QFETCH(QString, tool);
-        QFETCH(QStringList, args);
+        auto [tool, args] = Fetch<QString, QStringList>("tool", "args");
         if (QStandardPaths::findExecutable(tool).isEmpty())
             QSKIP("the validator is not installed");
-        const Run r = run(tool, args);
+        const CliRun r = RunProgram(tool, args);
         QVERIFY2(r.code == 0, qPrintable(r.out + r.err));
     }
 
@@ -256,12 +215,12 @@ private Q_SLOTS:
             QSKIP("LibreOffice is not installed");
         QTemporaryDir folder;
         const QString csv = folder.filePath("board.csv");
-        QCOMPARE(run(cli(), {"export", example(), "-o", csv}).code, 0);
-        const Run convert =
-            run(office,
-                {"-env:UserInstallation=file://" + folder.filePath("lo"), "--headless", "--infilter=CSV:44,34,76,1",
-                 "--convert-to", "html", "--outdir", folder.filePath("out"), csv},
-                {}, 180000);
+        QCOMPARE(RunProgram(cli(), {"export", example(), "-o", csv}).code, 0);
+        const CliRun convert =
+            RunProgram(office,
+                       {"-env:UserInstallation=file://" + folder.filePath("lo"), "--headless",
+                        "--infilter=CSV:44,34,76,1", "--convert-to", "html", "--outdir", folder.filePath("out"), csv},
+                       {}, 180000);
         QVERIFY2(convert.code == 0, qPrintable(convert.err));
         const QString table = QString::fromUtf8(ReadFileBytes(folder.filePath("out/board.html")));
         QCOMPARE(table.count("<tr"),
@@ -279,12 +238,12 @@ private Q_SLOTS:
             QSKIP("Chromium is not installed");
         QTemporaryDir folder;
         const QString html = folder.filePath("board.html");
-        QCOMPARE(run(cli(), {"export", example(), "-o", html, "--colours", "classic"}).code, 0);
+        QCOMPARE(RunProgram(cli(), {"export", example(), "-o", html, "--colours", "classic"}).code, 0);
         const QString shot = folder.filePath("board.png");
-        const Run r = run(browser,
-                          {"--headless", "--no-sandbox", "--disable-gpu", "--window-size=412,1600",
-                           "--screenshot=" + shot, "file://" + html},
-                          {}, 120000);
+        const CliRun r = RunProgram(browser,
+                                    {"--headless", "--no-sandbox", "--disable-gpu", "--window-size=412,1600",
+                                     "--screenshot=" + shot, "file://" + html},
+                                    {}, 120000);
         QVERIFY2(QFile::exists(shot), qPrintable(r.err));
         const QImage image(shot);
         QCOMPARE(image.width(), 412);

@@ -1,9 +1,9 @@
-// The main window with every area's dialogs, driven through its menu entries as a user would.
+// The main window with every area's dialogs, driven through its menu entries as a user would;
+// the dialogs' captions are checked here, where the entries open them.
 
-#include "TestSupport.h"
+#include "MainWindowTestSupport.h"
 
 #include "app/TfrmMain.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "import/ImportCommandSteps.h"
@@ -20,14 +20,12 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -40,58 +38,6 @@ namespace {
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
 const QString ImportData = QStringLiteral(TB_IMPORT_DATA);
 
-struct Program
-{
-    Program()
-        : settings(TempPath("whole.ini"))
-    {
-        doc.setPrompter(&prompter);
-        main = std::make_unique<TfrmMain>(doc, settings);
-        main->setFirstShowPause(0);
-        main->hasPrinter = [] { return true; };
-        main->setAutosavePath(TempPath("whole-autosave.tbf"));
-    }
-    ~Program()
-    {
-        main.reset();
-        doc.setPrompter(nullptr);
-    }
-    bool start()
-    {
-        main->show();
-        return QTest::qWaitFor([&] { return main->firstShowDone(); }, 5000);
-    }
-    // Runs the trigger of a modal dialog and returns that dialog's caption (empty when
-    // none opened). `step` runs on the dialog, which is then cancelled if still open.
-    QString dialogOf(const std::function<void()> &trigger, const std::function<void(QDialog *)> &step = {})
-    {
-        // Polled: a command may spin the event loop (saving, say) before its dialog shows.
-        QString caption;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            poll.stop();
-            caption = dialog->windowTitle();
-            QCOMPARE(dialog->parentWidget(), main.get());
-            if (step)
-                step(dialog);
-            if (dialog->isVisible())
-                dialog->reject();
-        });
-        poll.start(5);
-        trigger();
-        return caption;
-    }
-    void trigger(const QString &entry) { main->findAction(entry)->trigger(); }
-
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    Settings settings;
-    std::unique_ptr<TfrmMain> main;
-};
-
 } // namespace
 
 class TestWholeProgram : public QObject
@@ -101,7 +47,7 @@ class TestWholeProgram : public QObject
 private Q_SLOTS:
     void dialogsAreMadeOnce()
     {
-        Program p;
+        Harness p("whole.ini");
         const QList<TfrmStrip *> strips = p.main->findChildren<TfrmStrip *>();
         QCOMPARE(strips.size(), 1);
         QCOMPARE(p.main->findChildren<TfrmAddElement *>().size(), 1);
@@ -114,7 +60,7 @@ private Q_SLOTS:
 
     void callSheetAsksForAStartDateFirst()
     {
-        Program p;
+        Harness p("whole.ini");
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
         p.doc.values.StartDate.clear();
@@ -127,65 +73,40 @@ private Q_SLOTS:
 
     void entriesOpenTheirDialogs_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("selected");    // the strip selected; element 1 is selected too
-        QTest::addColumn<QString>("caption"); // empty: nothing opens
-        QTest::addColumn<QString>("help");    // the page F1 in the dialog opens; empty: not tried
-        QTest::newRow("edit scene") << "Editscene1" << 1 << "Edit scene breakdown #11"
-                                    << "scene-breakdown.html";
-        QTest::newRow("edit scene, pop-up") << "PopEditscene1" << 1 << "Edit scene breakdown #11"
-                                            << "";
-        QTest::newRow("edit scene on a divider") << "PopEditscene1" << 0 << ""
-                                                 << "";
-        QTest::newRow("add scene") << "Addscene1" << 1 << "New scene breakdown #"
-                                   << "";
-        QTest::newRow("add scene, pop-up") << "PopAddscene1" << 1 << "New scene breakdown #"
-                                           << "";
-        QTest::newRow("insert scene, pop-up") << "PopInsertscene1" << 1 << "New scene breakdown #"
-                                              << "";
-        QTest::newRow("add element") << "Addelement1" << 1 << "Add new element"
-                                     << "";
-        QTest::newRow("edit element, pop-up") << "PopEditelement1" << 1 << "Edit element \""
-                                              << "";
-        QTest::newRow("production details") << "Maindetails1" << 1 << "Production details"
-                                            << "";
-        QTest::newRow("auto pages") << "Automaticdaydividers1" << 1 << "Automatic day dividers"
-                                    << "";
-        QTest::newRow("rest days") << "Autorestdays1" << 1 << "Defualt rest days"
-                                   << "";
-        QTest::newRow("start date") << "Startdate1" << 1 << "Start date"
-                                    << "";
-        QTest::newRow("hold days") << "Holddays1" << 1 << "Hold days"
-                                   << "hold-days.html";
-        QTest::newRow("sort strips") << "Sortstrips1" << 1 << "Sort strips"
-                                     << "";
-        QTest::newRow("conform strip order") << "Conformstriporder1" << 1 << "Conform strip order"
-                                             << "";
-        QTest::newRow("shooting schedule") << "Shootingschedule1" << 1 << "Print schedule"
-                                           << "shooting-schedule.html";
-        QTest::newRow("breakdown sheets") << "Breakdownsheets1" << 1 << "Print script breakdown sheets"
-                                          << "breakdown-sheets.html";
-        QTest::newRow("element summary") << "Elementsummary1" << 1 << "Print element summary"
-                                         << "element-summary.html";
-        QTest::newRow("call sheet") << "Callsheet1" << 1 << "Print Call Sheet"
-                                    << "call-sheet.html";
-        QTest::newRow("end of day") << "Endofday1" << 1 << "End of day"
-                                    << "end-of-day.html";
-        QTest::newRow("day out of days") << "Dayoutofdays1" << 1 << "Day out of days"
-                                         << "day-out-of-days.html";
-        QTest::newRow("production board") << "Productionboard1" << 1 << "Print production board"
-                                          << "print-board.html";
-        QTest::newRow("import script") << "Importscript1" << 1 << "Script import (TXT file)"
-                                       << "import-script.html";
+        // selected: the strip selected; element 1 is selected too
+        // caption: empty: nothing opens
+        // help: the page F1 in the dialog opens; empty: not tried
+        Columns<QString, int, QString, QString>("entry", "selected", "caption", "help");
+        Row("edit scene", "Editscene1", 1, "Edit scene breakdown #11", "scene-breakdown.html");
+        Row("edit scene, pop-up", "PopEditscene1", 1, "Edit scene breakdown #11", "");
+        Row("edit scene on a divider", "PopEditscene1", 0, "", "");
+        Row("add scene", "Addscene1", 1, "New scene breakdown #", "");
+        Row("add scene, pop-up", "PopAddscene1", 1, "New scene breakdown #", "");
+        Row("insert scene, pop-up", "PopInsertscene1", 1, "New scene breakdown #", "");
+        Row("add element", "Addelement1", 1, "Add new element", "");
+        Row("edit element, pop-up", "PopEditelement1", 1, "Edit element \"", "");
+        Row("production details", "Maindetails1", 1, "Production details", "");
+        Row("auto pages", "Automaticdaydividers1", 1, "Automatic day dividers", "");
+        Row("rest days", "Autorestdays1", 1, "Defualt rest days", "");
+        Row("start date", "Startdate1", 1, "Start date", "");
+        Row("hold days", "Holddays1", 1, "Hold days", "hold-days.html");
+        Row("sort strips", "Sortstrips1", 1, "Sort strips", "");
+        Row("conform strip order", "Conformstriporder1", 1, "Conform strip order", "");
+        Row("shooting schedule", "Shootingschedule1", 1, "Print schedule", "shooting-schedule.html");
+        Row("breakdown sheets", "Breakdownsheets1", 1, "Print script breakdown sheets", "breakdown-sheets.html");
+        Row("element summary", "Elementsummary1", 1, "Print element summary", "element-summary.html");
+        Row("call sheet", "Callsheet1", 1, "Print Call Sheet", "call-sheet.html");
+        Row("end of day", "Endofday1", 1, "End of day", "end-of-day.html");
+        Row("day out of days", "Dayoutofdays1", 1, "Day out of days", "day-out-of-days.html");
+        Row("production board", "Productionboard1", 1, "Print production board", "print-board.html");
+        Row("import script", "Importscript1", 1, "Script import (TXT file)", "import-script.html");
     }
 
     void entriesOpenTheirDialogs()
     {
-        QFETCH(QString, entry);
-        QFETCH(int, selected);
-        QFETCH(QString, caption);
-        QFETCH(QString, help);
-        Program p;
+        auto [entry, selected, caption, help] =
+            Fetch<QString, int, QString, QString>("entry", "selected", "caption", "help");
+        Harness p("whole.ini");
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
         if (!selected) { // the first day divider
@@ -217,20 +138,16 @@ private Q_SLOTS:
 
     void sceneEntriesAddWhereTheyShould_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("order");
-        QTest::newRow("menu") << "Addscene1"
-                              << "1 3 2";
-        QTest::newRow("pop-up") << "PopAddscene1"
-                                << "1 3 2";
-        QTest::newRow("insert, pop-up") << "PopInsertscene1"
-                                        << "1 2 3";
+        Columns<QString, QString>("entry", "order");
+        Row("menu", "Addscene1", "1 3 2");
+        Row("pop-up", "PopAddscene1", "1 3 2");
+        Row("insert, pop-up", "PopInsertscene1", "1 2 3");
     }
 
     void sceneEntriesAddWhereTheyShould()
     {
         QFETCH(QString, entry);
-        Program p;
+        Harness p("whole.ini");
         AddScene(p.doc, "1", "1");
         AddScene(p.doc, "3", "1");
         p.doc.SelStart = p.doc.SelEnd = 2;
@@ -248,25 +165,22 @@ private Q_SLOTS:
 
     void entriesRunTheirOperations_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("strips");   // Kinds() after
-        QTest::addColumn<QString>("elements"); // descriptions and board ids after
+        // strips: Kinds() after
+        // elements: descriptions and board ids after
+        Columns<QString, QString, QString>("entry", "strips", "elements");
         const QString kinds = "1 1 2 4";
         const QString elements = "ANNA=5 LAMP=Prp BEN=6";
-        QTest::newRow("add day divider, pop-up") << "PopAdddaydivider1"
-                                                 << "1 1 2 4 2" << elements;
-        QTest::newRow("remove day dividers") << "Removealldaydividers1"
-                                             << "1 1 4" << elements;
-        QTest::newRow("remove banners") << "Removeallbanners1"
-                                        << "1 1 2" << elements;
-        QTest::newRow("reset cast numbering") << "Reordercastnumbering1" << kinds << "ANNA=1 LAMP=Prp BEN=2";
-        QTest::newRow("sort elements") << "Sortelements1" << kinds << "ANNA=5 BEN=6 LAMP=Prp";
+        Row("add day divider, pop-up", "PopAdddaydivider1", "1 1 2 4 2", elements);
+        Row("remove day dividers", "Removealldaydividers1", "1 1 4", elements);
+        Row("remove banners", "Removeallbanners1", "1 1 2", elements);
+        Row("reset cast numbering", "Reordercastnumbering1", kinds, "ANNA=1 LAMP=Prp BEN=2");
+        Row("sort elements", "Sortelements1", kinds, "ANNA=5 BEN=6 LAMP=Prp");
     }
 
     void entriesRunTheirOperations()
     {
         QFETCH(QString, entry);
-        Program p;
+        Harness p("whole.ini");
         AddScene(p.doc, "2", "1");
         AddScene(p.doc, "1", "1");
         AddDivider(p.doc);
@@ -292,18 +206,16 @@ private Q_SLOTS:
     // selection.
     void doubleClickEditsTheSelection_data()
     {
-        QTest::addColumn<bool>("bannerRequest");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("scene") << false << 1 << "Edit scene breakdown #1";
-        QTest::newRow("banner") << true << 2 << "Banner";
-        QTest::newRow("banner request on a scene") << true << 1 << "";
+        Columns<bool, int, QString>("bannerRequest", "selected", "caption");
+        Row("scene", false, 1, "Edit scene breakdown #1");
+        Row("banner", true, 2, "Banner");
+        Row("banner request on a scene", true, 1, "");
     }
 
     void doubleClickEditsTheSelection()
     {
         QFETCH(bool, bannerRequest);
-        Program p;
+        Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "1", "1");
         AddBanner(p.doc, "Travel");
@@ -322,19 +234,15 @@ private Q_SLOTS:
 
     void finalDraftImport_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<int>("saves");
-        QTest::addColumn<bool>("imports");
-        QTest::newRow("Yes saves first") << Answer::Yes << 1 << true;
-        QTest::newRow("Cancel") << Answer::Cancel << 0 << false;
+        Columns<Answer, int, bool>("answer", "saves", "imports");
+        Row("Yes saves first", Answer::Yes, 1, true);
+        Row("Cancel", Answer::Cancel, 0, false);
     }
 
     void finalDraftImport()
     {
-        QFETCH(Answer, answer);
-        QFETCH(int, saves);
-        QFETCH(bool, imports);
-        Program p;
+        auto [answer, saves, imports] = Fetch<Answer, int, bool>("answer", "saves", "imports");
+        Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");
         const QString file = TempPath("before-final-draft.tbf"); // Save writes here, no dialog
@@ -377,28 +285,18 @@ private Q_SLOTS:
     // name lacks; a file that cannot be written is reported and the board stays.
     void exportEntries_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QString>("written"); // empty: nothing written
-        QTest::addColumn<QByteArray>("start");
-        QTest::newRow("spreadsheet") << "AsSpreadsheet1"
-                                     << "board"
-                                     << "board.csv" << QByteArray("Kind,Day,");
-        QTest::newRow("web page") << "AsHTML1"
-                                  << "board.htm"
-                                  << "board.htm" << QByteArray("<!DOCTYPE html>");
-        QTest::newRow("no folder") << "AsHTML1"
-                                   << "missing/board.html"
-                                   << "" << QByteArray();
+        // written: empty: nothing written
+        Columns<QString, QString, QString, QByteArray>("entry", "chosen", "written", "start");
+        Row("spreadsheet", "AsSpreadsheet1", "board", "board.csv", QByteArray("Kind,Day,"));
+        Row("web page", "AsHTML1", "board.htm", "board.htm", QByteArray("<!DOCTYPE html>"));
+        Row("no folder", "AsHTML1", "missing/board.html", "", QByteArray());
     }
     void exportEntries()
     {
-        QFETCH(QString, entry);
-        QFETCH(QString, chosen);
-        QFETCH(QString, written);
-        QFETCH(QByteArray, start);
+        auto [entry, chosen, written, start] =
+            Fetch<QString, QString, QString, QByteArray>("entry", "chosen", "written", "start");
         QTemporaryDir folder;
-        Program p;
+        Harness p("whole.ini");
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
         auto *exporter = p.main->findChild<BoardExporter *>();
@@ -425,13 +323,10 @@ private Q_SLOTS:
     void scriptImportAsksAtImport()
     {
         QTemporaryDir folder;
-        {
-            QFile script(QDir(folder.path()).filePath("kitchen.txt"));
-            QVERIFY(script.open(QIODevice::WriteOnly));
-            script.write("FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n"
-                         "EXT. BARN - DAY\n\n          JOHN\n    Later.\n");
-        }
-        Program p;
+        QVERIFY(WriteBytes(QDir(folder.path()).filePath("kitchen.txt"),
+                           "FADE IN:\n\nINT. KITCHEN - NIGHT\n\nSteam rises.\n\n"
+                           "EXT. BARN - DAY\n\n          JOHN\n    Later.\n"));
+        Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");
         SetModified(p.doc);

@@ -1,43 +1,25 @@
 // Every subcommand of torvanbridge-cli, run as a process: usage errors exit 2, refused
 // input exits 1 and writes nothing, and each command's effect shows in what it wrote.
-// What the commands do in detail is tested on the core functions they call.
+// What the commands do in detail is tested on the core functions they call; the
+// whole-document outputs (info, reports, dood, export, print-board) are pinned byte for
+// byte by the golden_outputs test.
 
-#include "TestSupport.h"
+#include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QPoint>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
 
 namespace {
 
-// One data row on one line: QTest::newRow(tag) << values...
-template <typename... T>
-void Row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
 using L = QStringList;
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
 const QString DataDir = QStringLiteral(TB_IMPORT_DATA);
-
-QString writeLines(const QString &name, const QStringList &lines)
-{
-    QFile f(TempPath(name));
-    if (!f.open(QIODevice::WriteOnly) || f.write((lines.join(u'\n') + u'\n').toUtf8()) < 0)
-        qFatal("cannot write %s", qPrintable(name));
-    return f.fileName();
-}
 
 // The arguments with their placeholders replaced: EX the example schedule, SMALL and
 // EMPTY the schedules made in initTestCase, OUT the output, @NAME a file written there
@@ -72,573 +54,418 @@ class TestCli : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void usageErrors_data();
-    void usageErrors();
-    void refusedWritesNothing_data();
-    void refusedWritesNothing();
-    void schedules_data();
-    void schedules();
-    void info();
-    void board_data();
-    void board();
-    void reports_data();
-    void reports();
-    void reportTrace();
-    void doodAndPrintBoard();
-    void checkTemplate_data();
-    void checkTemplate();
-    void details();
-    void exports();
-};
+    void initTestCase()
+    {
+        // SMALL: scenes 1 (3 pages), 2 (4 pages), a divider, scene 3 (12 pages), a banner
+        // and a divider; Friday start, Saturdays and Sundays off. Its elements stand out of
+        // category order, its cast number is 7 and its first sheet number 40.
+        ScheduleDocument doc;
+        doc.values.StartDate = "46087";
+        doc.values.AutoRestDayRule = "D67";
+        AddScene(doc, "1", "3");
+        AddScene(doc, "2", "4");
+        AddDivider(doc);
+        AddScene(doc, "3", "12");
+        AddBanner(doc, "Travel", 1);
+        AddDivider(doc);
+        AddElement(doc, "LAMP", 5, "Prp");
+        AddElement(doc, "ANNA", 1, "7");
+        doc.strips[1].set(StripField::Assignments, "1,2");
+        doc.strips[1].set(StripField::StripId, "40");
+        SetModified(doc);
+        QVERIFY(SaveDocument(doc, TempPath("small.tbf")).ok());
 
-void TestCli::initTestCase()
-{
-    // SMALL: scenes 1 (3 pages), 2 (4 pages), a divider, scene 3 (12 pages), a banner
-    // and a divider; Friday start, Saturdays and Sundays off. Its elements stand out of
-    // category order, its cast number is 7 and its first sheet number 40.
-    ScheduleDocument doc;
-    doc.values.StartDate = "46087";
-    doc.values.AutoRestDayRule = "D67";
-    AddScene(doc, "1", "3");
-    AddScene(doc, "2", "4");
-    AddDivider(doc);
-    AddScene(doc, "3", "12");
-    AddBanner(doc, "Travel", 1);
-    AddDivider(doc);
-    AddElement(doc, "LAMP", 5, "Prp");
-    AddElement(doc, "ANNA", 1, "7");
-    doc.strips[1].set(StripField::Assignments, "1,2");
-    doc.strips[1].set(StripField::StripId, "40");
-    SetModified(doc);
-    QVERIFY(SaveDocument(doc, TempPath("small.tbf")).ok());
+        ScheduleDocument empty;
+        NewDocument(empty);
+        QVERIFY(SaveDocument(empty, TempPath("empty.tbf")).ok());
 
-    ScheduleDocument empty;
-    NewDocument(empty);
-    QVERIFY(SaveDocument(empty, TempPath("empty.tbf")).ok());
-
-    writeLines("script.txt", {"EXT. PARK - MAGIC HOUR", "", "SIMON SAYS", "Jump.", "", "EXT. PARK - GLOAMING", "",
-                              "ANN", "Run.", "", "", "", ""});
-    writeLines("junk.txt", {"INT. ROOM - DAY", "", "ANN", "Hi.", "", "2.", "", "A RIVER.", "", "EXT. YARD - DAY", "",
-                            "BOB", "Yo.", "", "3.", ""});
-    writeLines("not.fdx", {"INT. ROOM - DAY"});
-    writeLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
-    writeLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
-    QFile corrupt(TempPath("corrupt.tbf"));
-    QVERIFY(corrupt.open(QIODevice::WriteOnly));
-    corrupt.write("hello\r\n");
-}
-
-void TestCli::usageErrors_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<QString>("message"); // stderr holds it
-
-    const L scene{"add-scene", "EX", "-o", "OUT", "--scene", "1", "--int-ext", "I"};
-    const L element{"add-element", "EX", "-o", "OUT", "--description", "X", "--category"};
-    const L import{"import-text", "@script.txt", "-o", "OUT"};
-    const QString boardUsage = "usage: torvanbridge-cli board IN -o OUT.png|OUT.pdf";
-    Row("no command", L{}, "Commands:");
-    Row("unknown command", L{"frobnicate"}, "unknown command frobnicate");
-    Row("unknown global option", L{"--verbose", "info", "EX"}, "unknown option --verbose");
-    Row("missing -o", L{"resave", "EX"}, "usage: torvanbridge-cli resave");
-    Row("-o without a value", L{"resave", "EX", "-o"}, "usage: torvanbridge-cli resave");
-    Row("unknown option", L{"info", "--colour", "EX"}, "usage: torvanbridge-cli info");
-    // Every value is one line of the schedule file: a line break is refused for every command.
-    Row("two-line title", L{"details", "EX", "-o", "OUT", "--title", "A\nB"},
-        "a value cannot hold a line break (\"A\\nB\")");
-
-    Row("import-text, two scripts", L{"import-text", "@script.txt", "@two.txt", "-o", "OUT"}, "usage:");
-    Row("lines 0", import + L{"--lines", "0"}, "usage: torvanbridge-cli import-text");
-    Row("lines not a number", import + L{"--lines", "many"}, "usage: torvanbridge-cli import-text");
-    Row("import-fd, one report", L{"import-fd", "@two.txt", "-o", "OUT"}, "usage: torvanbridge-cli import-fd");
-    Row("review neither keep nor auto", import + L{"--review", "some"}, "--review must be keep or auto");
-    Row("import-fountain without -o", L{"import-fountain", "@script.txt"}, "usage: torvanbridge-cli import-fountain");
-    Row("import-fdx, two files", L{"import-fdx", "@not.fdx", "@two.txt", "-o", "OUT"},
-        "usage: torvanbridge-cli import-fdx");
-
-    Row("lock without unlock or date", L{"lock", "SMALL", "-o", "OUT", "--from", "1", "--to", "2"},
-        "give either --date YYYY-MM-DD or --unlock");
-    Row("max out of range", L{"auto-pages", "SMALL", "-o", "OUT", "--max", "21"}, "--max must be between 1 and 20");
-    Row("bad mode", L{"auto-pages", "SMALL", "-o", "OUT", "--max", "5", "--mode", "ask"}, "--mode is keep or split");
-    Row("bad date", L{"start-date", "SMALL", "-o", "OUT", "--date", "6/3/2026"}, "--date needs a date as YYYY-MM-DD");
-
-    Row("sort unknown key", L{"sort", "EX", "-o", "OUT", "--keys", "colour"}, "usage: torvanbridge-cli sort");
-    Row("sort four keys", L{"sort", "EX", "-o", "OUT", "--keys", "scene,scene,scene,scene"}, "usage:");
-    Row("conform without entries", L{"conform", "EX", "-o", "OUT"}, "usage: torvanbridge-cli conform");
-    Row("renumber without -o", L{"renumber", "EX"}, "usage: torvanbridge-cli renumber");
-    Row("add-scene missing pages", scene + L{"--day-night", "D"}, "usage: torvanbridge-cli add-scene");
-    Row("add-scene bad pages", scene + L{"--pages", "1 9/8", "--day-night", "D"}, "usage:");
-    Row("add-scene bad time", scene + L{"--pages", "1", "--day-night", "NOON"}, "usage:");
-    Row("add-element bad category", element + L{"16"}, "usage: torvanbridge-cli add-element");
-    Row("add-element long id", element + L{"1", "--id", "12345"}, "usage:");
-
-    Row("board without output", L{"board", "EX"}, "needs -o OUT.png or -o OUT.pdf\n" + boardUsage);
-    Row("board wrong type", L{"board", "EX", "-o", "x.jpg"}, "the output must end in .png or .pdf");
-    Row("board scale", L{"board", "EX", "-o", "OUT", "--scale", "0"}, "--scale must be a number from 0.1 to 10");
-    Row("board width", L{"board", "EX", "-o", "OUT", "--width", "wide"},
-        "--width must be a whole number from 1 to 20000");
-    Row("board colours", L{"board", "EX", "-o", "OUT", "--colours", "pink"}, "--colours must be classic or plain");
-    Row("board, two inputs", L{"board", "EX", "EX", "-o", "OUT"}, "needs one schedule file");
-
-    Row("export wrong type", L{"export", "EX", "-o", "x.xlsx"}, "needs -o OUT.csv or -o OUT.html");
-    Row("export colours", L{"export", "EX", "-o", "x.csv", "--colours", "pink"}, "--colours must be classic or plain");
-    Row("crew without a name", L{"details", "EX", "-o", "OUT", "--crew", "Gaffer"},
-        "--crew takes POSITION=NAME or POSITION=NAME=CONTACT");
-
-    Row("unknown report", L{"report", "callsheet", "EX", "-o", "OUT"}, "unknown report callsheet");
-    Row("report without output", L{"report", "schedule", "EX"}, "expected KIND, an input file and -o OUT.pdf");
-    Row("paper", L{"report", "schedule", "EX", "-o", "OUT", "--paper", "a3"}, "--paper is a4 or letter");
-    Row("range for breakdown", L{"report", "breakdown", "EX", "-o", "OUT", "--from", "1"},
-        "--from, --to and --all-days are for schedule and oneline");
-    Row("sheets for elements", L{"report", "elements", "EX", "-o", "OUT", "--sheets", "1"},
-        "--sheets is for breakdown");
-    Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
-        "--sheets takes breakdown sheet numbers");
-    Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
-    Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
-        "give either --date YYYY-MM-DD or --sheet");
-    Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
-        "--date needs a date as YYYY-MM-DD");
-    Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
-        "--date YYYY-MM-DD and --shot SCENE,... are required");
-
-    Row("dood wrong type", L{"dood", "EX", "-o", "x.txt"}, "the output must end in .csv or .pdf");
-    Row("dood colour without a pdf", L{"dood", "EX", "--color"}, "--color is for a .pdf output");
-    Row("print-board without a pdf", L{"print-board", "EX"}, "needs -o OUT.pdf");
-    Row("print-board from alone", L{"print-board", "EX", "-o", "OUT", "--from", "2"}, "--from and --to go together");
-    Row("print-board scale", L{"print-board", "EX", "-o", "OUT", "--scale", "300"},
-        "--scale must be a whole number from 50 to 200");
-    Row("print-board both orientations", L{"print-board", "EX", "-o", "OUT", "--portrait", "--landscape"},
-        "--portrait or --landscape, not both");
-}
-
-void TestCli::usageErrors()
-{
-    QFETCH(QStringList, args);
-    QFETCH(QString, message);
-    const QString out = rowOutput(args.value(0) == "board" ? ".png" : args.value(0) == "print-board" ? ".pdf" : ".tbf");
-    const CliRun run = RunCli(expand(args, out));
-    QCOMPARE(run.code, 2);
-    QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    QVERIFY(!QFile::exists(out));
-}
-
-void TestCli::refusedWritesNothing_data()
-{
-    QTest::addColumn<QStringList>("args"); // "-o OUT" follows
-    QTest::addColumn<QString>("message");  // stderr holds it
-
-    const L scene{"add-scene", "EX", "--scene", "1", "--int-ext", "I", "--day-night", "D", "--pages"};
-    Row("corrupt schedule", L{"resave", "@corrupt.tbf"},
-        "Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
-    Row("missing schedule", L{"resave", "@missing.tbf"},
-        "missing.tbf.\n\nThe file cannot be read: there is no such file.");
-    Row("script missing", L{"import-text", "@missing-script.txt"}, "Error with import procedure.\n\n");
-    Row("Fountain script missing", L{"import-fountain", "@missing-script.txt"}, "Error with import procedure.\n\n");
-    Row("not an fdx", L{"import-fdx", "@not.fdx"}, "This file is not a Final Draft script (.fdx) that can be read.");
-    Row("scene report missing", L{"import-fd", "@no-scenes.txt", "@two.txt"},
-        "Error reading file(s). The files may be of the wrong type, or corrupted. Try re-exporting from Final Draft.");
-    Row("row beyond the board", L{"add-divider", "SMALL", "--before", "9"},
-        "--before 9: the schedule has strips 1 to 8.");
-    Row("bad rule", L{"rest-days", "SMALL", "--rule", "X6"}, "The rest day rule must start with S");
-    Row("hold days out of range", L{"hold-days", "SMALL", "--days", "1000"},
-        "The hold days must be between 1 and 999.");
-    Row("no length", scene + L{"0"}, "Oops! Scene must be a minimum of 1/8ths");
-    Row("no such element", scene + L{"1", "--elements", "1,99"},
-        "There is no element 99 in this schedule (it has 65).");
-    Row("conform with nothing accepted", L{"conform", "EX", "--", "999"}, "No strip was found with that number.");
-    Row("board of a missing schedule", L{"board", "@missing.tbf"}, "The file cannot be read: there is no such file.");
-    Row("day range", L{"report", "schedule", "EX", "--from", "3", "--to", "99"},
-        "The day range 3 to 99 is not within the schedule's production days 1 to 19.");
-    Row("unknown sheet", L{"report", "breakdown", "EX", "--sheets", "11,9999"},
-        "No scene has the breakdown sheet number 9999.");
-    Row("unknown category", L{"report", "elements", "EX", "--categories", "16"},
-        "There is no category 16: categories are numbered 1 to 15.");
-    Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
-        "The file cannot be read: there is no such file.");
-    Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
-        "You need to enter a production start date before you can print call sheets.");
-    Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"}, "Incorrect or bad call sheet file");
-    Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
-        "Scene 11 is not scheduled on 2027-04-06.");
-    Row("dood of an unknown category", L{"dood", "EX", "--category", "16"},
-        "There is no category 16: categories are numbered 1 to 15.");
-    Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
-        "The strips 5 to 999 are not within the board's strips 1 to 79.");
-    Row("export of a missing schedule", L{"export", "@missing.tbf"}, "The file cannot be read: there is no such file.");
-    Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
-    Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
-        "The crew list has room for 50 lines, not 51.");
-}
-
-void TestCli::refusedWritesNothing()
-{
-    QFETCH(QStringList, args);
-    QFETCH(QString, message);
-    const QString first = args.value(0);
-    const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
-    const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : first == "export" ? ".csv" : ".tbf");
-    // "-o OUT" goes after the inputs, before the options.
-    int inputs = 1;
-    while (inputs < args.size() && !args.at(inputs).startsWith("--"))
-        ++inputs;
-    args = args.mid(0, inputs) + L{"-o", "OUT"} + args.mid(inputs);
-    const CliRun run = RunCli(expand(args, out));
-    QCOMPARE(run.code, 1);
-    QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    QVERIFY(!QFile::exists(out));
-}
-
-void TestCli::schedules_data()
-{
-    QTest::addColumn<QStringList>("args"); // "-o OUT" follows the command and its inputs
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("out");    // stdout, when given
-    QTest::addColumn<QString>("err");    // stderr holds it
-    QTest::addColumn<QString>("checks"); // of the file written, ";"-separated:
-    // "kinds K", "strips N", "elements N", "rule R", "start S", "hold N", "next N",
-    // "same IN" (byte for byte), "s ROW F1,F2... V1|V2..." strip fields by number and
-    // "e ROW F1,F2... V1|V2..." element fields by number.
-    const QString imported = "Imported %1 scenes and %2 cast elements into ";
-
-    Row("resave", L{"resave", "EX"}, 0, "", "", "same EX");
-    Row("import-text",
-        L{"import-text", "@script.txt", "--lines", "4", "--day-words", "MAGIC HOUR, noon", "--night-words=GLOAMING",
-          "--ignore-words", "SIMON SAYS,"},
-        0, imported.arg(2).arg(1), "", "strips 2;elements 1;e 1 0 Ann;s 1 2,11,5 D|PARK|1.25;s 2 2 N");
-    Row("import-fd", L{"import-fd", "DATA/fd-scene-report.txt", "DATA/fd-script-report.txt"}, 0, imported.arg(5).arg(3),
-        "", "strips 5;elements 3;s 1 5 1.375;s 2 11 BARN");
-    // The review's choice: page numbers and a line of action go, with their assignments.
-    Row("import-text --review auto", L{"import-text", "@junk.txt", "--review", "auto"}, 0, imported.arg(2).arg(2), "",
-        "strips 2;elements 2;e 2 0,3 Bob|2;s 1 19 1;s 2 19 2");
-    Row("import-text keeps all by default", L{"import-text", "@junk.txt"}, 0, imported.arg(2).arg(5), "",
-        "elements 5;s 1 19 1,2,3");
-    Row("import-fountain", L{"import-fountain", "DATA/brick_and_steel.fountain"}, 0, imported.arg(8).arg(7), "",
-        "strips 8;elements 7;e 1 0 STEEL;s 1 1,4,2,3,11 1|1|D|E|BRICK'S PATIO");
-    Row("import-fdx", L{"import-fdx", "DATA/garden-party.fdx"}, 0, imported.arg(3).arg(3), "",
-        "strips 3;elements 3;e 2 0 MR. PIKE;s 1 1,5,19 1|1.25|1,2,3;s 2 1,5,2,11 2|0.375|?|KITCHEN;s 3 1 2A");
-    // An import that fails part-way says so and writes nothing.
-    Row("import-fd, no lengths", L{"import-fd", "@two-scenes.txt", "@two.txt"}, 1, "",
-        "Error converting scene length.\nCould not find scene length information. Are you sure you selected a valid "
-        "Final Draft scene report?\n",
-        "none");
-    Row("a line break in a value", L{"add-scene", "SMALL", "--scene", "1", "--synopsis", "two\nlines"}, 2, "",
-        "a value cannot hold a line break (\"two\\nlines\")", "none");
-
-    // The input board SMALL: 1 1 2 3 3 1 4 2 (the two rest days follow Friday's divider).
-    Row("add-divider", L{"add-divider", "SMALL"}, 0, "", "", "kinds 1 1 2 3 3 1 4 2 2");
-    Row("add-divider --before", L{"add-divider", "SMALL", "--before", "2"}, 0, "", "", "kinds 1 2 3 3 1 2 1 4 2");
-    Row("remove-dividers", L{"remove-dividers", "SMALL"}, 0, "", "", "kinds 1 1 1 4");
-    Row("remove-banners", L{"remove-banners", "SMALL"}, 0, "", "", "kinds 1 1 2 3 3 1 2");
-    Row("auto-pages split", L{"auto-pages", "SMALL", "--max", "5", "--mode", "split"}, 0, "", "",
-        "kinds 1 2 3 3 1 2 1 2 2 4");
-    Row("auto-pages keep", L{"auto-pages", "SMALL", "--max", "5"}, 0, "", "", "kinds 1 2 3 3 1 2 1 2 4");
-    Row("auto-pages keeping dividers", L{"auto-pages", "SMALL", "--max", "8", "--keep-dividers"}, 0, "", "",
-        "kinds 1 1 2 3 3 2 1 2 4 2");
-    Row("start-date", L{"start-date", "SMALL", "--date", "2026-03-09"}, 0, "", "", "kinds 1 1 2 1 4 2;start 46090");
-    Row("start-date --clear", L{"start-date", "SMALL", "--clear"}, 0, "", "", "kinds 1 1 2 1 4 2;start ;rule ");
-    Row("rest-days", L{"rest-days", "SMALL", "--rule", "S1"}, 0, "", "", "kinds 1 1 2 3 1 4 2;rule S1");
-    Row("rest-days none", L{"rest-days", "SMALL", "--rule", ""}, 0, "", "", "kinds 1 1 2 1 4 2;rule ");
-    Row("convert-rest-days", L{"convert-rest-days", "SMALL"}, 0, "", "",
-        "kinds 1 1 2 4 4 1 4 2;rule ;s 4 6 REST DAY;s 5 16 clWhite,clBlack");
-    Row("lock", L{"lock", "SMALL", "--from", "1", "--to", "2", "--date", "2026-03-10"}, 0, "", "",
-        "s 1 13 3/10/2026;s 2 13 3/10/2026;s 3 13 ");
-    Row("hold-days", L{"hold-days", "SMALL", "--days", "14"}, 0, "", "", "hold 14");
-
-    // Sorting removes the dividers after a question, which the tool answers Yes.
-    Row("sort", L{"sort", "EX"}, 0, "", "[answered Yes]", "strips 60;s 1 11 AT SEA;s 60 11 TRURO");
-    Row("sort by scene", L{"sort", "EX", "--keys", "scene"}, 0, "", "", "s 1 1 1;s 60 1 60");
-    // Refused entries are reported and left out; the missing strips are removed.
-    Row("conform", L{"conform", "EX", "--", "3", "+", "999", "1", "*Travel", "05"}, 0, "",
-        "No strip was found with that number. Please try again.", "kinds 1 2 1 4;s 1,3 14 3|1;s 4 6 Travel");
-    Row("renumber", L{"renumber", "SMALL"}, 0, "", "", "s 1 14 1;s 2 14 2;next 3");
-    Row("sort-elements", L{"sort-elements", "SMALL"}, 0, "", "", "e 1 0 ANNA;e 2 0 LAMP;s 1 19 1,2");
-    Row("reset-cast", L{"reset-cast", "SMALL"}, 0, "", "", "e 2 3 1");
-    Row("add-element",
-        L{"add-element", "EMPTY", "--description", "ANNA", "--category", "1", "--name", "Mara Quint", "--hold"}, 0, "",
-        "", "elements 1;e 1 3,2,6,4 1|1|SAG|Mara Quint");
-    Row("add-element, a prop", L{"add-element", "EMPTY", "--description", "LAMP", "--category", "5"}, 0, "", "",
-        "e 1 3,2 Prp|");
-    Row("add-element, a cast number taken",
-        L{"add-element", "EX", "--description", "BEN", "--category", "1", "--id", "1"}, 0, "",
-        "already being used by another cast element", "elements 66;e 66 3 1");
-    Row("add-scene",
-        L{"add-scene",   "SMALL", "--scene",    "12A",     "--pages", "1 3/8", "--int-ext",  "I/E",
-          "--day-night", "DSK",   "--location", "HARBOUR", "--set",   "Quay",  "--synopsis", "Anna arrives, late",
-          "--page",      "7",     "--elements", "2,1"},
-        0, "Added scene 12A as strip 9, breakdown sheet 4\n", "",
-        "strips 9;s 9 1,5,3,2,11,15,4,6,19,14 12A|1.375|I/E|DSK|HARBOUR|Quay|7|Anna arrives, late|1,2|4;next 4");
-    Row("add-scene, decimal pages",
-        L{"add-scene", "EMPTY", "--scene", "13", "--pages", "0.5", "--int-ext", "E", "--day-night", "N"}, 0, "", "",
-        "s 1 5,14 0.5|1");
-}
-
-void TestCli::schedules()
-{
-    QFETCH(QStringList, args);
-    QFETCH(int, code);
-    QFETCH(QString, out);
-    QFETCH(QString, err);
-    QFETCH(QString, checks);
-
-    const QString file = rowOutput(".tbf");
-    int inputs = 1;
-    while (inputs < args.size() && !args.at(inputs).startsWith("--"))
-        ++inputs;
-    const CliRun run = RunCli(expand(args.mid(0, inputs) + L{"-o", "OUT"} + args.mid(inputs), file));
-    QVERIFY2(run.code == code, qPrintable(run.err));
-    // A given stdout is all of it, or its first line up to the file written.
-    if (!out.isEmpty() && out.endsWith(u'\n'))
-        QCOMPARE(run.out, out);
-    else if (!out.isEmpty())
-        QVERIFY2(run.out.startsWith(out + file + u'\n'), qPrintable(run.out));
-    QVERIFY2(run.err.contains(err), qPrintable(run.err));
-
-    if (checks == "none") {
-        QVERIFY(!QFileInfo::exists(file));
-        return;
+        WriteLines("script.txt", {"EXT. PARK - MAGIC HOUR", "", "SIMON SAYS", "Jump.", "", "EXT. PARK - GLOAMING", "",
+                                  "ANN", "Run.", "", "", "", ""});
+        WriteLines("not.fdx", {"INT. ROOM - DAY"});
+        WriteLines("two-scenes.txt", {"1\tA\t1\tx Pgs", "2\tB\t2\tno length"});
+        WriteLines("two.txt", {"## Page: 1, Scene: 1", "INT. A - DAY", "", "## Page: 2, Scene: 2", "INT. B - DAY", ""});
+        QVERIFY(WriteBytes(TempPath("corrupt.tbf"), "hello\r\n"));
     }
-    ScheduleDocument doc;
-    QVERIFY(OpenDocument(doc, file).ok());
-    for (const QString &check : checks.split(u';', Qt::SkipEmptyParts)) {
-        const QString key = check.section(u' ', 0, 0);
-        const QString value = check.section(u' ', 1);
-        if (key == "kinds")
-            QCOMPARE(Kinds(doc), value);
-        else if (key == "strips")
-            QCOMPARE(doc.strips.count(), value.toInt());
-        else if (key == "elements")
-            QCOMPARE(doc.elements.count(), value.toInt());
-        else if (key == "rule")
-            QCOMPARE(doc.values.AutoRestDayRule, value);
-        else if (key == "start")
-            QCOMPARE(doc.values.StartDate, value);
-        else if (key == "hold")
-            QCOMPARE(doc.values.HoldDays, value.toInt());
-        else if (key == "next")
-            QCOMPARE(doc.values.NextStripId, value.toInt());
-        else if (key == "same")
-            QCOMPARE(ReadFileBytes(file), ReadFileBytes(expand({value}, {}).first()));
-        else { // "s ROW FIELDS VALUES" or "e ROW FIELDS VALUES"; ROW may list rows for one field
-            const QStringList rows = check.section(u' ', 1, 1).split(u',');
-            const QStringList fields = check.section(u' ', 2, 2).split(u',');
-            QStringList got;
-            for (const QString &row : rows)
-                for (const QString &field : fields)
-                    got << (key == "s" ? doc.strips[row.toInt()].at(field.toInt())
-                                       : doc.elements[row.toInt()].at(field.toInt()));
-            QCOMPARE(got.join(u'|'), check.section(u' ', 3));
+    void usageErrors_data()
+    {
+        // message: stderr holds it
+        Columns<QStringList, QString>("args", "message");
+
+        const L scene{"add-scene", "EX", "-o", "OUT", "--scene", "1", "--int-ext", "I"};
+        const L element{"add-element", "EX", "-o", "OUT", "--description", "X", "--category"};
+        const L import{"import-text", "@script.txt", "-o", "OUT"};
+        const QString boardUsage = "usage: torvanbridge-cli board IN -o OUT.png|OUT.pdf";
+        Row("no command", L{}, "Commands:");
+        Row("unknown command", L{"frobnicate"}, "unknown command frobnicate");
+        Row("unknown global option", L{"--verbose", "info", "EX"}, "unknown option --verbose");
+        Row("missing -o", L{"resave", "EX"}, "usage: torvanbridge-cli resave");
+        Row("-o without a value", L{"resave", "EX", "-o"}, "usage: torvanbridge-cli resave");
+        Row("unknown option", L{"info", "--colour", "EX"}, "usage: torvanbridge-cli info");
+        // Every value is one line of the schedule file: a line break is refused for every command.
+        Row("two-line title", L{"details", "EX", "-o", "OUT", "--title", "A\nB"},
+            "a value cannot hold a line break (\"A\\nB\")");
+
+        Row("import-text, two scripts", L{"import-text", "@script.txt", "@two.txt", "-o", "OUT"}, "usage:");
+        Row("lines 0", import + L{"--lines", "0"}, "usage: torvanbridge-cli import-text");
+        Row("lines not a number", import + L{"--lines", "many"}, "usage: torvanbridge-cli import-text");
+        Row("import-fd, one report", L{"import-fd", "@two.txt", "-o", "OUT"}, "usage: torvanbridge-cli import-fd");
+        Row("review neither keep nor auto", import + L{"--review", "some"}, "--review must be keep or auto");
+        Row("import-fountain without -o", L{"import-fountain", "@script.txt"},
+            "usage: torvanbridge-cli import-fountain");
+        Row("import-fdx, two files", L{"import-fdx", "@not.fdx", "@two.txt", "-o", "OUT"},
+            "usage: torvanbridge-cli import-fdx");
+
+        Row("lock without unlock or date", L{"lock", "SMALL", "-o", "OUT", "--from", "1", "--to", "2"},
+            "give either --date YYYY-MM-DD or --unlock");
+        Row("max out of range", L{"auto-pages", "SMALL", "-o", "OUT", "--max", "21"}, "--max must be between 1 and 20");
+        Row("bad mode", L{"auto-pages", "SMALL", "-o", "OUT", "--max", "5", "--mode", "ask"},
+            "--mode is keep or split");
+        Row("bad date", L{"start-date", "SMALL", "-o", "OUT", "--date", "6/3/2026"},
+            "--date needs a date as YYYY-MM-DD");
+
+        Row("sort unknown key", L{"sort", "EX", "-o", "OUT", "--keys", "colour"}, "usage: torvanbridge-cli sort");
+        Row("sort four keys", L{"sort", "EX", "-o", "OUT", "--keys", "scene,scene,scene,scene"}, "usage:");
+        Row("conform without entries", L{"conform", "EX", "-o", "OUT"}, "usage: torvanbridge-cli conform");
+        Row("renumber without -o", L{"renumber", "EX"}, "usage: torvanbridge-cli renumber");
+        Row("add-scene missing pages", scene + L{"--day-night", "D"}, "usage: torvanbridge-cli add-scene");
+        Row("add-scene bad pages", scene + L{"--pages", "1 9/8", "--day-night", "D"}, "usage:");
+        Row("add-scene bad time", scene + L{"--pages", "1", "--day-night", "NOON"}, "usage:");
+        Row("add-element bad category", element + L{"16"}, "usage: torvanbridge-cli add-element");
+        Row("add-element long id", element + L{"1", "--id", "12345"}, "usage:");
+
+        Row("board without output", L{"board", "EX"}, "needs -o OUT.png or -o OUT.pdf\n" + boardUsage);
+        Row("board wrong type", L{"board", "EX", "-o", "x.jpg"}, "the output must end in .png or .pdf");
+        Row("board scale", L{"board", "EX", "-o", "OUT", "--scale", "0"}, "--scale must be a number from 0.1 to 10");
+        Row("board width", L{"board", "EX", "-o", "OUT", "--width", "wide"},
+            "--width must be a whole number from 1 to 20000");
+        Row("board colours", L{"board", "EX", "-o", "OUT", "--colours", "pink"}, "--colours must be classic or plain");
+        Row("board, two inputs", L{"board", "EX", "EX", "-o", "OUT"}, "needs one schedule file");
+
+        Row("export wrong type", L{"export", "EX", "-o", "x.xlsx"}, "needs -o OUT.csv or -o OUT.html");
+        Row("export colours", L{"export", "EX", "-o", "x.csv", "--colours", "pink"},
+            "--colours must be classic or plain");
+        Row("crew without a name", L{"details", "EX", "-o", "OUT", "--crew", "Gaffer"},
+            "--crew takes POSITION=NAME or POSITION=NAME=CONTACT");
+
+        Row("unknown report", L{"report", "callsheet", "EX", "-o", "OUT"}, "unknown report callsheet");
+        Row("report without output", L{"report", "schedule", "EX"}, "expected KIND, an input file and -o OUT.pdf");
+        Row("paper", L{"report", "schedule", "EX", "-o", "OUT", "--paper", "a3"}, "--paper is a4 or letter");
+        Row("range for breakdown", L{"report", "breakdown", "EX", "-o", "OUT", "--from", "1"},
+            "--from, --to and --all-days are for schedule and oneline");
+        Row("sheets for elements", L{"report", "elements", "EX", "-o", "OUT", "--sheets", "1"},
+            "--sheets is for breakdown");
+        Row("bad sheet list", L{"report", "breakdown", "EX", "-o", "OUT", "--sheets", "a,b"},
+            "--sheets takes breakdown sheet numbers");
+        Row("call sheet without a date", L{"callsheet", "EX", "-o", "OUT"}, "give either --date YYYY-MM-DD or --sheet");
+        Row("call sheet, date and sheet", L{"callsheet", "EX", "-o", "OUT", "--date", "2027-04-06", "--sheet", "x.tbs"},
+            "give either --date YYYY-MM-DD or --sheet");
+        Row("call sheet bad date", L{"callsheet", "EX", "-o", "OUT", "--date", "tomorrow"},
+            "--date needs a date as YYYY-MM-DD");
+        Row("end of day without scenes", L{"end-of-day", "EX", "-o", "OUT", "--date", "2027-04-06"},
+            "--date YYYY-MM-DD and --shot SCENE,... are required");
+
+        Row("dood wrong type", L{"dood", "EX", "-o", "x.txt"}, "the output must end in .csv or .pdf");
+        Row("dood colour without a pdf", L{"dood", "EX", "--color"}, "--color is for a .pdf output");
+        Row("print-board without a pdf", L{"print-board", "EX"}, "needs -o OUT.pdf");
+        Row("print-board from alone", L{"print-board", "EX", "-o", "OUT", "--from", "2"},
+            "--from and --to go together");
+        Row("print-board scale", L{"print-board", "EX", "-o", "OUT", "--scale", "300"},
+            "--scale must be a whole number from 50 to 200");
+        Row("print-board both orientations", L{"print-board", "EX", "-o", "OUT", "--portrait", "--landscape"},
+            "--portrait or --landscape, not both");
+    }
+    void usageErrors()
+    {
+        auto [args, message] = Fetch<QStringList, QString>("args", "message");
+        const QString out = rowOutput(args.value(0) == "board"         ? ".png"
+                                      : args.value(0) == "print-board" ? ".pdf"
+                                                                       : ".tbf");
+        const CliRun run = RunCli(expand(args, out));
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(!QFile::exists(out));
+    }
+    void refusedWritesNothing_data()
+    {
+        // args: "-o OUT" follows
+        // message: stderr holds it
+        Columns<QStringList, QString>("args", "message");
+
+        const L scene{"add-scene", "EX", "--scene", "1", "--int-ext", "I", "--day-night", "D", "--pages"};
+        Row("corrupt schedule", L{"resave", "@corrupt.tbf"},
+            "Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
+        Row("missing schedule", L{"resave", "@missing.tbf"},
+            "missing.tbf.\n\nThe file cannot be read: there is no such file.");
+        Row("script missing", L{"import-text", "@missing-script.txt"}, "Error with import procedure.\n\n");
+        Row("Fountain script missing", L{"import-fountain", "@missing-script.txt"}, "Error with import procedure.\n\n");
+        Row("not an fdx", L{"import-fdx", "@not.fdx"},
+            "This file is not a Final Draft script (.fdx) that can be read.");
+        Row("scene report missing", L{"import-fd", "@no-scenes.txt", "@two.txt"},
+            "Error reading file(s). The files may be of the wrong type, or corrupted. Try re-exporting from Final "
+            "Draft.");
+        Row("row beyond the board", L{"add-divider", "SMALL", "--before", "9"},
+            "--before 9: the schedule has strips 1 to 8.");
+        Row("bad rule", L{"rest-days", "SMALL", "--rule", "X6"}, "The rest day rule must start with S");
+        Row("hold days out of range", L{"hold-days", "SMALL", "--days", "1000"},
+            "The hold days must be between 1 and 999.");
+        Row("no length", scene + L{"0"}, "Oops! Scene must be a minimum of 1/8ths");
+        Row("no such element", scene + L{"1", "--elements", "1,99"},
+            "There is no element 99 in this schedule (it has 65).");
+        Row("conform with nothing accepted", L{"conform", "EX", "--", "999"}, "No strip was found with that number.");
+        Row("board of a missing schedule", L{"board", "@missing.tbf"},
+            "The file cannot be read: there is no such file.");
+        Row("day range", L{"report", "schedule", "EX", "--from", "3", "--to", "99"},
+            "The day range 3 to 99 is not within the schedule's production days 1 to 19.");
+        Row("unknown sheet", L{"report", "breakdown", "EX", "--sheets", "11,9999"},
+            "No scene has the breakdown sheet number 9999.");
+        Row("unknown category", L{"report", "elements", "EX", "--categories", "16"},
+            "There is no category 16: categories are numbered 1 to 15.");
+        Row("report of a missing schedule", L{"report", "schedule", "@missing.tbf"},
+            "The file cannot be read: there is no such file.");
+        Row("call sheet without a start date", L{"callsheet", "EMPTY", "--date", "2027-04-06"},
+            "You need to enter a production start date before you can print call sheets.");
+        Row("call sheet from a schedule file", L{"callsheet", "EX", "--sheet", "EX"},
+            "Incorrect or bad call sheet file");
+        Row("scene not on the day", L{"end-of-day", "EX", "--date", "2027-04-06", "--shot", "9,11"},
+            "Scene 11 is not scheduled on 2027-04-06.");
+        Row("dood of an unknown category", L{"dood", "EX", "--category", "16"},
+            "There is no category 16: categories are numbered 1 to 15.");
+        Row("print-board beyond the board", L{"print-board", "EX", "--from", "5", "--to", "999"},
+            "The strips 5 to 999 are not within the board's strips 1 to 79.");
+        Row("export of a missing schedule", L{"export", "@missing.tbf"},
+            "The file cannot be read: there is no such file.");
+        Row("call times", L{"details", "EX", "--unit-call", "7:00 am"}, "Call times are not kept in schedule files");
+        Row("51 crew lines", L{"details", "EX"} + QStringList(51, "--crew=Runner=Al"),
+            "The crew list has room for 50 lines, not 51.");
+    }
+    void refusedWritesNothing()
+    {
+        auto [args, message] = Fetch<QStringList, QString>("args", "message");
+        const QString first = args.value(0);
+        const bool pdf = first == "report" || first == "callsheet" || first == "dood" || first == "print-board";
+        const QString out = rowOutput(first == "board" ? ".png" : pdf ? ".pdf" : first == "export" ? ".csv" : ".tbf");
+        // "-o OUT" goes after the inputs, before the options.
+        int inputs = 1;
+        while (inputs < args.size() && !args.at(inputs).startsWith("--"))
+            ++inputs;
+        args = args.mid(0, inputs) + L{"-o", "OUT"} + args.mid(inputs);
+        const CliRun run = RunCli(expand(args, out));
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(!QFile::exists(out));
+    }
+    void schedules_data()
+    {
+        // args: "-o OUT" follows the command and its inputs
+        // out: stdout, when given
+        // err: stderr holds it
+        // checks: of the file written, ";"-separated:
+        Columns<QStringList, int, QString, QString, QString>("args", "code", "out", "err", "checks");
+        // "kinds K", "strips N", "elements N", "rule R", "next N", "s ROW F1,F2... V1|V2..."
+        // strip fields by number and "e ROW F1,F2... V1|V2..." element fields by number.
+        // The outputs of the commands on whole schedules are pinned by golden_outputs.
+        const QString imported = "Imported %1 scenes and %2 cast elements into ";
+
+        Row("import-text",
+            L{"import-text", "@script.txt", "--lines", "4", "--day-words", "MAGIC HOUR, noon", "--night-words=GLOAMING",
+              "--ignore-words", "SIMON SAYS,"},
+            0, imported.arg(2).arg(1), "", "strips 2;elements 1;e 1 0 Ann;s 1 2,11,5 D|PARK|1.25;s 2 2 N");
+        // An import that fails part-way says so and writes nothing.
+        Row("import-fd, no lengths", L{"import-fd", "@two-scenes.txt", "@two.txt"}, 1, "",
+            "Error converting scene length.\nCould not find scene length information. Are you sure you selected a "
+            "valid "
+            "Final Draft scene report?\n",
+            "none");
+        Row("a line break in a value", L{"add-scene", "SMALL", "--scene", "1", "--synopsis", "two\nlines"}, 2, "",
+            "a value cannot hold a line break (\"two\\nlines\")", "none");
+
+        // The input board SMALL: 1 1 2 3 3 1 4 2 (the two rest days follow Friday's divider).
+        Row("auto-pages keeping dividers", L{"auto-pages", "SMALL", "--max", "8", "--keep-dividers"}, 0, "", "",
+            "kinds 1 1 2 3 3 2 1 2 4 2");
+        Row("rest-days none", L{"rest-days", "SMALL", "--rule", ""}, 0, "", "", "kinds 1 1 2 1 4 2;rule ");
+
+        // Refused entries are reported and left out; the missing strips are removed.
+        Row("conform", L{"conform", "EX", "--", "3", "+", "999", "1", "*Travel", "05"}, 0, "",
+            "No strip was found with that number. Please try again.", "kinds 1 2 1 4;s 1,3 14 3|1;s 4 6 Travel");
+        Row("add-element",
+            L{"add-element", "EMPTY", "--description", "ANNA", "--category", "1", "--name", "Mara Quint", "--hold"}, 0,
+            "", "", "elements 1;e 1 3,2,6,4 1|1|SAG|Mara Quint");
+        Row("add-element, a prop", L{"add-element", "EMPTY", "--description", "LAMP", "--category", "5"}, 0, "", "",
+            "e 1 3,2 Prp|");
+        Row("add-element, a cast number taken",
+            L{"add-element", "EX", "--description", "BEN", "--category", "1", "--id", "1"}, 0, "",
+            "already being used by another cast element", "elements 66;e 66 3 1");
+        Row("add-scene",
+            L{"add-scene",   "SMALL", "--scene",    "12A",     "--pages", "1 3/8", "--int-ext",  "I/E",
+              "--day-night", "DSK",   "--location", "HARBOUR", "--set",   "Quay",  "--synopsis", "Anna arrives, late",
+              "--page",      "7",     "--elements", "2,1"},
+            0, "Added scene 12A as strip 9, breakdown sheet 4\n", "",
+            "strips 9;s 9 1,5,3,2,11,15,4,6,19,14 12A|1.375|I/E|DSK|HARBOUR|Quay|7|Anna arrives, late|1,2|4;next 4");
+        Row("add-scene, decimal pages",
+            L{"add-scene", "EMPTY", "--scene", "13", "--pages", "0.5", "--int-ext", "E", "--day-night", "N"}, 0, "", "",
+            "s 1 5,14 0.5|1");
+    }
+
+    void schedules()
+    {
+        auto [args, code, out, err, checks] =
+            Fetch<QStringList, int, QString, QString, QString>("args", "code", "out", "err", "checks");
+
+        const QString file = rowOutput(".tbf");
+        int inputs = 1;
+        while (inputs < args.size() && !args.at(inputs).startsWith("--"))
+            ++inputs;
+        const CliRun run = RunCli(expand(args.mid(0, inputs) + L{"-o", "OUT"} + args.mid(inputs), file));
+        QVERIFY2(run.code == code, qPrintable(run.err));
+        // A given stdout is all of it, or its first line up to the file written.
+        if (!out.isEmpty() && out.endsWith(u'\n'))
+            QCOMPARE(run.out, out);
+        else if (!out.isEmpty())
+            QVERIFY2(run.out.startsWith(out + file + u'\n'), qPrintable(run.out));
+        QVERIFY2(run.err.contains(err), qPrintable(run.err));
+
+        if (checks == "none") {
+            QVERIFY(!QFileInfo::exists(file));
+            return;
+        }
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, file).ok());
+        for (const QString &check : checks.split(u';', Qt::SkipEmptyParts)) {
+            const QString key = check.section(u' ', 0, 0);
+            const QString value = check.section(u' ', 1);
+            if (key == "kinds")
+                QCOMPARE(Kinds(doc), value);
+            else if (key == "strips")
+                QCOMPARE(doc.strips.count(), value.toInt());
+            else if (key == "elements")
+                QCOMPARE(doc.elements.count(), value.toInt());
+            else if (key == "rule")
+                QCOMPARE(doc.values.AutoRestDayRule, value);
+            else if (key == "next")
+                QCOMPARE(doc.values.NextStripId, value.toInt());
+            else { // "s ROW FIELDS VALUES" or "e ROW FIELDS VALUES"; ROW may list rows for one field
+                const QStringList rows = check.section(u' ', 1, 1).split(u',');
+                const QStringList fields = check.section(u' ', 2, 2).split(u',');
+                QStringList got;
+                for (const QString &row : rows)
+                    for (const QString &field : fields)
+                        got << (key == "s" ? doc.strips[row.toInt()].at(field.toInt())
+                                           : doc.elements[row.toInt()].at(field.toInt()));
+                QCOMPARE(got.join(u'|'), check.section(u' ', 3));
+            }
         }
     }
-}
+    void board_data()
+    {
+        // settings: the user's Torvanbridge.ini; empty: none
+        // out: stdout after "OUT: "
+        // pixel: of the PNG
+        // check: its colour, or what the PDF holds
+        Columns<QStringList, QByteArray, QString, QString, QPoint, QString>("options", "settings", "file", "out",
+                                                                            "pixel", "check");
 
-void TestCli::info()
-{
-    const CliRun run = RunCli({"info", Example});
-    QCOMPARE(run.code, 0);
-    QVERIFY(run.out.contains("Title:       Harbour Lights\n"));
-    QVERIFY(run.out.contains("Start date:  Mon, April 5, 2027\n"));
-    QVERIFY(run.out.contains("(60 scenes, 13 day dividers, 2 banners, 4 auto rest days)"));
-    QVERIFY(run.out.contains("  Cast        25\n"));
-    QVERIFY(run.out.contains("Days:        19 production, 15 shooting\n"));
-}
-
-void TestCli::board_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QByteArray>("settings"); // the user's Torvanbridge.ini; empty: none
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("out");   // stdout after "OUT: "
-    QTest::addColumn<QPoint>("pixel");  // of the PNG
-    QTest::addColumn<QString>("check"); // its colour, or what the PDF holds
-
-    // At 140% the fifth strip is a day divider, drawn with the user's divider colour.
-    const L big{"--scale", "1.4", "--width", "900", "--height", "700"};
-    const QPoint divider(280 + 4 * 56 + 28, 400 + 25 * 5 + 12);
-    const QByteArray redDividers("[Strips]\r\nCB7=clRed\r\n");
-    Row("preferences", big, redDividers, "board.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
-        "#ff0000");
-    Row("classic over preferences", big + L{"--colours", "classic"}, redDividers, "classic.png",
-        "900 x 700 at 140%, strips 1-12, element rows 1-12", divider, "#000000");
-    // Without preferences, or with plain colours, the same divider, now first, is white.
-    Row("plain colours, scrolled",
-        L{"--colours", "plain", "--first-strip", "5", "--first-element", "10", "--width", "800", "--height", "600"},
-        redDividers, "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27",
-        QPoint(200 + 20, 288 + 18 * 3 + 9), "#ffffff");
-    // No settings file: the standard colours of a first start (day dividers black).
-    Row("no preferences", big, QByteArray(), "none.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
-        "#000000");
-    // One page, 1200 x 800 pixels at 96 per inch: 900 x 600 points.
-    Row("pdf", L{"--width", "1200", "--height", "800"}, QByteArray(), "board.pdf",
-        "1200 x 800 at 100%, strips 1-25, element rows 1-29", QPoint(), "/MediaBox [0 0 900.000000 600.000000]");
-}
-
-void TestCli::board()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QByteArray, settings);
-    QFETCH(QString, file);
-    QFETCH(QString, out);
-    QFETCH(QPoint, pixel);
-    QFETCH(QString, check);
-    // The test runner's private configuration folder stands for the user's.
-    const QString ini = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini";
-    QFile::remove(ini);
-    if (!settings.isEmpty()) {
-        QDir().mkpath(qEnvironmentVariable("XDG_CONFIG_HOME"));
-        QFile f(ini);
-        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(settings) == settings.size());
+        // At 140% the fifth strip is a day divider, drawn with the user's divider colour.
+        const L big{"--scale", "1.4", "--width", "900", "--height", "700"};
+        const QPoint divider(280 + 4 * 56 + 28, 400 + 25 * 5 + 12);
+        const QByteArray redDividers("[Strips]\r\nCB7=clRed\r\n");
+        Row("preferences", big, redDividers, "board.png", "900 x 700 at 140%, strips 1-12, element rows 1-12", divider,
+            "#ff0000");
+        Row("classic over preferences", big + L{"--colours", "classic"}, redDividers, "classic.png",
+            "900 x 700 at 140%, strips 1-12, element rows 1-12", divider, "#000000");
+        // Without preferences, or with plain colours, the same divider, now first, is white.
+        Row("plain colours, scrolled",
+            L{"--colours", "plain", "--first-strip", "5", "--first-element", "10", "--width", "800", "--height", "600"},
+            redDividers, "plain.png", "800 x 600 at 100%, strips 5-19, element rows 10-27",
+            QPoint(200 + 20, 288 + 18 * 3 + 9), "#ffffff");
+        // No settings file: the standard colours of a first start (day dividers black).
+        Row("no preferences", big, QByteArray(), "none.png", "900 x 700 at 140%, strips 1-12, element rows 1-12",
+            divider, "#000000");
+        // One page, 1200 x 800 pixels at 96 per inch: 900 x 600 points.
+        Row("pdf", L{"--width", "1200", "--height", "800"}, QByteArray(), "board.pdf",
+            "1200 x 800 at 100%, strips 1-25, element rows 1-29", QPoint(), "/MediaBox [0 0 900.000000 600.000000]");
     }
-    const QString path = TempPath(file);
-    const CliRun run = RunCli(L{"board", Example, "-o", path} + options);
-    QFile::remove(ini);
-    QCOMPARE(run.code, 0);
-    QCOMPARE(run.out, path + ": " + out + u'\n');
-    if (file.endsWith(".pdf")) {
-        const QByteArray bytes = ReadFileBytes(path);
-        QVERIFY(bytes.startsWith("%PDF-"));
-        QVERIFY(bytes.contains(check.toLatin1()));
-        return;
+    void board()
+    {
+        auto [options, settings, file, out, pixel, check] =
+            Fetch<QStringList, QByteArray, QString, QString, QPoint, QString>("options", "settings", "file", "out",
+                                                                              "pixel", "check");
+        // The test runner's private configuration folder stands for the user's.
+        const QString ini = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini";
+        QFile::remove(ini);
+        if (!settings.isEmpty()) {
+            QDir().mkpath(qEnvironmentVariable("XDG_CONFIG_HOME"));
+            QFile f(ini);
+            QVERIFY(f.open(QIODevice::WriteOnly) && f.write(settings) == settings.size());
+        }
+        const QString path = TempPath(file);
+        const CliRun run = RunCli(L{"board", Example, "-o", path} + options);
+        QFile::remove(ini);
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.out, path + ": " + out + u'\n');
+        if (file.endsWith(".pdf")) {
+            const QByteArray bytes = ReadFileBytes(path);
+            QVERIFY(bytes.startsWith("%PDF-"));
+            QVERIFY(bytes.contains(check.toLatin1()));
+            return;
+        }
+        const QImage image(path);
+        QCOMPARE(image.size(), QSize(out.section(u' ', 0, 0).toInt(), out.section(u' ', 2, 2).toInt()));
+        QCOMPARE(image.pixelColor(pixel).name(), check);
     }
-    const QImage image(path);
-    QCOMPARE(image.size(), QSize(out.section(u' ', 0, 0).toInt(), out.section(u' ', 2, 2).toInt()));
-    QCOMPARE(image.pixelColor(pixel).name(), check);
-}
-
-void TestCli::reports_data()
-{
-    QTest::addColumn<QStringList>("args");
-    Row("schedule", L{"schedule"});
-    Row("schedule, letter, all days", L{"schedule", "--paper", "letter", "--all-days"});
-    Row("oneline range", L{"oneline", "--from", "2", "--to", "4"});
-    Row("breakdown", L{"breakdown", "--sheets", "11,24"});
-    Row("elements", L{"elements", "--categories", "1,4,5"});
-}
-
-void TestCli::reports()
-{
-    QFETCH(QStringList, args);
-    const QString out = rowOutput(".pdf");
-    const CliRun run = RunCli(L{"report", args.first(), Example, "-o", out} + args.mid(1));
-    QVERIFY2(run.code == 0, qPrintable(run.err));
-    QVERIFY(ReadFileBytes(out).startsWith("%PDF-"));
-    QVERIFY(run.out.isEmpty());
-}
-
-void TestCli::reportTrace()
-{
-    const CliRun run =
-        RunCli({"report", "oneline", Example, "-o", TempPath("traced.pdf"), "--trace", "--from", "1", "--to", "1"});
-    QCOMPARE(run.code, 0);
-    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.at(0), QStringLiteral("AddNamedValue(PictureField) = \"Harbour Lights\""));
-    // Line breaks in a traced value are written as \r\n so that each trace line stays one line.
-    QVERIFY(run.out.contains("AlField CatagoryField1 = not found for value: CAST\\r\\n    2 TOM QUINN\\r\\n"));
-    // The closing line of every report, then this program's own values after it.
-    const qsizetype end = lines.indexOf(QStringLiteral("AddNamedValue(GrandTotal) = End (Days 1 to 1)"));
-    QVERIFY(end > 0);
-    QCOMPARE(lines.mid(end + 1, 2), QStringList({"AddNamedValue(TotalsField) = 1 shooting day, 4 scenes, 4 6/8 pages",
-                                                 "AddNamedValue(TitleField) = Harbour Lights"}));
-}
-
-void TestCli::checkTemplate_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("expected"); // in stdout, or stderr on failure
-    const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
-    QTest::newRow("fields checked") << head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
-                                              "    object Extra: TAlField\n    end\n  end\nend\n"
-                                    << 0 << "lacks DayField";
-    QTest::newRow("unfilled field") << head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n"
-                                    << 0 << "field Extra receives no value from the report";
-    QTest::newRow("mistake with line and cause")
-        << head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n"
-        << 1 << "ShootSch1.dfm, line 5: expected one of alr_Title";
-}
-
-void TestCli::checkTemplate()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(int, code);
-    QFETCH(QString, expected);
-    QDir().mkpath(TempPath(QTest::currentDataTag()));
-    const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(text);
-    f.close();
-    const CliRun run = RunCli({"check-template", path});
-    QCOMPARE(run.code, code);
-    QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
-}
-
-void TestCli::doodAndPrintBoard()
-{
-    CliRun run = RunCli(L{"dood", Example});
-    QVERIFY2(run.code == 0, qPrintable(run.err));
-    const QStringList lines = run.out.split(u'\n');
-    QVERIFY(lines.at(0).startsWith(" Shooting day:,1,2,3"));
-    QVERIFY(lines.at(3).startsWith("1 - MARA QUINN,"));
-    QCOMPARE(lines.last(), QString()); // every line ends with LF
-
-    const QString csv = rowOutput(".csv");
-    run = RunCli(L{"dood", Example, "--totals", "-o", csv});
-    QVERIFY2(run.code == 0, qPrintable(run.err));
-    QVERIFY(ReadFileBytes(csv).split('\n').first().endsWith(",Work,Hold,Total"));
-
-    const QString pdf = rowOutput(".pdf");
-    run = RunCli(L{"print-board", Example, "-o", pdf, "--from", "5", "--to", "5", "--perforated"});
-    QVERIFY2(run.code == 0, qPrintable(run.err));
-    QVERIFY(run.out.endsWith("\npage 1: strips 5-5\n"));
-    QVERIFY(ReadFileBytes(pdf).startsWith("%PDF-"));
-}
-
-// Details given are set, the others kept; info --details shows them all.
-void TestCli::details()
-{
-    const QString out = TempPath("details.tbf");
-    const CliRun set = RunCli({"details", Example, "-o", out, "--title", "Rain", "--address", "1 Quay St, Truro",
-                               "--address", "TR1 2AB", "--upm", "Ann Lee", "--logo", "logo.png", "--crew",
-                               "Gaffer=Jo Smith=07700 900123", "--crew", "Grip=Sam=Lee"});
-    QVERIFY2(set.code == 0, qPrintable(set.err));
-    // As in the dialog, a logo that is no picture is reported and still taken.
-    QVERIFY(set.err.contains("Error opening logo image file. Make sure this is a valid graphic file."));
-    const CliRun info = RunCli({"info", out, "--details"});
-    QCOMPARE(info.code, 0);
-    QVERIFY(info.out.startsWith("Title:       Rain\nCompany:     Brenholt Pictures Ltd\n"));
-    const QString details = info.out.mid(info.out.indexOf("Producer:"));
-    QCOMPARE(details, QString("Producer:    Anna Kerrow\n"
-                              "Director:    Declan Mayhew\n"
-                              "1st AD:      Ruth Sandoval\n"
-                              "PM:          Ann Lee\n"
-                              "Script:      Harbour Lights - shooting script, blue revision\n"
-                              "Reference:   HL-0427\n"
-                              "Prepared by: Peter Okafor\n"
-                              "Logo:        " +
-                              QDir::current().absoluteFilePath("logo.png") +
-                              "\n"
-                              "Address:\n  1 Quay St, Truro\n  TR1 2AB\n"
-                              "Crew:\n  Gaffer = Jo Smith = 07700 900123\n  Grip = Sam = Lee\n"));
-    // Without --details, info prints what it always did.
-    QVERIFY(!RunCli({"info", out}).out.contains("Producer:"));
-}
-
-void TestCli::exports()
-{
-    for (const QString &name : {QStringLiteral("board.csv"), QStringLiteral("board.HTML")}) {
-        const QString out = TempPath(name);
-        const CliRun run = RunCli({"export", Example, "-o", out});
-        QVERIFY2(run.code == 0, qPrintable(run.err));
-        const QByteArray bytes = ReadFileBytes(out);
-        QVERIFY(name.endsWith("csv") ? bytes.startsWith("Kind,Day,Shooting day,Date,Scene,")
-                                     : bytes.startsWith("<!DOCTYPE html>"));
-        // The header and one row per strip.
-        if (name.endsWith("csv"))
-            QCOMPARE(bytes.count("\r\n"), 1 + 79);
+    void checkTemplate_data()
+    {
+        // expected: in stdout, or stderr on failure
+        Columns<QByteArray, int, QString>("text", "code", "expected");
+        const QByteArray head = "object F: TForm\n  object R: TAlReport\n  end\n";
+        Row("fields checked",
+            head + "  object D: tAlBand\n    object SceneField: TAlField\n    end\n"
+                   "    object Extra: TAlField\n    end\n  end\nend\n",
+            0, "lacks DayField");
+        Row("unfilled field", head + "  object D: tAlBand\n    object Extra: TAlField\n    end\n  end\nend\n", 0,
+            "field Extra receives no value from the report");
+        Row("mistake with line and cause", head + "  object D: tAlBand\n    BandType = alr_Nonsense\n  end\nend\n", 1,
+            "ShootSch1.dfm, line 5: expected one of alr_Title");
     }
-}
+    void checkTemplate()
+    {
+        auto [text, code, expected] = Fetch<QByteArray, int, QString>("text", "code", "expected");
+        QDir().mkpath(TempPath(QTest::currentDataTag()));
+        const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/ShootSch1.dfm");
+        QVERIFY(WriteBytes(path, text));
+        const CliRun run = RunCli({"check-template", path});
+        QCOMPARE(run.code, code);
+        QVERIFY2((code == 0 ? run.out : run.err).contains(expected), qPrintable(run.out + run.err));
+    }
+    // Details given are set, the others kept; info --details shows them all.
+    void details()
+    {
+        const QString out = TempPath("details.tbf");
+        const CliRun set = RunCli({"details", Example, "-o", out, "--title", "Rain", "--address", "1 Quay St, Truro",
+                                   "--address", "TR1 2AB", "--upm", "Ann Lee", "--logo", "logo.png", "--crew",
+                                   "Gaffer=Jo Smith=07700 900123", "--crew", "Grip=Sam=Lee"});
+        QVERIFY2(set.code == 0, qPrintable(set.err));
+        // As in the dialog, a logo that is no picture is reported and still taken.
+        QVERIFY(set.err.contains("Error opening logo image file. Make sure this is a valid graphic file."));
+        const CliRun info = RunCli({"info", out, "--details"});
+        QCOMPARE(info.code, 0);
+        QVERIFY(info.out.startsWith("Title:       Rain\nCompany:     Brenholt Pictures Ltd\n"));
+        const QString details = info.out.mid(info.out.indexOf("Producer:"));
+        QCOMPARE(details, QString("Producer:    Anna Kerrow\n"
+                                  "Director:    Declan Mayhew\n"
+                                  "1st AD:      Ruth Sandoval\n"
+                                  "PM:          Ann Lee\n"
+                                  "Script:      Harbour Lights - shooting script, blue revision\n"
+                                  "Reference:   HL-0427\n"
+                                  "Prepared by: Peter Okafor\n"
+                                  "Logo:        " +
+                                  QDir::current().absoluteFilePath("logo.png") +
+                                  "\n"
+                                  "Address:\n  1 Quay St, Truro\n  TR1 2AB\n"
+                                  "Crew:\n  Gaffer = Jo Smith = 07700 900123\n  Grip = Sam = Lee\n"));
+        // Without --details, info prints what it always did.
+        QVERIFY(!RunCli({"info", out}).out.contains("Producer:"));
+    }
+};
 
 TB_TEST_MAIN(TestCli)
 #include "tst_cli.moc"

@@ -8,10 +8,6 @@
 #include "reports/AlLayout.h"
 #include "reports/AlReport.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
 using namespace tb;
 using namespace tb::test;
 
@@ -61,9 +57,7 @@ class TestMalformed : public QObject
 private slots:
     void corpus_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("text");
+        Columns<QString, int, QString>("file", "code", "text");
         QFile list(Corpus + QStringLiteral("expected.txt"));
         QVERIFY(list.open(QIODevice::ReadOnly | QIODevice::Text));
         int rows = 0;
@@ -75,16 +69,14 @@ private slots:
             QCOMPARE(parts.size(), 3);
             QString text = parts[2];
             text.replace(QLatin1String("\\r"), QLatin1String("\r")).replace(QLatin1String("\\n"), QLatin1String("\n"));
-            QTest::newRow(qPrintable(parts[0])) << parts[0] << parts[1].toInt() << text;
+            Row(qPrintable(parts[0]), parts[0], parts[1].toInt(), text);
             ++rows;
         }
         QVERIFY(rows >= 50);
     }
     void corpus()
     {
-        QFETCH(QString, file);
-        QFETCH(int, code);
-        QFETCH(QString, text);
+        auto [file, code, text] = Fetch<QString, int, QString>("file", "code", "text");
         const QString path = Corpus + file;
         const QString out = TempPath(QStringLiteral("malformed-out"));
         const QString format = file.section(u'/', 0, 0);

@@ -7,13 +7,6 @@
 
 namespace tb::test {
 
-// One data row on one line: QTest::newRow(tag) << values...
-template <typename... T>
-void Row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
 // The descriptions of all elements, in order.
 inline QStringList Cast(const ScheduleDocument &doc)
 {
@@ -36,9 +29,7 @@ inline QStringList StripColumn(const ScheduleDocument &doc, StripField field)
 inline QString WriteFile(const QString &name, const QByteArray &bytes)
 {
     const QString path = TempPath(name);
-    QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(bytes);
+    WriteBytes(path, bytes);
     return path;
 }
 

@@ -2,12 +2,10 @@
 
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/DocumentView.h"
 #include "document/ScheduleDocument.h"
 
 #include <QList>
-#include <QTest>
 
 namespace tb::test {
 
@@ -63,13 +61,6 @@ inline void Build(ScheduleDocument &doc, const QStringList &strips)
             AddScene(doc, QString::number(++scene), s);
     }
     SetModified(doc);
-}
-
-// One data row on one line: QTest::newRow(tag) << values...
-template <typename... T>
-void Row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
 }
 
 inline const QString FridayMarch6 = QStringLiteral("46087"); // Fri, March 6, 2026

@@ -1,15 +1,21 @@
 #pragma once
 
+#include "document/DocumentOperations.h"
 #include "document/DocumentView.h"
 #include "document/Prompter.h"
 #include "document/ScheduleDocument.h"
 #include "document/StatusSink.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
-#include <QtTest/qtest.h>
+#include <QTest>
+
+#include <tuple>
 
 namespace tb::test {
 
@@ -17,6 +23,9 @@ namespace tb::test {
 class ScriptedPrompter : public Prompter
 {
 public:
+    ScriptedPrompter() = default;
+    // Answers the document's prompts from now on.
+    explicit ScriptedPrompter(ScheduleDocument &doc) { doc.setPrompter(this); }
     PromptReply ask(const Prompt &prompt) override
     {
         prompts.append(prompt);
@@ -41,6 +50,8 @@ public:
 class RecordingStatus : public StatusSink
 {
 public:
+    RecordingStatus() = default;
+    explicit RecordingStatus(ScheduleDocument &doc) { doc.setStatusSink(this); }
     void setPanelText(int panel, const QString &text) override { panels[panel] = text; }
     void setProgress(int percent) override { progress.append(percent); }
     void setBusy(bool b) override { busy = b; }
@@ -54,6 +65,8 @@ public:
 class RecordingView : public DocumentView
 {
 public:
+    RecordingView() = default;
+    explicit RecordingView(ScheduleDocument &doc) { doc.setView(this); }
     void setTitle(const QString &t) override { title = t; }
     void addRecentFile(const QString &path) override { recent.append(path); }
     void zoomChanged(double z) override { zoom = z; }
@@ -72,6 +85,45 @@ int AddDivider(ScheduleDocument &doc);
 int AddBanner(ScheduleDocument &doc, const QString &text, int days = 0);
 int AddElement(ScheduleDocument &doc, const QString &description, int category = 1, const QString &boardId = {});
 
+// Declares the columns of a data table: Columns<QString, int>("name", "count").
+template <typename... T, typename... Names>
+void Columns(const Names &...names)
+{
+    static_assert(sizeof...(T) == sizeof...(Names), "one name for each column");
+    (QTest::addColumn<T>(names), ...);
+}
+
+// The current row's values of the named columns, as QFETCH gives them one by one:
+// auto [name, count] = Fetch<QString, int>("name", "count").
+template <typename... T, typename... Names>
+std::tuple<T...> Fetch(const Names &...names)
+{
+    static_assert(sizeof...(T) == sizeof...(Names), "one name for each column");
+    return {*static_cast<T *>(QTest::qData(names, ::qMetaTypeId<T>()))...};
+}
+
+// One data row on one line: Row(tag, values...) is QTest::newRow(tag) << values...
+template <typename... T>
+void Row(const char *tag, const T &...values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
+// The named child of the type; the test program stops when there is none.
+template <typename T>
+T *Child(const QObject *parent, const char *name)
+{
+    T *found = parent->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no child %s", name);
+    return found;
+}
+template <typename T>
+T *Child(const QObject &parent, const char *name)
+{
+    return Child<T>(&parent, name);
+}
+
 // The kinds of all strips joined, e.g. "1 1 2 3 1".
 QString Kinds(const ScheduleDocument &doc);
 
@@ -85,11 +137,16 @@ struct CliRun
     QString out;
     QString err;
 };
+// Runs the program in the folder (the current one when empty) and waits for it; a crash
+// gives the code -1, a run past the time limit is killed and says so in err.
+CliRun RunProgram(const QString &program, const QStringList &args, const QString &folder = {}, int timeoutMs = 60000);
 // Runs torvanbridge-cli with the arguments, in the en_US locale, and waits for it.
 CliRun RunCli(const QStringList &args);
 
 // The bytes of a file; empty when it cannot be read.
 QByteArray ReadFileBytes(const QString &path);
+// Writes the bytes to the file, making its folder if needed; false when it cannot.
+bool WriteBytes(const QString &path, const QByteArray &bytes);
 
 // Gives the test program a private, empty home, configuration and data folder, and the
 // offscreen platform unless another is set, before the application object exists: a

@@ -7,7 +7,6 @@
 #include <QBuffer>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -59,126 +58,107 @@ class TestBoardPrinting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pages_data();
-    void pages();
-    void overallScale_data();
-    void overallScale();
-    void perforatedMarginInsideTheEdge();
-    void calibrationPage();
-};
+    void pages_data()
+    {
+        Columns<int, int, bool, bool>("from", "to", "perforated", "everyHeader");
 
-void TestBoardPrinting::pages_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<bool>("perforated");
-    QTest::addColumn<bool>("everyHeader");
-
-    QTest::newRow("one strip") << 7 << 7 << false << false;
-    QTest::newRow("all, plain") << 1 << -1 << false << false;
-    QTest::newRow("all, header on every page") << 1 << -1 << false << true;
-    QTest::newRow("all, perforated") << 1 << -1 << true << false;
-    QTest::newRow("range") << 10 << 50 << true << false;
-}
-
-void TestBoardPrinting::pages()
-{
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(bool, perforated);
-    QFETCH(bool, everyHeader);
-
-    ScheduleDocument doc;
-    fillBoard(doc, 60); // 72 strips
-    doc.SelStart = doc.SelEnd = 3;
-    BoardPrintOptions options;
-    options.firstStrip = from;
-    options.lastStrip = to;
-    options.perforated = perforated;
-    options.headerOnEveryPage = everyHeader;
-    BoardPrintResult printed;
-    Sheet sheet;
-    printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
-
-    const int last = to < 0 ? doc.strips.count() : to;
-    QVERIFY(printed.problem.isEmpty());
-    QVERIFY(!printed.pages.isEmpty());
-    QCOMPARE(printed.pages.first().firstStrip, from);
-    QCOMPARE(printed.pages.last().lastStrip, last);
-    for (int p = 1; p < printed.pages.size(); ++p)
-        QCOMPARE(printed.pages.at(p).firstStrip, printed.pages.at(p - 1).lastStrip + 1);
-    if (from == to)
-        QCOMPARE(printed.pages.size(), 1);
-    else
-        QVERIFY(printed.pages.size() > 1);
-    // Pages without the element column hold more strips (five strip widths more).
-    if (!everyHeader && printed.pages.size() > 2) {
-        const auto width = [&](int p) { return printed.pages.at(p).lastStrip - printed.pages.at(p).firstStrip; };
-        QCOMPARE(width(1), width(0) + 5);
+        Row("one strip", 7, 7, false, false);
+        Row("all, plain", 1, -1, false, false);
+        Row("all, header on every page", 1, -1, false, true);
+        Row("all, perforated", 1, -1, true, false);
+        Row("range", 10, 50, true, false);
     }
-    // Every page is followed by a new one, the last included.
-    QCOMPARE(sheet.pdfPages(), int(printed.pages.size()) + 1);
-    QCOMPARE(doc.SelStart, 0);
-}
+    void pages()
+    {
+        auto [from, to, perforated, everyHeader] =
+            Fetch<int, int, bool, bool>("from", "to", "perforated", "everyHeader");
 
-void TestBoardPrinting::overallScale_data()
-{
-    QTest::addColumn<bool>("perforated");
-    QTest::addColumn<double>("after");
-    QTest::newRow("plain keeps 150 %") << false << 1.5;
-    QTest::newRow("perforated resets to 100 %") << true << 1.0;
-}
+        ScheduleDocument doc;
+        fillBoard(doc, 60); // 72 strips
+        doc.SelStart = doc.SelEnd = 3;
+        BoardPrintOptions options;
+        options.firstStrip = from;
+        options.lastStrip = to;
+        options.perforated = perforated;
+        options.headerOnEveryPage = everyHeader;
+        BoardPrintResult printed;
+        Sheet sheet;
+        printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
 
-void TestBoardPrinting::overallScale()
-{
-    QFETCH(bool, perforated);
-    QFETCH(double, after);
-    ScheduleDocument doc;
-    fillBoard(doc, 10);
-    BoardPrintOptions options;
-    options.overallScale = 1.5;
-    options.perforated = perforated;
-    options.perfWidth = 9.6;
-    Sheet sheet;
-    const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
-    QCOMPARE(printed.overallScale, after);
-    // A strip is one perforated strip wide at 100 %.
-    const double k = Dpi / 25.4 * 9.6 / 40;
-    QCOMPARE(printed.scale, k * after);
-}
+        const int last = to < 0 ? doc.strips.count() : to;
+        QVERIFY(printed.problem.isEmpty());
+        QVERIFY(!printed.pages.isEmpty());
+        QCOMPARE(printed.pages.first().firstStrip, from);
+        QCOMPARE(printed.pages.last().lastStrip, last);
+        for (int p = 1; p < printed.pages.size(); ++p)
+            QCOMPARE(printed.pages.at(p).firstStrip, printed.pages.at(p - 1).lastStrip + 1);
+        if (from == to)
+            QCOMPARE(printed.pages.size(), 1);
+        else
+            QVERIFY(printed.pages.size() > 1);
+        // Pages without the element column hold more strips (five strip widths more).
+        if (!everyHeader && printed.pages.size() > 2) {
+            const auto width = [&](int p) { return printed.pages.at(p).lastStrip - printed.pages.at(p).firstStrip; };
+            QCOMPARE(width(1), width(0) + 5);
+        }
+        // Every page is followed by a new one, the last included.
+        QCOMPARE(sheet.pdfPages(), int(printed.pages.size()) + 1);
+        QCOMPARE(doc.SelStart, 0);
+    }
+    void overallScale_data()
+    {
+        Columns<bool, double>("perforated", "after");
+        Row("plain keeps 150 %", false, 1.5);
+        Row("perforated resets to 100 %", true, 1.0);
+    }
+    void overallScale()
+    {
+        auto [perforated, after] = Fetch<bool, double>("perforated", "after");
+        ScheduleDocument doc;
+        fillBoard(doc, 10);
+        BoardPrintOptions options;
+        options.overallScale = 1.5;
+        options.perforated = perforated;
+        options.perfWidth = 9.6;
+        Sheet sheet;
+        const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
+        QCOMPARE(printed.overallScale, after);
+        // A strip is one perforated strip wide at 100 %.
+        const double k = Dpi / 25.4 * 9.6 / 40;
+        QCOMPARE(printed.scale, k * after);
+    }
+    void perforatedMarginInsideTheEdge()
+    {
+        ScheduleDocument doc;
+        fillBoard(doc, 10);
+        BoardPrintOptions options;
+        options.perforated = true;
+        options.perfMargin = 5.2;
+        options.perfWidth = 9.565;
+        const double dotsPerMm = Dpi / 25.4;
+        const int strip = qRound(40 * (dotsPerMm * 9.565 / 40));
 
-void TestBoardPrinting::perforatedMarginInsideTheEdge()
-{
-    ScheduleDocument doc;
-    fillBoard(doc, 10);
-    BoardPrintOptions options;
-    options.perforated = true;
-    options.perfMargin = 5.2;
-    options.perfWidth = 9.565;
-    const double dotsPerMm = Dpi / 25.4;
-    const int strip = qRound(40 * (dotsPerMm * 9.565 / 40));
-
-    Sheet wide(4.0); // the margin lies beyond the edge
-    QCOMPARE(PrintBoard(doc, BoardStyle(), options, wide.writer).left,
-             qRound(5.2 * dotsPerMm) - wide.writer.pageLayout().marginsPixels(Dpi).left());
-    Sheet narrow(6.0); // the margin lies inside the edge: one strip further right
-    const int offset = narrow.writer.pageLayout().marginsPixels(Dpi).left();
-    QVERIFY(qRound(5.2 * dotsPerMm) < offset);
-    QCOMPARE(PrintBoard(doc, BoardStyle(), options, narrow.writer).left, qRound(5.2 * dotsPerMm) - offset + strip);
-}
-
-void TestBoardPrinting::calibrationPage()
-{
-    Sheet sheet(6.0);
-    const CalibrationPageResult page = PrintCalibrationPage(5.2, 9.565, sheet.writer);
-    const double dotsPerMm = Dpi / 25.4;
-    QVERIFY(page.printed);
-    QCOMPARE(page.stripWidth, qRound(9.565 * dotsPerMm));
-    QCOMPARE(page.firstLeft,
-             qRound(5.2 * dotsPerMm) - sheet.writer.pageLayout().marginsPixels(Dpi).left() + page.stripWidth);
-    QCOMPARE(page.strips, 28); // the strips that fit across 285 mm of printable width
-    QCOMPARE(sheet.pdfPages(), 1);
-}
+        Sheet wide(4.0); // the margin lies beyond the edge
+        QCOMPARE(PrintBoard(doc, BoardStyle(), options, wide.writer).left,
+                 qRound(5.2 * dotsPerMm) - wide.writer.pageLayout().marginsPixels(Dpi).left());
+        Sheet narrow(6.0); // the margin lies inside the edge: one strip further right
+        const int offset = narrow.writer.pageLayout().marginsPixels(Dpi).left();
+        QVERIFY(qRound(5.2 * dotsPerMm) < offset);
+        QCOMPARE(PrintBoard(doc, BoardStyle(), options, narrow.writer).left, qRound(5.2 * dotsPerMm) - offset + strip);
+    }
+    void calibrationPage()
+    {
+        Sheet sheet(6.0);
+        const CalibrationPageResult page = PrintCalibrationPage(5.2, 9.565, sheet.writer);
+        const double dotsPerMm = Dpi / 25.4;
+        QVERIFY(page.printed);
+        QCOMPARE(page.stripWidth, qRound(9.565 * dotsPerMm));
+        QCOMPARE(page.firstLeft,
+                 qRound(5.2 * dotsPerMm) - sheet.writer.pageLayout().marginsPixels(Dpi).left() + page.stripWidth);
+        QCOMPARE(page.strips, 28); // the strips that fit across 285 mm of printable width
+        QCOMPARE(sheet.pdfPages(), 1);
+    }
+};
 
 TB_TEST_MAIN(TestBoardPrinting)
 #include "tst_boardprinting.moc"

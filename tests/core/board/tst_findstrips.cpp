@@ -1,9 +1,6 @@
 #include "TestSupport.h"
 
 #include "board/FindStrips.h"
-#include "document/DocumentOperations.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -38,55 +35,41 @@ private Q_SLOTS:
 
     void matches_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("scene number") << "3a"
-                                      << "4";
-        QTest::newRow("location, any case") << "harbour"
-                                            << "1";
-        QTest::newRow("set") << "lamp"
-                             << "4";
-        QTest::newRow("synopsis and element") << "mara"
-                                              << "2 7";
-        QTest::newRow("sequence") << "STORM"
-                                  << "6";
-        QTest::newRow("banners are not searched") << "travel"
-                                                  << "";
-        QTest::newRow("nothing") << "desert"
-                                 << "";
-        QTest::newRow("blank finds nothing") << "  "
-                                             << "";
+        Columns<QString, QString>("text", "rows");
+        Row("scene number", "3a", "4");
+        Row("location, any case", "harbour", "1");
+        Row("set", "lamp", "4");
+        Row("synopsis and element", "mara", "2 7");
+        Row("sequence", "STORM", "6");
+        Row("banners are not searched", "travel", "");
+        Row("nothing", "desert", "");
+        Row("blank finds nothing", "  ", "");
     }
     void matches()
     {
         QFETCH(QString, text);
-        QFETCH(QString, rows);
         QStringList found;
         for (int row = 1; row <= doc.strips.count(); ++row)
             if (StripMatches(doc, row, text))
                 found.append(QString::number(row));
-        QCOMPARE(found.join(u' '), rows);
+        QTEST(found.join(u' '), "rows");
         QCOMPARE(CountMatchingStrips(doc, text), int(found.size()));
     }
 
     void nextAndPreviousGoRound_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<bool>("forward");
-        QTest::addColumn<int>("found");
-        QTest::newRow("from nothing forward") << 0 << true << 2;
-        QTest::newRow("from nothing backward") << 0 << false << 7;
-        QTest::newRow("forward past the end") << 7 << true << 2;
-        QTest::newRow("forward") << 2 << true << 7;
-        QTest::newRow("backward past the start") << 2 << false << 7;
-        QTest::newRow("out of range forward") << 99 << true << 2;
+        Columns<int, bool, int>("from", "forward", "found");
+        Row("from nothing forward", 0, true, 2);
+        Row("from nothing backward", 0, false, 7);
+        Row("forward past the end", 7, true, 2);
+        Row("forward", 2, true, 7);
+        Row("backward past the start", 2, false, 7);
+        Row("out of range forward", 99, true, 2);
     }
     void nextAndPreviousGoRound()
     {
-        QFETCH(int, from);
-        QFETCH(bool, forward);
-        QFETCH(int, found);
-        QCOMPARE(FindStrip(doc, QStringLiteral("mara"), from, forward), found);
+        auto [from, forward] = Fetch<int, bool>("from", "forward");
+        QTEST(FindStrip(doc, QStringLiteral("mara"), from, forward), "found");
     }
 
     void singleMatchIsFoundAgain()

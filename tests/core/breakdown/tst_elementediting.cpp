@@ -1,10 +1,7 @@
 #include "TestSupport.h"
 
 #include "breakdown/ElementEditing.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -36,28 +33,24 @@ class TestElementEditing : public QObject
 private Q_SLOTS:
     void highestCast_data()
     {
-        QTest::addColumn<QStringList>("categories");
-        QTest::addColumn<QStringList>("ids");
-        QTest::addColumn<int>("highest");
-        QTest::newRow("empty table") << QStringList() << QStringList() << 0;
-        QTest::newRow("gaps") << QStringList{"1", "1", "1"} << QStringList{"1", "2", "7"} << 7;
-        QTest::newRow("letters count as 0") << QStringList{"1", "1"} << QStringList{"A", "3"} << 3;
-        QTest::newRow("only letters") << QStringList{"1"} << QStringList{"A"} << 0;
-        QTest::newRow("other categories ignored") << QStringList{"5", "1"} << QStringList{"99", "2"} << 2;
-        QTest::newRow("bad category ignored") << QStringList{"x", "1"} << QStringList{"50", "4"} << 4;
+        Columns<QStringList, QStringList, int>("categories", "ids", "highest");
+        Row("empty table", QStringList(), QStringList(), 0);
+        Row("gaps", QStringList{"1", "1", "1"}, QStringList{"1", "2", "7"}, 7);
+        Row("letters count as 0", QStringList{"1", "1"}, QStringList{"A", "3"}, 3);
+        Row("only letters", QStringList{"1"}, QStringList{"A"}, 0);
+        Row("other categories ignored", QStringList{"5", "1"}, QStringList{"99", "2"}, 2);
+        Row("bad category ignored", QStringList{"x", "1"}, QStringList{"50", "4"}, 4);
     }
 
     void highestCast()
     {
-        QFETCH(QStringList, categories);
-        QFETCH(QStringList, ids);
-        QFETCH(int, highest);
+        auto [categories, ids] = Fetch<QStringList, QStringList>("categories", "ids");
         ScheduleDocument doc;
         for (int i = 0; i < categories.size(); ++i) {
             const int row = AddElement(doc, QStringLiteral("E%1").arg(i), 1, ids.at(i));
             doc.elements[row].set(ElementField::CategoryNumber, categories.at(i));
         }
-        QCOMPARE(GetHighestCast(doc), highest);
+        QTEST(GetHighestCast(doc), "highest");
     }
 
     void doId()
@@ -122,28 +115,20 @@ private Q_SLOTS:
 
     void validation_data()
     {
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("no description")
-            << ""
-            << "1"
-            << "You need to enter a description for the element, or else click Cancel if you "
-               "do not wish to change anything.";
-        QTest::newRow("no id") << "Anna"
-                               << ""
-                               << "You need to enter an identifier for the element, or else click Cancel if you do not "
-                                  "wish to change anything.";
+        Columns<QString, QString, QString>("description", "id", "message");
+        Row("no description", "", "1",
+            "You need to enter a description for the element, or else click Cancel if you "
+            "do not wish to change anything.");
+        Row("no id", "Anna", "",
+            "You need to enter an identifier for the element, or else click Cancel if you do not "
+            "wish to change anything.");
     }
 
     void validation()
     {
-        QFETCH(QString, description);
-        QFETCH(QString, id);
-        QFETCH(QString, message);
+        auto [description, id, message] = Fetch<QString, QString, QString>("description", "id", "message");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         ElementPage page;
         page.description = description;
         page.boardId = id;
@@ -212,34 +197,29 @@ private Q_SLOTS:
 
     void duplicateCastId_data()
     {
-        QTest::addColumn<int>("editIndex");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<bool>("duplicate");
-        QTest::newRow("new cast with a used number") << -1 << "3" << true;
-        QTest::newRow("the prop itself asks too") << 4 << "3" << true;
-        QTest::newRow("the cast member itself") << 2 << "3" << false;
-        QTest::newRow("a prop code is no cast ID") << -1 << "Prp" << false;
-        QTest::newRow("free number") << -1 << "9" << false;
+        Columns<int, QString, bool>("editIndex", "id", "duplicate");
+        Row("new cast with a used number", -1, "3", true);
+        Row("the prop itself asks too", 4, "3", true);
+        Row("the cast member itself", 2, "3", false);
+        Row("a prop code is no cast ID", -1, "Prp", false);
+        Row("free number", -1, "9", false);
     }
 
     void duplicateCastId()
     {
-        QFETCH(int, editIndex);
-        QFETCH(QString, id);
-        QFETCH(bool, duplicate);
+        auto [editIndex, id] = Fetch<int, QString>("editIndex", "id");
         ScheduleDocument doc;
         AddElement(doc, "Anna", 1, "1");
         AddElement(doc, "Ben", 1, "3");
         AddElement(doc, "Lamp", 5, "Prp");
         AddElement(doc, "Vase", 5, "Prp");
-        QCOMPARE(IsDuplicateCastId(doc, editIndex, id), duplicate);
+        QTEST(IsDuplicateCastId(doc, editIndex, id), "duplicate");
     }
 
     void duplicateQuestion()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         AddElement(doc, "Ben", 1, "3");
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!ConfirmDuplicateCastId(doc, -1, "3"));
@@ -260,8 +240,7 @@ private Q_SLOTS:
         AddElement(doc, "Ben", 1, "2");
         AddElement(doc, "Cora", 1, "7");
         AddElement(doc, "Dov", 1, "A");
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!ResetCastNumbering(doc));
         QCOMPARE(Column(doc, ElementField::BoardId), "1 Prp 2 7 A");
@@ -288,8 +267,7 @@ private Q_SLOTS:
         doc.strips[1].set(StripField::Assignments, "1,2,3,4");
         doc.strips[2].set(StripField::Assignments, "3,3");
         doc.strips[4].set(StripField::Assignments, "4,9");
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         prompter.answers = {Answer::No, Answer::Yes};
         QVERIFY(!SortElementsByCategory(doc));
         QCOMPARE(Column(doc, ElementField::Description), "Lamp Anna Vase Crowd");

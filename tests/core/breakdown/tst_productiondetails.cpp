@@ -1,12 +1,9 @@
 #include "TestSupport.h"
 
 #include "breakdown/ProductionDetails.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleFile.h"
 
-#include <QFile>
 #include <QImage>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -19,8 +16,7 @@ private Q_SLOTS:
     void roundTrip()
     {
         ScheduleDocument doc;
-        RecordingView view;
-        doc.setView(&view);
+        RecordingView view{doc};
         NewDocument(doc);
         ProductionDetails d = ReadProductionDetails(doc);
         QCOMPARE(QStringList({d.unitCall, d.costumeCall, d.makeupCall, d.wrapTime}),
@@ -63,38 +59,31 @@ private Q_SLOTS:
 
     void logo_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("source");
-        QTest::addColumn<QString>("message"); // blank: loaded
-        QTest::newRow("JPEG") << "logo.jpg" << int(LogoSource::Chosen) << "";
-        QTest::newRow("PNG") << "logo.png" << int(LogoSource::Stored) << "";
-        QTest::newRow("bitmap") << "logo.bmp" << int(LogoSource::Chosen) << "";
-        QTest::newRow("broken link")
-            << "moved.png" << int(LogoSource::Stored)
-            << "Error opening logo image file. The link to the file might have been broken - try "
-               "re-loading it.";
-        QTest::newRow("not a picture") << "text.jpg" << int(LogoSource::Chosen)
-                                       << "Error opening logo image file. Make sure this is a valid graphic file.";
+        // message: blank: loaded
+        Columns<QString, int, QString>("file", "source", "message");
+        Row("JPEG", "logo.jpg", int(LogoSource::Chosen), "");
+        Row("PNG", "logo.png", int(LogoSource::Stored), "");
+        Row("bitmap", "logo.bmp", int(LogoSource::Chosen), "");
+        Row("broken link", "moved.png", int(LogoSource::Stored),
+            "Error opening logo image file. The link to the file might have been broken - try "
+            "re-loading it.");
+        Row("not a picture", "text.jpg", int(LogoSource::Chosen),
+            "Error opening logo image file. Make sure this is a valid graphic file.");
     }
 
     void logo()
     {
-        QFETCH(QString, file);
-        QFETCH(int, source);
-        QFETCH(QString, message);
+        auto [file, source, message] = Fetch<QString, int, QString>("file", "source", "message");
         const QString path = TempPath(file);
         if (file.startsWith("logo")) {
             QImage image(40, 20, QImage::Format_RGB32);
             image.fill(Qt::darkCyan);
             QVERIFY(image.save(path));
         } else if (file.startsWith("text")) {
-            QFile f(path);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write("this is text, not a picture");
+            QVERIFY(WriteBytes(path, "this is text, not a picture"));
         }
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const QImage loaded = LoadLogo(doc, path, LogoSource(source));
         if (message.isEmpty()) {
             QCOMPARE(loaded.size(), QSize(40, 20));

@@ -1,11 +1,8 @@
 #include "TestSupport.h"
 
 #include "breakdown/SceneEditing.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -62,361 +59,299 @@ class TestSceneEditing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void lengthToSpins_data();
-    void lengthToSpins();
-    void spinsToLength_data();
-    void spinsToLength();
-    void pageFromStrip();
-    void newSceneIsOneEighth();
-    void zeroLengthIsRefused();
-    void insertStartsAsCopyOfThePlace();
-    void editKeepsTheStripAndRebuildsAssignments();
-    void flagsOnlyInEditMode();
-    void okLabelsAndScroll_data();
-    void okLabelsAndScroll();
-    void fullTableIsRefused();
-    void rowFoundAfterRestDaysMove();
-    void pickListSubstringRule();
-    void pickListsFromStrips();
-    void stepToScene_data();
-    void stepToScene();
-    void memoLines_data();
-    void memoLines();
+    void lengthToSpins_data()
+    {
+        Columns<QString, int, int, int>("text", "lines", "whole", "eighths");
+        Row("one eighth", "0.125", 56, 0, 1);
+        Row("whole pages", "2", 56, 2, 0);
+        Row("half", "0.5", 56, 0, 4);
+        Row("eight eighths clamp to seven", "1.95", 56, 1, 7);
+        // 0.06 of a page is under half an eighth but more than three lines of 56.
+        Row("a few lines show one eighth", "2.06", 56, 2, 1);
+        // 0.05 of a page is 2.8 lines of 56: under three lines, so no eighth.
+        Row("under three lines", "2.05", 56, 2, 0);
+        Row("over three lines of 100", "1.04", 100, 1, 1);
+        Row("half an eighth rounds to even", "0.0625", 10, 0, 0);
+        Row("not a number", "abc", 56, 0, 1);
+        Row("comma decimal of old files", "1,375", 56, 1, 3);
+        Row("more than the box holds", "12.5", 56, 9, 4);
+    }
+    void lengthToSpins()
+    {
+        auto [text, lines] = Fetch<QString, int>("text", "lines");
+        int w = -1, e = -1;
+        LengthToSpins(text, lines, &w, &e);
+        QTEST(w, "whole");
+        QTEST(e, "eighths");
+    }
+    void spinsToLength_data()
+    {
+        Columns<int, int, QString>("whole", "eighths", "text");
+        Row("eighth", 0, 1, "0.125");
+        Row("mixed", 1, 3, "1.375");
+        Row("whole", 2, 0, "2");
+        Row("half", 0, 4, "0.5");
+    }
+    void spinsToLength()
+    {
+        auto [whole, eighths] = Fetch<int, int>("whole", "eighths");
+        QTEST(SpinsToLength(whole, eighths), "text");
+    }
+    void pageFromStrip()
+    {
+        ScheduleDocument doc;
+        const int row = AddScene(doc, "12A", "1.375", "DSK", "I/E");
+        StripRecord &s = doc.strips[row];
+        s.set(StripField::Notes, legacy::JoinCommaText({"Rain, heavy", "Crane"}));
+        s.set(StripField::Location, "HARBOUR");
+        const ScenePage page = ScenePageFromStrip(s);
+        QCOMPARE(page.scene, "12A");
+        QCOMPARE(QList<int>({page.whole, page.eighths, page.time, page.intExt}), QList<int>({1, 3, 3, 2}));
+        QCOMPARE(page.location, "HARBOUR");
+        QCOMPARE(page.notes, QStringList({"Rain, heavy", "Crane"}));
+
+        // Codes the editor does not know show its first item.
+        s.set(StripField::DayNight, "X");
+        s.set(StripField::IntExt, "");
+        const ScenePage other = ScenePageFromStrip(s);
+        QCOMPARE(other.time, 0);
+        QCOMPARE(other.intExt, 0);
+    }
+    void newSceneIsOneEighth()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        doc.values.NextStripId = 7;
+        ScenePage page = BlankScenePage();
+        QCOMPARE(page.whole, 0);
+        QCOMPARE(page.eighths, 1);
+        page.scene = "2";
+        page.notes = {"one line", "two, with comma"};
+        const ResultOf<int> row = RecordStrip(doc, SceneMode::Add, 0, page, Flags(doc, {}));
+        QVERIFY(row.ok());
+        QCOMPARE(row.value(), 2);
+        const StripRecord &s = doc.strips[2];
+        QCOMPARE(s[StripField::PageLength], "0.125");
+        QCOMPARE(s.kind(), "1");
+        QCOMPARE(s[StripField::StripId], "8");
+        QCOMPARE(doc.values.NextStripId, 8);
+        QCOMPARE(s[StripField::IntExt], "I");
+        QCOMPARE(s[StripField::DayNight], "D");
+        QCOMPARE(legacy::SplitCommaText(s[StripField::Notes]), page.notes);
+        QCOMPARE(doc.SelElement, -1);
+        QVERIFY(doc.Modified);
+    }
+    void zeroLengthIsRefused()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter{doc};
+        AddScene(doc, "1", "1");
+        ScenePage page = BlankScenePage();
+        page.eighths = 0;
+        const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, {});
+        QVERIFY(!row.ok());
+        QCOMPARE(
+            prompter.texts(),
+            QStringList{"Oops! Scene must be a minimum of 1/8ths of a page long. Please enter the correct number of "
+                        "pages / eights of a page."});
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
+        QCOMPARE(doc.strips.count(), 1);
+        QCOMPARE(doc.values.NextStripId, 1);
+        // A refused scene takes no undo step (the earlier edition took one).
+        QCOMPARE(doc.undo.UndoDepth, 0);
+        QVERIFY(!doc.Modified);
+    }
+    void insertStartsAsCopyOfThePlace()
+    {
+        ScheduleDocument doc;
+        FiveScenes(doc);
+        ScenePage page = BlankScenePage();
+        page.scene = "NEW";
+        page.location = "PIER";
+        const ResultOf<int> row = RecordStrip(doc, SceneMode::Insert, 3, page, Flags(doc, {}));
+        QVERIFY(row.ok());
+        QCOMPARE(row.value(), 3);
+        QCOMPARE(SceneNumbers(doc), "A B NEW C D E");
+        const StripRecord &s = doc.strips[3];
+        for (StripField kept : {StripField::Reserved8, StripField::Reserved12, StripField::LockDate,
+                                StripField::StripColour, StripField::DayCount})
+            QCOMPARE(s[kept], doc.strips[4][kept]);
+        QCOMPARE(s[StripField::DayCount], "count-C");
+        QCOMPARE(s[StripField::StripId], "6");
+        QCOMPARE(s[StripField::Location], "PIER");
+        QCOMPARE(doc.strips[4][StripField::StripId], "3");
+    }
+    void editKeepsTheStripAndRebuildsAssignments()
+    {
+        ScheduleDocument doc;
+        FiveScenes(doc);
+        for (int i = 1; i <= 8; ++i)
+            AddElement(doc, QStringLiteral("E%1").arg(i));
+        doc.strips[2].set(StripField::Assignments, "7,3,3");
+        ScenePage page = ScenePageFromStrip(doc.strips[2]);
+        page.synopsis = "Changed";
+        const ResultOf<int> row = RecordStrip(doc, SceneMode::Edit, 2, page, Flags(doc, {7, 1, 3}));
+        QVERIFY(row.ok());
+        QCOMPARE(row.value(), 2);
+        QCOMPARE(doc.strips.count(), 5);
+        QCOMPARE(doc.strips[2][StripField::Assignments], "1,3,7");
+        QCOMPARE(doc.strips[2][StripField::Synopsis], "Changed");
+        QCOMPARE(doc.strips[2][StripField::StripId], "2");
+        QCOMPARE(doc.strips[2][StripField::Reserved8], "r8-B");
+        QCOMPARE(doc.values.NextStripId, 5);
+    }
+    void flagsOnlyInEditMode()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        for (int i = 1; i <= 4; ++i)
+            AddElement(doc, QStringLiteral("E%1").arg(i));
+        doc.strips[1].set(StripField::Assignments, "4,2,9");
+        const AssignmentFlags edit = SceneAssignmentFlags(doc, SceneMode::Edit, 1);
+        QCOMPARE(edit, AssignmentFlags({false, false, true, false, true}));
+        QCOMPARE(SceneAssignmentFlags(doc, SceneMode::Add, 1), AssignmentFlags(5, false));
+        QCOMPARE(SceneAssignmentFlags(doc, SceneMode::Insert, 1), AssignmentFlags(5, false));
+    }
+    void okLabelsAndScroll_data()
+    {
+        Columns<int, int, QString, int>("mode", "strips", "label", "scroll");
+        Row("add, long board", int(SceneMode::Add), 9, "add new scene", 5);
+        Row("add, short board", int(SceneMode::Add), 2, "add new scene", 3);
+        Row("insert", int(SceneMode::Insert), 9, "add new scene", -1);
+        Row("edit", int(SceneMode::Edit), 9, "edit scene", -1);
+    }
+    void okLabelsAndScroll()
+    {
+        auto [mode, strips, label] = Fetch<int, int, QString>("mode", "strips", "label");
+        ScheduleDocument doc;
+        ScrollView view;
+        doc.setView(&view);
+        for (int i = 0; i < strips; ++i)
+            AddScene(doc, QString::number(i + 1), "1");
+        const ResultOf<int> row = SaveScene(doc, mode, 1, BlankScenePage(), {});
+        QVERIFY(row.ok());
+        QCOMPARE(doc.undo.levels[1].label, label);
+        QTEST(view.scrolledTo, "scroll");
+        QCOMPARE(
+            QList<int>({ScrollPositionAfterAppend(10), ScrollPositionAfterAppend(6), ScrollPositionAfterAppend(5)}),
+            QList<int>({5, 1, 5}));
+    }
+    void fullTableIsRefused()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter{doc};
+        for (int i = 0; i < MaxStrips; ++i)
+            AddScene(doc, QString::number(i), "1");
+        const int next = doc.values.NextStripId;
+        QVERIFY(!RecordStrip(doc, SceneMode::Add, 0, BlankScenePage(), {}).ok());
+        QVERIFY(!RecordStrip(doc, SceneMode::Insert, 5, BlankScenePage(), {}).ok());
+        QCOMPARE(doc.strips.count(), MaxStrips);
+        QCOMPARE(doc.values.NextStripId, next);
+        QCOMPARE(prompter.prompts.size(), 2);
+    }
+    void rowFoundAfterRestDaysMove()
+    {
+        // The example's rest day rule puts rest days after its last divider as soon as a
+        // scene starts a new day there, which moves the appended strip.
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, QStringLiteral(TB_SOURCE_DIR) + "/examples/harbour-lights.tbf").ok());
+        const int before = doc.strips.count();
+        ScenePage page = BlankScenePage();
+        page.scene = "61";
+        const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, {});
+        QVERIFY(row.ok());
+        QVERIFY(doc.strips.count() > before + 1);
+        QCOMPARE(doc.strips[row.value()][StripField::SceneNumber], "61");
+        QCOMPARE(doc.strips[row.value()][StripField::StripId], QString::number(doc.values.NextStripId));
+    }
+    void pickListSubstringRule()
+    {
+        QStringList list;
+        QVERIFY(AddToPickList(list, "BARN"));
+        QVERIFY(!AddToPickList(list, "BAR"));
+        QVERIFY(!AddToPickList(list, ""));
+        QVERIFY(!AddToPickList(list, "BARN"));
+        QVERIFY(AddToPickList(list, "ATTIC"));
+        QVERIFY(AddToPickList(list, "barn")); // the test counts case
+        // A value longer than a listed one is its own item.
+        QVERIFY(AddToPickList(list, "BARNYARD"));
+        QCOMPARE(list, QStringList({"ATTIC", "BARN", "barn", "BARNYARD"}));
+    }
+    void pickListsFromStrips()
+    {
+        ScheduleDocument doc;
+        for (const char *loc : {"BARN", "BAR", "", "ATTIC"}) {
+            const int row = AddScene(doc, "1", "1");
+            doc.strips[row].set(StripField::Location, loc);
+        }
+        doc.strips[1].set(StripField::SetName, "Kitchen");
+        const int banner = AddBanner(doc, "Travel");
+        doc.strips[banner].set(StripField::Location, "ROAD"); // every strip counts
+        doc.locationPickList = {"stale"};
+        RebuildPickLists(doc);
+        QCOMPARE(doc.locationPickList, QStringList({"ATTIC", "BARN", "ROAD"}));
+        QCOMPARE(doc.setPickList, QStringList({"Kitchen"}));
+
+        // Saving a scene adds its values.
+        ScenePage page = BlankScenePage();
+        page.location = "CELLAR";
+        page.set = "Kit"; // part of Kitchen: not added
+        QVERIFY(RecordStrip(doc, SceneMode::Add, 0, page, {}).ok());
+        QCOMPARE(doc.locationPickList, QStringList({"ATTIC", "BARN", "CELLAR", "ROAD"}));
+        QCOMPARE(doc.setPickList, QStringList({"Kitchen"}));
+    }
+    void stepToScene_data()
+    {
+        // board: S scene, D divider, B banner
+        Columns<QString, int, int, int, bool, bool>("board", "from", "direction", "index", "found", "atLimit");
+        Row("next scene", "SSDS", 1, 1, 2, true, false);
+        Row("over a divider", "SSDS", 2, 1, 4, true, true);
+        Row("only dividers follow", "SSDSDD", 4, 1, 6, false, true);
+        Row("previous over a banner", "SBSS", 3, -1, 1, true, true);
+        Row("previous in the middle", "SSBS", 4, -1, 2, true, false);
+        Row("previous runs off", "DBSS", 3, -1, 1, false, true);
+    }
+    void stepToScene()
+    {
+        auto [board, from, direction, index, found] =
+            Fetch<QString, int, int, int, bool>("board", "from", "direction", "index", "found");
+        ScheduleDocument doc;
+        ScrollView view;
+        doc.setView(&view);
+        for (QChar c : board) {
+            if (c == u'S')
+                AddScene(doc, "1", "1");
+            else if (c == u'D')
+                AddDivider(doc);
+            else
+                AddBanner(doc, "b");
+        }
+        const SceneStep step = StepToScene(doc, from, direction);
+        QCOMPARE(step.index, index);
+        QCOMPARE(step.found, found);
+        QTEST(step.atLimit, "atLimit");
+        QCOMPARE(doc.SelStart, index);
+        QCOMPARE(doc.SelEnd, index);
+        if (found)
+            QCOMPARE(view.scrolledTo, index);
+    }
+    void memoLines_data()
+    {
+        Columns<QString, QStringList>("text", "lines");
+        Row("empty", "", QStringList());
+        Row("one", "a b", QStringList{"a b"});
+        Row("final break", "a\nb\n", QStringList{"a", "b"});
+        Row("inner empty line", "a\n\nb", QStringList{"a", "", "b"});
+        Row("carriage returns", "a\r\nb", QStringList{"a", "b"});
+    }
+    void memoLines()
+    {
+        auto [text, lines] = Fetch<QString, QStringList>("text", "lines");
+        QCOMPARE(MemoLines(text), lines);
+        // Through the stored comma text and back.
+        QCOMPARE(legacy::SplitCommaText(legacy::JoinCommaText(lines)), lines);
+    }
 };
-
-void TestSceneEditing::lengthToSpins_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<int>("whole");
-    QTest::addColumn<int>("eighths");
-    QTest::newRow("one eighth") << "0.125" << 56 << 0 << 1;
-    QTest::newRow("whole pages") << "2" << 56 << 2 << 0;
-    QTest::newRow("half") << "0.5" << 56 << 0 << 4;
-    QTest::newRow("eight eighths clamp to seven") << "1.95" << 56 << 1 << 7;
-    // 0.06 of a page is under half an eighth but more than three lines of 56.
-    QTest::newRow("a few lines show one eighth") << "2.06" << 56 << 2 << 1;
-    // 0.05 of a page is 2.8 lines of 56: under three lines, so no eighth.
-    QTest::newRow("under three lines") << "2.05" << 56 << 2 << 0;
-    QTest::newRow("over three lines of 100") << "1.04" << 100 << 1 << 1;
-    QTest::newRow("half an eighth rounds to even") << "0.0625" << 10 << 0 << 0;
-    QTest::newRow("not a number") << "abc" << 56 << 0 << 1;
-    QTest::newRow("comma decimal of old files") << "1,375" << 56 << 1 << 3;
-    QTest::newRow("more than the box holds") << "12.5" << 56 << 9 << 4;
-}
-
-void TestSceneEditing::lengthToSpins()
-{
-    QFETCH(QString, text);
-    QFETCH(int, lines);
-    int w = -1, e = -1;
-    LengthToSpins(text, lines, &w, &e);
-    QTEST(w, "whole");
-    QTEST(e, "eighths");
-}
-
-void TestSceneEditing::spinsToLength_data()
-{
-    QTest::addColumn<int>("whole");
-    QTest::addColumn<int>("eighths");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("eighth") << 0 << 1 << "0.125";
-    QTest::newRow("mixed") << 1 << 3 << "1.375";
-    QTest::newRow("whole") << 2 << 0 << "2";
-    QTest::newRow("half") << 0 << 4 << "0.5";
-}
-
-void TestSceneEditing::spinsToLength()
-{
-    QFETCH(int, whole);
-    QFETCH(int, eighths);
-    QTEST(SpinsToLength(whole, eighths), "text");
-}
-
-void TestSceneEditing::pageFromStrip()
-{
-    ScheduleDocument doc;
-    const int row = AddScene(doc, "12A", "1.375", "DSK", "I/E");
-    StripRecord &s = doc.strips[row];
-    s.set(StripField::Notes, legacy::JoinCommaText({"Rain, heavy", "Crane"}));
-    s.set(StripField::Location, "HARBOUR");
-    const ScenePage page = ScenePageFromStrip(s);
-    QCOMPARE(page.scene, "12A");
-    QCOMPARE(QList<int>({page.whole, page.eighths, page.time, page.intExt}), QList<int>({1, 3, 3, 2}));
-    QCOMPARE(page.location, "HARBOUR");
-    QCOMPARE(page.notes, QStringList({"Rain, heavy", "Crane"}));
-
-    // Codes the editor does not know show its first item.
-    s.set(StripField::DayNight, "X");
-    s.set(StripField::IntExt, "");
-    const ScenePage other = ScenePageFromStrip(s);
-    QCOMPARE(other.time, 0);
-    QCOMPARE(other.intExt, 0);
-}
-
-void TestSceneEditing::newSceneIsOneEighth()
-{
-    ScheduleDocument doc;
-    AddScene(doc, "1", "1");
-    doc.values.NextStripId = 7;
-    ScenePage page = BlankScenePage();
-    QCOMPARE(page.whole, 0);
-    QCOMPARE(page.eighths, 1);
-    page.scene = "2";
-    page.notes = {"one line", "two, with comma"};
-    const ResultOf<int> row = RecordStrip(doc, SceneMode::Add, 0, page, Flags(doc, {}));
-    QVERIFY(row.ok());
-    QCOMPARE(row.value(), 2);
-    const StripRecord &s = doc.strips[2];
-    QCOMPARE(s[StripField::PageLength], "0.125");
-    QCOMPARE(s.kind(), "1");
-    QCOMPARE(s[StripField::StripId], "8");
-    QCOMPARE(doc.values.NextStripId, 8);
-    QCOMPARE(s[StripField::IntExt], "I");
-    QCOMPARE(s[StripField::DayNight], "D");
-    QCOMPARE(legacy::SplitCommaText(s[StripField::Notes]), page.notes);
-    QCOMPARE(doc.SelElement, -1);
-    QVERIFY(doc.Modified);
-}
-
-void TestSceneEditing::zeroLengthIsRefused()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    AddScene(doc, "1", "1");
-    ScenePage page = BlankScenePage();
-    page.eighths = 0;
-    const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, {});
-    QVERIFY(!row.ok());
-    QCOMPARE(prompter.texts(),
-             QStringList{"Oops! Scene must be a minimum of 1/8ths of a page long. Please enter the correct number of "
-                         "pages / eights of a page."});
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
-    QCOMPARE(doc.strips.count(), 1);
-    QCOMPARE(doc.values.NextStripId, 1);
-    // A refused scene takes no undo step (the earlier edition took one).
-    QCOMPARE(doc.undo.UndoDepth, 0);
-    QVERIFY(!doc.Modified);
-}
-
-void TestSceneEditing::insertStartsAsCopyOfThePlace()
-{
-    ScheduleDocument doc;
-    FiveScenes(doc);
-    ScenePage page = BlankScenePage();
-    page.scene = "NEW";
-    page.location = "PIER";
-    const ResultOf<int> row = RecordStrip(doc, SceneMode::Insert, 3, page, Flags(doc, {}));
-    QVERIFY(row.ok());
-    QCOMPARE(row.value(), 3);
-    QCOMPARE(SceneNumbers(doc), "A B NEW C D E");
-    const StripRecord &s = doc.strips[3];
-    for (StripField kept : {StripField::Reserved8, StripField::Reserved12, StripField::LockDate,
-                            StripField::StripColour, StripField::DayCount})
-        QCOMPARE(s[kept], doc.strips[4][kept]);
-    QCOMPARE(s[StripField::DayCount], "count-C");
-    QCOMPARE(s[StripField::StripId], "6");
-    QCOMPARE(s[StripField::Location], "PIER");
-    QCOMPARE(doc.strips[4][StripField::StripId], "3");
-}
-
-void TestSceneEditing::editKeepsTheStripAndRebuildsAssignments()
-{
-    ScheduleDocument doc;
-    FiveScenes(doc);
-    for (int i = 1; i <= 8; ++i)
-        AddElement(doc, QStringLiteral("E%1").arg(i));
-    doc.strips[2].set(StripField::Assignments, "7,3,3");
-    ScenePage page = ScenePageFromStrip(doc.strips[2]);
-    page.synopsis = "Changed";
-    const ResultOf<int> row = RecordStrip(doc, SceneMode::Edit, 2, page, Flags(doc, {7, 1, 3}));
-    QVERIFY(row.ok());
-    QCOMPARE(row.value(), 2);
-    QCOMPARE(doc.strips.count(), 5);
-    QCOMPARE(doc.strips[2][StripField::Assignments], "1,3,7");
-    QCOMPARE(doc.strips[2][StripField::Synopsis], "Changed");
-    QCOMPARE(doc.strips[2][StripField::StripId], "2");
-    QCOMPARE(doc.strips[2][StripField::Reserved8], "r8-B");
-    QCOMPARE(doc.values.NextStripId, 5);
-}
-
-void TestSceneEditing::flagsOnlyInEditMode()
-{
-    ScheduleDocument doc;
-    AddScene(doc, "1", "1");
-    for (int i = 1; i <= 4; ++i)
-        AddElement(doc, QStringLiteral("E%1").arg(i));
-    doc.strips[1].set(StripField::Assignments, "4,2,9");
-    const AssignmentFlags edit = SceneAssignmentFlags(doc, SceneMode::Edit, 1);
-    QCOMPARE(edit, AssignmentFlags({false, false, true, false, true}));
-    QCOMPARE(SceneAssignmentFlags(doc, SceneMode::Add, 1), AssignmentFlags(5, false));
-    QCOMPARE(SceneAssignmentFlags(doc, SceneMode::Insert, 1), AssignmentFlags(5, false));
-}
-
-void TestSceneEditing::okLabelsAndScroll_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("strips");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<int>("scroll");
-    QTest::newRow("add, long board") << int(SceneMode::Add) << 9 << "add new scene" << 5;
-    QTest::newRow("add, short board") << int(SceneMode::Add) << 2 << "add new scene" << 3;
-    QTest::newRow("insert") << int(SceneMode::Insert) << 9 << "add new scene" << -1;
-    QTest::newRow("edit") << int(SceneMode::Edit) << 9 << "edit scene" << -1;
-}
-
-void TestSceneEditing::okLabelsAndScroll()
-{
-    QFETCH(int, mode);
-    QFETCH(int, strips);
-    QFETCH(QString, label);
-    QFETCH(int, scroll);
-    ScheduleDocument doc;
-    ScrollView view;
-    doc.setView(&view);
-    for (int i = 0; i < strips; ++i)
-        AddScene(doc, QString::number(i + 1), "1");
-    const ResultOf<int> row = SaveScene(doc, mode, 1, BlankScenePage(), {});
-    QVERIFY(row.ok());
-    QCOMPARE(doc.undo.levels[1].label, label);
-    QCOMPARE(view.scrolledTo, scroll);
-    QCOMPARE(QList<int>({ScrollPositionAfterAppend(10), ScrollPositionAfterAppend(6), ScrollPositionAfterAppend(5)}),
-             QList<int>({5, 1, 5}));
-}
-
-void TestSceneEditing::fullTableIsRefused()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    for (int i = 0; i < MaxStrips; ++i)
-        AddScene(doc, QString::number(i), "1");
-    const int next = doc.values.NextStripId;
-    QVERIFY(!RecordStrip(doc, SceneMode::Add, 0, BlankScenePage(), {}).ok());
-    QVERIFY(!RecordStrip(doc, SceneMode::Insert, 5, BlankScenePage(), {}).ok());
-    QCOMPARE(doc.strips.count(), MaxStrips);
-    QCOMPARE(doc.values.NextStripId, next);
-    QCOMPARE(prompter.prompts.size(), 2);
-}
-
-void TestSceneEditing::rowFoundAfterRestDaysMove()
-{
-    // The example's rest day rule puts rest days after its last divider as soon as a
-    // scene starts a new day there, which moves the appended strip.
-    ScheduleDocument doc;
-    QVERIFY(OpenDocument(doc, QStringLiteral(TB_SOURCE_DIR) + "/examples/harbour-lights.tbf").ok());
-    const int before = doc.strips.count();
-    ScenePage page = BlankScenePage();
-    page.scene = "61";
-    const ResultOf<int> row = SaveScene(doc, SceneMode::Add, 0, page, {});
-    QVERIFY(row.ok());
-    QVERIFY(doc.strips.count() > before + 1);
-    QCOMPARE(doc.strips[row.value()][StripField::SceneNumber], "61");
-    QCOMPARE(doc.strips[row.value()][StripField::StripId], QString::number(doc.values.NextStripId));
-}
-
-void TestSceneEditing::pickListSubstringRule()
-{
-    QStringList list;
-    QVERIFY(AddToPickList(list, "BARN"));
-    QVERIFY(!AddToPickList(list, "BAR"));
-    QVERIFY(!AddToPickList(list, ""));
-    QVERIFY(!AddToPickList(list, "BARN"));
-    QVERIFY(AddToPickList(list, "ATTIC"));
-    QVERIFY(AddToPickList(list, "barn")); // the test counts case
-    // A value longer than a listed one is its own item.
-    QVERIFY(AddToPickList(list, "BARNYARD"));
-    QCOMPARE(list, QStringList({"ATTIC", "BARN", "barn", "BARNYARD"}));
-}
-
-void TestSceneEditing::pickListsFromStrips()
-{
-    ScheduleDocument doc;
-    for (const char *loc : {"BARN", "BAR", "", "ATTIC"}) {
-        const int row = AddScene(doc, "1", "1");
-        doc.strips[row].set(StripField::Location, loc);
-    }
-    doc.strips[1].set(StripField::SetName, "Kitchen");
-    const int banner = AddBanner(doc, "Travel");
-    doc.strips[banner].set(StripField::Location, "ROAD"); // every strip counts
-    doc.locationPickList = {"stale"};
-    RebuildPickLists(doc);
-    QCOMPARE(doc.locationPickList, QStringList({"ATTIC", "BARN", "ROAD"}));
-    QCOMPARE(doc.setPickList, QStringList({"Kitchen"}));
-
-    // Saving a scene adds its values.
-    ScenePage page = BlankScenePage();
-    page.location = "CELLAR";
-    page.set = "Kit"; // part of Kitchen: not added
-    QVERIFY(RecordStrip(doc, SceneMode::Add, 0, page, {}).ok());
-    QCOMPARE(doc.locationPickList, QStringList({"ATTIC", "BARN", "CELLAR", "ROAD"}));
-    QCOMPARE(doc.setPickList, QStringList({"Kitchen"}));
-}
-
-void TestSceneEditing::stepToScene_data()
-{
-    QTest::addColumn<QString>("board"); // S scene, D divider, B banner
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("found");
-    QTest::addColumn<bool>("atLimit");
-    QTest::newRow("next scene") << "SSDS" << 1 << 1 << 2 << true << false;
-    QTest::newRow("over a divider") << "SSDS" << 2 << 1 << 4 << true << true;
-    QTest::newRow("only dividers follow") << "SSDSDD" << 4 << 1 << 6 << false << true;
-    QTest::newRow("previous over a banner") << "SBSS" << 3 << -1 << 1 << true << true;
-    QTest::newRow("previous in the middle") << "SSBS" << 4 << -1 << 2 << true << false;
-    QTest::newRow("previous runs off") << "DBSS" << 3 << -1 << 1 << false << true;
-}
-
-void TestSceneEditing::stepToScene()
-{
-    QFETCH(QString, board);
-    QFETCH(int, from);
-    QFETCH(int, direction);
-    QFETCH(int, index);
-    QFETCH(bool, found);
-    ScheduleDocument doc;
-    ScrollView view;
-    doc.setView(&view);
-    for (QChar c : board) {
-        if (c == u'S')
-            AddScene(doc, "1", "1");
-        else if (c == u'D')
-            AddDivider(doc);
-        else
-            AddBanner(doc, "b");
-    }
-    const SceneStep step = StepToScene(doc, from, direction);
-    QCOMPARE(step.index, index);
-    QCOMPARE(step.found, found);
-    QTEST(step.atLimit, "atLimit");
-    QCOMPARE(doc.SelStart, index);
-    QCOMPARE(doc.SelEnd, index);
-    if (found)
-        QCOMPARE(view.scrolledTo, index);
-}
-
-void TestSceneEditing::memoLines_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("empty") << "" << QStringList();
-    QTest::newRow("one") << "a b" << QStringList{"a b"};
-    QTest::newRow("final break") << "a\nb\n" << QStringList{"a", "b"};
-    QTest::newRow("inner empty line") << "a\n\nb" << QStringList{"a", "", "b"};
-    QTest::newRow("carriage returns") << "a\r\nb" << QStringList{"a", "b"};
-}
-
-void TestSceneEditing::memoLines()
-{
-    QFETCH(QString, text);
-    QFETCH(QStringList, lines);
-    QCOMPARE(MemoLines(text), lines);
-    // Through the stored comma text and back.
-    QCOMPARE(legacy::SplitCommaText(legacy::JoinCommaText(lines)), lines);
-}
 
 TB_TEST_GUILESS_MAIN(TestSceneEditing)
 #include "tst_sceneediting.moc"

@@ -1,9 +1,6 @@
 #include "TestSupport.h"
 
 #include "breakdown/StripOrder.h"
-#include "document/DocumentOperations.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -102,23 +99,17 @@ private Q_SLOTS:
 
     void sortByColumn_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("sorted");
-        QTest::newRow("scene numbers are numbers") << SortColumn::Scene << QStringList{"10", "2", "1"} << "1 2 10";
-        QTest::newRow("12A sorts with 12, board order kept")
-            << SortColumn::Scene << QStringList{"12A", "3", "12", "A"} << "A 3 12A 12";
-        QTest::newRow("locale order of text")
-            << SortColumn::Location << QStringList{"Zoo", "bar", "Apple"} << "Apple bar Zoo";
-        QTest::newRow("case counts") << SortColumn::Location << QStringList{"Bar", "bar"} << "bar Bar";
-        QTest::newRow("equal text keeps order") << SortColumn::Synopsis << QStringList{"x", "", "x"} << " x x";
+        Columns<int, QStringList, QString>("column", "values", "sorted");
+        Row("scene numbers are numbers", SortColumn::Scene, QStringList{"10", "2", "1"}, "1 2 10");
+        Row("12A sorts with 12, board order kept", SortColumn::Scene, QStringList{"12A", "3", "12", "A"}, "A 3 12A 12");
+        Row("locale order of text", SortColumn::Location, QStringList{"Zoo", "bar", "Apple"}, "Apple bar Zoo");
+        Row("case counts", SortColumn::Location, QStringList{"Bar", "bar"}, "bar Bar");
+        Row("equal text keeps order", SortColumn::Synopsis, QStringList{"x", "", "x"}, " x x");
     }
 
     void sortByColumn()
     {
-        QFETCH(int, column);
-        QFETCH(QStringList, values);
-        QFETCH(QString, sorted);
+        auto [column, values] = Fetch<int, QStringList>("column", "values");
         QList<SortRow> rows;
         for (int i = 0; i < values.size(); ++i) {
             SortRow row(SortColumn::Count);
@@ -127,7 +118,7 @@ private Q_SLOTS:
             rows.append(row);
         }
         SortRowsByColumn(rows, column);
-        QCOMPARE(Column(rows, column), sorted);
+        QTEST(Column(rows, column), "sorted");
     }
 
     void threeKeysKeepBoardOrderInTies()
@@ -151,8 +142,7 @@ private Q_SLOTS:
     void sortWithoutDividersAsksNothing()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "1", "PIER");
         Scene(doc, "2", "BARN");
         SortStrips(doc, SortColumn::Location, SortColumn::None, SortColumn::None);
@@ -164,16 +154,15 @@ private Q_SLOTS:
     void sortDeletesDividersWhateverTheAnswer_data()
     {
         QTest::addColumn<Answer>("answer");
-        QTest::newRow("Yes") << Answer::Yes;
-        QTest::newRow("Abort") << Answer::Abort;
+        Row("Yes", Answer::Yes);
+        Row("Abort", Answer::Abort);
     }
 
     void sortDeletesDividersWhateverTheAnswer()
     {
         QFETCH(Answer, answer);
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "1", "PIER");
         AddDivider(doc);
         Scene(doc, "2", "BARN");
@@ -193,8 +182,7 @@ private Q_SLOTS:
     void conformEntries()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         for (int i = 1; i <= 4; ++i)
             doc.strips[Scene(doc, QStringLiteral("S%1").arg(i), "LOC")].set(StripField::Synopsis, QString::number(i));
         AddDivider(doc);
@@ -287,8 +275,7 @@ private Q_SLOTS:
     void renumber()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Scene(doc, "a", "A");
         const int divider = AddDivider(doc);
         doc.strips[divider].set(StripField::StripId, "77");

@@ -2,10 +2,7 @@
 
 #include "document/AssignmentList.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
-
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -17,48 +14,31 @@ class TestDocumentOperations : public QObject
 private Q_SLOTS:
     void assignments_data()
     {
-        QTest::addColumn<QString>("op"); // add, is or remove
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QList<int>>("elements");
-        QTest::addColumn<QString>("expected"); // the list after, or whether assigned
-        QTest::newRow("add to blank") << "add"
-                                      << "" << QList<int>{7} << "7";
-        QTest::newRow("add appends in order") << "add"
-                                              << "3,12" << QList<int>{7} << "3,12,7";
+        // op: add, is or remove
+        // expected: the list after, or whether assigned
+        Columns<QString, QString, QList<int>, QString>("op", "list", "elements", "expected");
+        Row("add to blank", "add", "", QList<int>{7}, "7");
+        Row("add appends in order", "add", "3,12", QList<int>{7}, "3,12,7");
         // Only three-digit numbers are found by the padded duplicate test.
-        QTest::newRow("add small twice duplicates") << "add"
-                                                    << "3" << QList<int>{7, 7} << "3,7,7";
-        QTest::newRow("add three digits twice once") << "add"
-                                                     << "3" << QList<int>{120, 120} << "3,120";
-        QTest::newRow("add padded match inside longer") << "add"
-                                                        << "1120" << QList<int>{120} << "1120";
-        QTest::newRow("is in blank") << "is"
-                                     << "" << QList<int>{1} << "false";
-        QTest::newRow("is whole numbers not digits") << "is"
-                                                     << "3,12" << QList<int>{1} << "false";
-        QTest::newRow("is found last") << "is"
-                                       << "3,12" << QList<int>{12} << "true";
-        QTest::newRow("is quoted item") << "is"
-                                        << "\"5\",6" << QList<int>{5} << "true";
-        QTest::newRow("remove every entry") << "remove"
-                                            << "7,3,7" << QList<int>{7} << "3";
-        QTest::newRow("remove neighbours of the same number") << "remove"
-                                                              << "7,7,7" << QList<int>{7} << "";
-        QTest::newRow("remove absent") << "remove"
-                                       << "1,2" << QList<int>{9} << "1,2";
-        QTest::newRow("remove from blank") << "remove"
-                                           << "" << QList<int>{9} << "";
+        Row("add small twice duplicates", "add", "3", QList<int>{7, 7}, "3,7,7");
+        Row("add three digits twice once", "add", "3", QList<int>{120, 120}, "3,120");
+        Row("add padded match inside longer", "add", "1120", QList<int>{120}, "1120");
+        Row("is in blank", "is", "", QList<int>{1}, "false");
+        Row("is whole numbers not digits", "is", "3,12", QList<int>{1}, "false");
+        Row("is found last", "is", "3,12", QList<int>{12}, "true");
+        Row("is quoted item", "is", "\"5\",6", QList<int>{5}, "true");
+        Row("remove every entry", "remove", "7,3,7", QList<int>{7}, "3");
+        Row("remove neighbours of the same number", "remove", "7,7,7", QList<int>{7}, "");
+        Row("remove absent", "remove", "1,2", QList<int>{9}, "1,2");
+        Row("remove from blank", "remove", "", QList<int>{9}, "");
     }
 
     void assignments()
     {
-        QFETCH(QString, op);
-        QFETCH(QString, list);
-        QFETCH(QList<int>, elements);
-        QFETCH(QString, expected);
+        auto [op, list, elements, expected] =
+            Fetch<QString, QString, QList<int>, QString>("op", "list", "elements", "expected");
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const int row = AddScene(doc, "1", "1");
         doc.strips[row].set(StripField::Assignments, list);
         for (int element : elements) {
@@ -77,8 +57,7 @@ private Q_SLOTS:
     void badAssignmentItems()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         const int row = AddScene(doc, "1", "1");
         doc.strips[row].set(StripField::Assignments, "3,x,7");
 
@@ -99,30 +78,26 @@ private Q_SLOTS:
 
     void readAssignmentList_data()
     {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<bool>("atCommas"); // the board's reading
-        QTest::addColumn<bool>("skip");     // unreadable items skipped, not ending the list
-        QTest::addColumn<QList<int>>("numbers");
-        QTest::addColumn<bool>("unreadable");
+        // atCommas: the board's reading
+        // skip: unreadable items skipped, not ending the list
+        Columns<QString, bool, bool, QList<int>, bool>("list", "atCommas", "skip", "numbers", "unreadable");
         using N = QList<int>;
-        QTest::newRow("blank") << "" << false << false << N{} << false;
-        QTest::newRow("ends at a bad item") << "3,x,7" << false << false << N{3} << true;
-        QTest::newRow("skips a bad item") << "3,x,7" << false << true << N{3, 7} << true;
-        QTest::newRow("empty item") << "3,,7" << false << false << N{3} << true;
-        QTest::newRow("trailing comma") << "7," << false << false << N{7} << true;
-        QTest::newRow("blank separates") << "3 7" << false << false << N{3, 7} << false;
-        QTest::newRow("quoted item") << "\"5\",6" << false << false << N{5, 6} << false;
-        QTest::newRow("board: blank inside") << "3 7,8" << true << true << N{8} << true;
-        QTest::newRow("board: leading blank") << " 7,8" << true << true << N{7, 8} << false;
-        QTest::newRow("board: quoted item") << "\"5\",6" << true << true << N{6} << true;
-        QTest::newRow("duplicates kept") << "7,7" << true << true << N{7, 7} << false;
+        Row("blank", "", false, false, N{}, false);
+        Row("ends at a bad item", "3,x,7", false, false, N{3}, true);
+        Row("skips a bad item", "3,x,7", false, true, N{3, 7}, true);
+        Row("empty item", "3,,7", false, false, N{3}, true);
+        Row("trailing comma", "7,", false, false, N{7}, true);
+        Row("blank separates", "3 7", false, false, N{3, 7}, false);
+        Row("quoted item", "\"5\",6", false, false, N{5, 6}, false);
+        Row("board: blank inside", "3 7,8", true, true, N{8}, true);
+        Row("board: leading blank", " 7,8", true, true, N{7, 8}, false);
+        Row("board: quoted item", "\"5\",6", true, true, N{6}, true);
+        Row("duplicates kept", "7,7", true, true, N{7, 7}, false);
     }
 
     void readAssignmentList()
     {
-        QFETCH(QString, list);
-        QFETCH(bool, atCommas);
-        QFETCH(bool, skip);
+        auto [list, atCommas, skip] = Fetch<QString, bool, bool>("list", "atCommas", "skip");
         const AssignmentRead read =
             ReadAssignmentList(list, skip ? UnreadableItem::Skipped : UnreadableItem::EndsList,
                                atCommas ? AssignmentItems::AtCommas : AssignmentItems::CommaText);
@@ -132,33 +107,29 @@ private Q_SLOTS:
 
     void formatPageLength_data()
     {
-        QTest::addColumn<double>("pages");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("zero") << 0.0 << "";
-        QTest::newRow("half is 4/8") << 0.5 << "4/8";
-        QTest::newRow("whole and eighths") << 1.375 << "1 3/8";
-        QTest::newRow("whole") << 2.0 << "2";
-        QTest::newRow("almost one") << 0.9999 << "1";
-        QTest::newRow("half an eighth rounds to even 0") << 0.0625 << "";
-        QTest::newRow("one and a half eighths rounds to 2") << 0.1875 << "2/8";
-        QTest::newRow("many pages") << 123.875 << "123 7/8";
-        QTest::newRow("7 and a half eighths carries") << 3.9375 << "4";
+        Columns<double, QString>("pages", "expected");
+        Row("zero", 0.0, "");
+        Row("half is 4/8", 0.5, "4/8");
+        Row("whole and eighths", 1.375, "1 3/8");
+        Row("whole", 2.0, "2");
+        Row("almost one", 0.9999, "1");
+        Row("half an eighth rounds to even 0", 0.0625, "");
+        Row("one and a half eighths rounds to 2", 0.1875, "2/8");
+        Row("many pages", 123.875, "123 7/8");
+        Row("7 and a half eighths carries", 3.9375, "4");
     }
 
     void formatPageLength()
     {
         QFETCH(double, pages);
-        QFETCH(QString, expected);
-        QCOMPARE(FormatPageLength(pages), expected);
+        QTEST(FormatPageLength(pages), "expected");
     }
 
     void newDocumentState()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        RecordingView view;
-        doc.setStatusSink(&status);
-        doc.setView(&view);
+        RecordingStatus status{doc};
+        RecordingView view{doc};
 
         AddScene(doc, "1", "1");
         AddElement(doc, "ANNA");
@@ -245,8 +216,7 @@ private Q_SLOTS:
     void setModifiedRecalculates()
     {
         ScheduleDocument doc;
-        RecordingStatus status;
-        doc.setStatusSink(&status);
+        RecordingStatus status{doc};
         AddScene(doc, "1", "1.5");
         AddDivider(doc);
         doc.SelStart = 1;

@@ -6,14 +6,11 @@
 #include "breakdown/SceneEditing.h"
 #include "breakdown/StripOrder.h"
 #include "document/Clipboard.h"
-#include "document/DocumentOperations.h"
 #include "scheduling/Banners.h"
 #include "scheduling/Calendar.h"
 #include "scheduling/DayDividers.h"
 #include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
-
-#include <QTest>
 
 #include <functional>
 
@@ -89,9 +86,9 @@ private Q_SLOTS:
     // undo), derives the days once and tells the views once.
     void oneSnapshotOneRecalculationOneNotification_data()
     {
-        QTest::addColumn<Operation>("operation");
-        QTest::addColumn<QString>("label");  // empty: no snapshot
-        QTest::addColumn<int>("firstStrip"); // the scroll asked of the board, 0 none
+        // label: empty: no snapshot
+        // firstStrip: the scroll asked of the board, 0 none
+        Columns<Operation, QString, int>("operation", "label", "firstStrip");
 
         const BannerContent banner{QStringLiteral("Move"), {QStringLiteral("clRed"), QStringLiteral("clWhite")}, 0};
         Row("add scene", Operation([](auto &d) { (void)SaveScene(d, SceneMode::Add, 0, BlankScenePage(), {}); }),
@@ -163,8 +160,7 @@ private Q_SLOTS:
 
     void oneSnapshotOneRecalculationOneNotification()
     {
-        QFETCH(Operation, operation);
-        QFETCH(QString, label);
+        auto [operation, label] = Fetch<Operation, QString>("operation", "label");
         ScheduleDocument doc;
         Board(doc);
         doc.undo.levels[1].label = QStringLiteral("before");

@@ -5,7 +5,6 @@
 
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 
@@ -147,46 +146,43 @@ private slots:
     // The cases that used to change on the next open, and the earlier edition's files.
     void decoding_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("windows-1252 as the earlier edition wrote")
-            << QByteArray("caf\xE9 \x93q\x94 \x80") << "café “q” €";
-        QTest::newRow("utf-8") << QByteArray("caf\xC3\xA9") << "café";
-        QTest::newRow("utf-8 with a mark") << QByteArray("\xEF\xBB\xBF"
-                                                         "caf\xC3\xA9")
-                                           << "café";
-        QTest::newRow("utf-8 mark, stray byte") << QByteArray("\xEF\xBB\xBF[Files]\r\nx=\xE9") << "[Files]\r\nx=\uFFFD";
-        QTest::newRow("utf-16 le") << QByteArray("\xFF\xFE"
-                                                 "I\0N\0T\0.\0 \0\xE9\0",
-                                                 14)
-                                   << "INT. é";
-        QTest::newRow("utf-16 be") << QByteArray("\xFE\xFF\0I\0N\0T\x65\xE5", 10) << "INT日";
-        QTest::newRow("utf-16, odd byte left out") << QByteArray("\xFF\xFEI\0N", 5) << "I";
+        Columns<QByteArray, QString>("bytes", "text");
+        Row("windows-1252 as the earlier edition wrote", QByteArray("caf\xE9 \x93q\x94 \x80"), "café “q” €");
+        Row("utf-8", QByteArray("caf\xC3\xA9"), "café");
+        Row("utf-8 with a mark",
+            QByteArray("\xEF\xBB\xBF"
+                       "caf\xC3\xA9"),
+            "café");
+        Row("utf-8 mark, stray byte", QByteArray("\xEF\xBB\xBF[Files]\r\nx=\xE9"), "[Files]\r\nx=\uFFFD");
+        Row("utf-16 le",
+            QByteArray("\xFF\xFE"
+                       "I\0N\0T\0.\0 \0\xE9\0",
+                       14),
+            "INT. é");
+        Row("utf-16 be", QByteArray("\xFE\xFF\0I\0N\0T\x65\xE5", 10), "INT日");
+        Row("utf-16, odd byte left out", QByteArray("\xFF\xFEI\0N", 5), "I");
     }
     void decoding()
     {
         QFETCH(QByteArray, bytes);
-        QFETCH(QString, text);
-        QCOMPARE(legacy::DecodeFileText(bytes), text);
+        QTEST(legacy::DecodeFileText(bytes), "text");
     }
 
     void encoding_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("fits windows-1252") << QStringLiteral("café “q”") << QByteArray("caf\xE9 \x93q\x94");
-        QTest::newRow("windows-1252 bytes that read as utf-8") << "CAFÉ’S" << QByteArray("CAF\xC3\x89\xE2\x80\x99S");
-        QTest::newRow("mojibake-looking text") << "Ã© and Â£5"
-                                               << QByteArray("\xC3\x83\xC2\xA9 and \xC3\x82\xC2\xA3"
-                                                             "5");
-        QTest::newRow("beyond windows-1252") << "日本" << QByteArray("\xE6\x97\xA5\xE6\x9C\xAC");
-        QTest::newRow("looks like a mark") << "ÿþx" << QByteArray("\xC3\xBF\xC3\xBEx");
-        QTest::newRow("begins with a mark") << QStringLiteral("\uFEFFx") << QByteArray("\xEF\xBB\xBF\xEF\xBB\xBFx");
+        Columns<QString, QByteArray>("text", "bytes");
+        Row("fits windows-1252", QStringLiteral("café “q”"), QByteArray("caf\xE9 \x93q\x94"));
+        Row("windows-1252 bytes that read as utf-8", "CAFÉ’S", QByteArray("CAF\xC3\x89\xE2\x80\x99S"));
+        Row("mojibake-looking text", "Ã© and Â£5",
+            QByteArray("\xC3\x83\xC2\xA9 and \xC3\x82\xC2\xA3"
+                       "5"));
+        Row("beyond windows-1252", "日本", QByteArray("\xE6\x97\xA5\xE6\x9C\xAC"));
+        Row("looks like a mark", "ÿþx", QByteArray("\xC3\xBF\xC3\xBEx"));
+        Row("begins with a mark", QStringLiteral("\uFEFFx"), QByteArray("\xEF\xBB\xBF\xEF\xBB\xBFx"));
     }
     void encoding()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, bytes);
+        auto [text, bytes] = Fetch<QString, QByteArray>("text", "bytes");
         QCOMPARE(legacy::EncodeFileText(text), bytes);
         QCOMPARE(legacy::DecodeFileText(bytes), text);
     }

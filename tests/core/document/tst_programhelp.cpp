@@ -4,9 +4,10 @@
 
 #include "document/ProgramHelp.h"
 
-#include <QTest>
-
 using namespace tb;
+using tb::test::Columns;
+using tb::test::Fetch;
+using tb::test::Row;
 
 namespace {
 
@@ -47,23 +48,16 @@ private Q_SLOTS:
 
     void manPageEscapes_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("roff");
-        QTest::newRow("options") << "use --all"
-                                 << "use \\-\\-all";
-        QTest::newRow("backslash") << "C:\\temp"
-                                   << "C:\\etemp";
-        QTest::newRow("leading dot") << ".tbf files"
-                                     << "\\&.tbf files";
-        QTest::newRow("leading quote") << "'quoted'"
-                                       << "\\&'quoted'";
-        QTest::newRow("second line") << "one\n.two"
-                                     << "one\n.br\n\\&.two";
+        Columns<QString, QString>("text", "roff");
+        Row("options", "use --all", "use \\-\\-all");
+        Row("backslash", "C:\\temp", "C:\\etemp");
+        Row("leading dot", ".tbf files", "\\&.tbf files");
+        Row("leading quote", "'quoted'", "\\&'quoted'");
+        Row("second line", "one\n.two", "one\n.br\n\\&.two");
     }
     void manPageEscapes()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, roff);
+        auto [text, roff] = Fetch<QString, QString>("text", "roff");
         qputenv("SOURCE_DATE_EPOCH", "1800000000");
         const QString page = FormatManPage(samplePage("run", text), "1.2");
         QVERIFY(page.startsWith(".TH TOOL 1 \"2027-01-15\" \"Torvanbridge 1.2\" \"User Commands\"\n"

@@ -6,15 +6,12 @@
 #include "TestSupport.h"
 
 #include "document/AtomicWrite.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
 #include "document/ShellCommands.h"
 #include "reports/CallSheetFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -100,11 +97,7 @@ private slots:
 
     void inProcess_data()
     {
-        QTest::addColumn<QString>("writer");
-        QTest::addColumn<int>("scenes");
-        QTest::addColumn<QByteArray>("op");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<qint64>("after");
+        Columns<QString, int, QByteArray, int, qint64>("writer", "scenes", "op", "error", "after");
         for (const auto &[faultName, fault] : Faults) {
             const QByteArray name(faultName);
             for (const char *writer : {"schedule", "autosave", "settings", "call sheet"}) {
@@ -119,15 +112,11 @@ private slots:
     }
     void inProcess()
     {
-        QFETCH(QString, writer);
-        QFETCH(int, scenes);
-        QFETCH(QByteArray, op);
-        QFETCH(int, error);
-        QFETCH(qint64, after);
+        auto [writer, scenes, op, error, after] =
+            Fetch<QString, int, QByteArray, int, qint64>("writer", "scenes", "op", "error", "after");
 
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         fill(doc, scenes, scenes / 2);
         SetModified(doc);
         QString target;
@@ -173,8 +162,7 @@ private slots:
     void withoutFault()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         fill(doc, 900, 450);
         QString target;
         const QString folder = folderWithEarlierFile(QStringLiteral("sched.tbf"), &target);
@@ -187,11 +175,7 @@ private slots:
 
     void commandLine_data()
     {
-        QTest::addColumn<QStringList>("command");
-        QTest::addColumn<QString>("out");
-        QTest::addColumn<QByteArray>("op");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<qint64>("after");
+        Columns<QStringList, QString, QByteArray, int, qint64>("command", "out", "op", "error", "after");
         const QString example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
         const QList<std::tuple<const char *, QStringList, const char *>> commands = {
             {"resave", {"resave", example, "-o"}, "out.tbf"},
@@ -213,11 +197,8 @@ private slots:
     }
     void commandLine()
     {
-        QFETCH(QStringList, command);
-        QFETCH(QString, out);
-        QFETCH(QByteArray, op);
-        QFETCH(int, error);
-        QFETCH(qint64, after);
+        auto [command, out, op, error, after] =
+            Fetch<QStringList, QString, QByteArray, int, qint64>("command", "out", "op", "error", "after");
 
         static QString large;
         if (large.isEmpty()) {

@@ -5,30 +5,14 @@
 #include "document/Settings.h"
 #include "document/StandardColours.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
-
 using namespace tb;
 using namespace tb::test;
 
 namespace {
 
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 QString readText(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return legacy::DecodeFileText(file.readAll());
+    return legacy::DecodeFileText(ReadFileBytes(path));
 }
 
 // Lines joined by "|" become the file's CR LF lines.
@@ -133,10 +117,11 @@ private slots:
         // Written by the earlier edition: Windows-1252, CR LF, key case as it pleased,
         // blanks around "=", system colour names, a comma as the decimal separator.
         const QString path = TempPath("earlier/Torvanbridge.ini");
-        writeBytes(path, crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
-                              "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
-                              "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
-                              "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|"));
+        QVERIFY(WriteBytes(path,
+                           crlf("[Files]|autosavetime=10||[Strips]|CB1=clSkyBlue|CT1=clNavy|CB4=$0080FFFF|CB7=clBlack|"
+                                "CT7=clWhite|CB9=clBtnFace|DescLine1=7|DescLine2=12|Font = Times New Roman ||[GENERAL]|"
+                                "ScenePopups=0|WeatherURL=http://m\xe9t\xe9o.example/|ShowShootingDays=0||[Printing]|"
+                                "PerfMargin=5,5|PerfWidth=10||[PBDialog]|AutoRestClick=1|")));
         Settings s(path);
         QVERIFY(s.LoadSettings().isEmpty());
         QCOMPARE(s.autosaveMinutes, 10);
@@ -161,9 +146,7 @@ private slots:
         // Writing it back changes the keys in place, in their own spelling and section,
         // keeps the system colour name and the other sections, and keeps Windows-1252.
         QVERIFY(s.WritePreferences().ok());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = ReadFileBytes(path);
         QVERIFY(bytes.contains("[Files]\r\nautosavetime=10\r\n\r\n[Strips]\r\n"));
         QVERIFY(bytes.contains("[GENERAL]\r\nScenePopups=0\r\nWeatherURL=http://m\xe9t\xe9o.example/\r\n"));
         QVERIFY(bytes.contains("CB9=clBtnFace\r\n"));
@@ -176,34 +159,32 @@ private slots:
 
     void booleanForms_data()
     {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<bool>("expected");
+        Columns<QByteArray, bool>("value", "expected");
         // A boolean is an integer, true when not 0; text that is no integer gives the
         // default (true for ScenePopups).
-        QTest::newRow("1") << QByteArray("1") << true;
-        QTest::newRow("0") << QByteArray("0") << false;
-        QTest::newRow("2") << QByteArray("2") << true;
-        QTest::newRow("-1") << QByteArray("-1") << true;
-        QTest::newRow(" 0 ") << QByteArray(" 0 ") << false;
-        QTest::newRow("false") << QByteArray("false") << true;
-        QTest::newRow("empty") << QByteArray("") << true;
+        Row("1", QByteArray("1"), true);
+        Row("0", QByteArray("0"), false);
+        Row("2", QByteArray("2"), true);
+        Row("-1", QByteArray("-1"), true);
+        Row(" 0 ", QByteArray(" 0 "), false);
+        Row("false", QByteArray("false"), true);
+        Row("empty", QByteArray(""), true);
     }
 
     void booleanForms()
     {
         QFETCH(QByteArray, value);
-        QFETCH(bool, expected);
         const QString path = TempPath("bool/Torvanbridge.ini");
-        writeBytes(path, "[General]\r\nScenePopups=" + value + "\r\n");
+        QVERIFY(WriteBytes(path, "[General]\r\nScenePopups=" + value + "\r\n"));
         Settings s(path);
         s.LoadSettings();
-        QCOMPARE(s.scenePopups, expected);
+        QTEST(s.scenePopups, "expected");
     }
 
     void unreadableValuesKeepDefaults()
     {
         const QString path = TempPath("bad/Torvanbridge.ini");
-        writeBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|"));
+        QVERIFY(WriteBytes(path, crlf("[Strips]|CB2=clPurpleHaze|CT5=|CB6=clRed|[Printing]|PerfWidth=wide|")));
         Settings s(path);
         const QStringList problems = s.LoadSettings();
         QCOMPARE(problems.size(), 3);
@@ -219,7 +200,8 @@ private slots:
     void writeKeepsOtherLines()
     {
         const QString path = TempPath("keep/x.ini");
-        writeBytes(path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|"));
+        QVERIFY(WriteBytes(
+            path, crlf("; comment|[Other]|Key=\"quoted value\"||[Files]|Autosavetime=3|Extra=1||[Last]|A=b|")));
         IniFile ini(path);
         QVERIFY(ini.load());
         QCOMPARE(ini.readString("other", "key"), "quoted value");
@@ -275,21 +257,19 @@ private slots:
 
     void descriptionLineItems_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("stored");
-        QTest::newRow("Location") << 0 << 12;
-        QTest::newRow("Synopsis") << 1 << 7;
-        QTest::newRow("Sequence") << 2 << 11;
-        QTest::newRow("Scene number(s)") << 3 << 2;
-        QTest::newRow("Notes") << 4 << 19;
-        QTest::newRow("nothing chosen") << -1 << 99; // unchanged
-        QTest::newRow("past the list") << 5 << 99;
+        Columns<int, int>("index", "stored");
+        Row("Location", 0, 12);
+        Row("Synopsis", 1, 7);
+        Row("Sequence", 2, 11);
+        Row("Scene number(s)", 3, 2);
+        Row("Notes", 4, 19);
+        Row("nothing chosen", -1, 99); // unchanged
+        Row("past the list", 5, 99);
     }
 
     void descriptionLineItems()
     {
-        QFETCH(int, index);
-        QFETCH(int, stored);
+        auto [index, stored] = Fetch<int, int>("index", "stored");
         QCOMPARE(DescLineItems().size(), 5);
         if (index >= 0 && index < 5)
             QCOMPARE(DescLineItems().at(index), QString::fromLatin1(QTest::currentDataTag()));
@@ -309,17 +289,16 @@ private slots:
 
     void warningAnswers_data()
     {
-        QTest::addColumn<int>("unticked"); // which "Warn me about" box is cleared
-        QTest::addColumn<QString>("line");
-        QTest::newRow("scene change") << 0 << "[StripDlg]\r\nSceneChange=1\r\n";
-        QTest::newRow("auto-rest click") << 1 << "[PBDialog]\r\nAutoRestClick=1\r\n";
-        QTest::newRow("call sheet rest") << 2 << "[CallSheetDlg]\r\nCallSheetRest=1\r\n";
+        // unticked: which "Warn me about" box is cleared
+        Columns<int, QString>("unticked", "line");
+        Row("scene change", 0, "[StripDlg]\r\nSceneChange=1\r\n");
+        Row("auto-rest click", 1, "[PBDialog]\r\nAutoRestClick=1\r\n");
+        Row("call sheet rest", 2, "[CallSheetDlg]\r\nCallSheetRest=1\r\n");
     }
 
     void warningAnswers()
     {
-        QFETCH(int, unticked);
-        QFETCH(QString, line);
+        auto [unticked, line] = Fetch<int, QString>("unticked", "line");
         const QString path = TempPath("warn/Torvanbridge.ini");
         QFile::remove(path);
         Settings s(path);
@@ -350,8 +329,7 @@ private slots:
         QVERIFY(QDir().mkpath(path));
         Settings s(path);
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         PreferencesInput in = PreferencesFromSettings(s);
         in.autosaveMinutes = 9;
         QVERIFY(!ApplyPreferences(doc, s, in).ok());

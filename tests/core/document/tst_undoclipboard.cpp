@@ -2,11 +2,9 @@
 
 #include "document/Clipboard.h"
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/UndoStore.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -200,8 +198,7 @@ private Q_SLOTS:
     void restDaysAreNotCopiedOrDeleted()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         doc.values.AutoRestDayRule = "S1";
         AddScene(doc, "1", "1");
         AddDivider(doc);
@@ -289,8 +286,7 @@ private Q_SLOTS:
     void pasteRefusedWhenFull()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         while (doc.strips.count() < MaxStrips)
             AddScene(doc, "x", "1");
         doc.SelStart = 1;
@@ -305,8 +301,7 @@ private Q_SLOTS:
     void nothingToCopy()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         Copy(doc);
         QCOMPARE(prompter.texts(), QStringList{"Nothing selected to copy! Please select some strips and try again."});
         QCOMPARE(doc.clipboard.ClipKind, int(StripClipboard::Empty));

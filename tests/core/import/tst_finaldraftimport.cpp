@@ -1,11 +1,7 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/FinalDraftImport.h"
 #include "import/ImportCommandSteps.h"
-
-#include <QDir>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -37,12 +33,11 @@ QStringList ScriptReport(const QList<QStringList> &scenes)
 struct Imported
 {
     ScheduleDocument doc;
-    ScriptedPrompter prompter;
+    ScriptedPrompter prompter{doc};
     Result result = Result::success();
 
     Imported(const QString &sceneReport, const QString &scriptReport)
     {
-        doc.setPrompter(&prompter);
         NewDocument(doc);
         result = ImportFinalDraft(doc, sceneReport, scriptReport);
     }
@@ -99,9 +94,7 @@ private Q_SLOTS:
 
     void offsets_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("scene");
+        Columns<QString, QString, QString>("line", "page", "scene");
 
         Row("page 12, scene 5", "## Page: 12, Scene: 5", "12", "5");
         Row("four characters of scene", "## Page: 3, Scene: 12A extra", "3", "12A ");
@@ -113,25 +106,20 @@ private Q_SLOTS:
     void offsets()
     {
         QFETCH(QString, line);
-        QFETCH(QString, page);
-        QFETCH(QString, scene);
 
         Imported run(WriteCrLf("offset-scenes.txt", {"1\tX\t1\t1/8 Pg"}),
                      WriteCrLf("offset-script.txt", {line, "INT. ROOM - DAY", "ANN"}));
         QVERIFY(run.result.ok());
         QCOMPARE(run.doc.strips.count(), 1);
-        QCOMPARE(run.strip(1)[StripField::ScriptPage], page);
-        QCOMPARE(run.strip(1)[StripField::SceneNumber], scene);
+        QTEST(run.strip(1)[StripField::ScriptPage], "page");
+        QTEST(run.strip(1)[StripField::SceneNumber], "scene");
         QCOMPARE(run.strip(1)[StripField::Location], "ROOM");
         QCOMPARE(Cast(run.doc), QStringList{"ANN"});
     }
 
     void headings_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("intExt");
-        QTest::addColumn<QString>("dayNight");
-        QTest::addColumn<QString>("location");
+        Columns<QString, QString, QString, QString>("heading", "intExt", "dayNight", "location");
 
         Row("kitchen at night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
         Row("the last letter is kept", "EXT. BARN", "E", "", "BARN");
@@ -151,22 +139,18 @@ private Q_SLOTS:
     void headings()
     {
         QFETCH(QString, heading);
-        QFETCH(QString, intExt);
-        QFETCH(QString, dayNight);
-        QFETCH(QString, location);
 
         Imported run(QList<QStringList>{{heading}});
         QVERIFY(run.result.ok());
         QCOMPARE(run.doc.strips.count(), 1);
-        QCOMPARE(run.strip(1)[StripField::IntExt], intExt);
-        QCOMPARE(run.strip(1)[StripField::DayNight], dayNight);
-        QCOMPARE(run.strip(1)[StripField::Location], location);
+        QTEST(run.strip(1)[StripField::IntExt], "intExt");
+        QTEST(run.strip(1)[StripField::DayNight], "dayNight");
+        QTEST(run.strip(1)[StripField::Location], "location");
     }
 
     void carriedPosition_data()
     {
-        QTest::addColumn<QList<QStringList>>("scenes");
-        QTest::addColumn<QString>("lastIntExt");
+        Columns<QList<QStringList>, QString>("scenes", "lastIntExt");
 
         // The combined interior/exterior is looked for at the position the previous
         // scene left behind.
@@ -184,17 +168,14 @@ private Q_SLOTS:
     void carriedPosition()
     {
         QFETCH(QList<QStringList>, scenes);
-        QFETCH(QString, lastIntExt);
         Imported run(scenes);
         QVERIFY(run.result.ok());
-        QCOMPARE(run.strip(run.doc.strips.count())[StripField::IntExt], lastIntExt);
+        QTEST(run.strip(run.doc.strips.count())[StripField::IntExt], "lastIntExt");
     }
 
     void knownCharacters_data()
     {
-        QTest::addColumn<QStringList>("scene");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<QString>("assignments");
+        Columns<QStringList, QStringList, QString>("scene", "cast", "assignments");
 
         // Each cue assigns again; the assignment list's own duplicate test lets a small
         // number in twice.
@@ -210,12 +191,10 @@ private Q_SLOTS:
     void knownCharacters()
     {
         QFETCH(QStringList, scene);
-        QFETCH(QStringList, cast);
-        QFETCH(QString, assignments);
         Imported run(QList<QStringList>{scene});
         QVERIFY(run.result.ok());
-        QCOMPARE(Cast(run.doc), cast);
-        QCOMPARE(run.strip(1)[StripField::Assignments], assignments);
+        QTEST(Cast(run.doc), "cast");
+        QTEST(run.strip(1)[StripField::Assignments], "assignments");
     }
 
     void twentyCharacters()
@@ -240,9 +219,7 @@ private Q_SLOTS:
 
     void lengths_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("length");
-        QTest::addColumn<QStringList>("messages");
+        Columns<QString, QString, QStringList>("line", "length", "messages");
 
         const QStringList none;
         const QStringList conversion{QString::fromLatin1(FinalDraftLengthErrorText)};
@@ -261,13 +238,11 @@ private Q_SLOTS:
     void lengths()
     {
         QFETCH(QString, line);
-        QFETCH(QString, length);
-        QFETCH(QStringList, messages);
 
         Imported run(WriteCrLf("lengths.txt", {line}), WriteCrLf("one-scene.txt", ScriptReport({{"INT. A - DAY"}})));
         QVERIFY(run.result.ok());
-        QCOMPARE(run.prompter.texts(), messages);
-        QCOMPARE(run.strip(1)[StripField::PageLength], length);
+        QTEST(run.prompter.texts(), "messages");
+        QTEST(run.strip(1)[StripField::PageLength], "length");
     }
 
     void lengthsStopWithoutAMarker()
@@ -318,11 +293,7 @@ private Q_SLOTS:
 
     void commandSteps_data()
     {
-        QTest::addColumn<bool>("finalDraft");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<QList<Answer>>("answers");
-        QTest::addColumn<bool>("goesOn");
-        QTest::addColumn<int>("saves");
+        Columns<bool, bool, QList<Answer>, bool, int>("finalDraft", "modified", "answers", "goesOn", "saves");
 
         for (bool fd : {false, true}) {
             const char *name = fd ? "Final Draft" : "script";
@@ -335,15 +306,11 @@ private Q_SLOTS:
 
     void commandSteps()
     {
-        QFETCH(bool, finalDraft);
-        QFETCH(bool, modified);
-        QFETCH(QList<Answer>, answers);
-        QFETCH(bool, goesOn);
-        QFETCH(int, saves);
+        auto [finalDraft, modified, answers, goesOn] =
+            Fetch<bool, bool, QList<Answer>, bool>("finalDraft", "modified", "answers", "goesOn");
 
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         AddScene(doc, "1", "1");
         doc.Modified = modified;
         prompter.answers = answers;
@@ -352,7 +319,7 @@ private Q_SLOTS:
 
         const bool result = finalDraft ? BeginFinalDraftImport(doc, save) : AskToSaveBeforeScriptImport(doc, save);
         QCOMPARE(result, goesOn);
-        QCOMPARE(saved, saves);
+        QTEST(saved, "saves");
         if (modified) {
             QCOMPARE(prompter.prompts.size(), 1);
             const Prompt &p = prompter.prompts.first();

@@ -1,6 +1,5 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/CharacterReview.h"
 #include "import/FdxImport.h"
 #include "import/FountainImport.h"
@@ -8,9 +7,7 @@
 #include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
-#include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -74,10 +71,7 @@ class TestScreenplayImport : public QObject
 private Q_SLOTS:
     void headings_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("intExt");
-        QTest::addColumn<QString>("dayNight");
-        QTest::addColumn<QString>("location");
+        Columns<QString, QString, QString, QString>("heading", "intExt", "dayNight", "location");
 
         Row("interior night", "INT. KITCHEN - NIGHT", "I", "N", "KITCHEN");
         Row("two dashes, no blanks", "EXT. PARK--DAY", "E", "D", "PARK");
@@ -98,20 +92,16 @@ private Q_SLOTS:
     void headings()
     {
         QFETCH(QString, heading);
-        QFETCH(QString, intExt);
-        QFETCH(QString, dayNight);
-        QFETCH(QString, location);
         QString i, d, l;
         ReadSceneHeading(heading, ScriptImportSettings(), &i, &d, &l);
-        QCOMPARE(i, intExt);
-        QCOMPARE(d, dayNight);
-        QCOMPARE(l, location);
+        QTEST(i, "intExt");
+        QTEST(d, "dayNight");
+        QTEST(l, "location");
     }
 
     void cueNames_data()
     {
-        QTest::addColumn<QString>("cue");
-        QTest::addColumn<QString>("name");
+        Columns<QString, QString>("cue", "name");
         Row("continued", "MIKE (CONT'D)", "MIKE");
         Row("two extensions", "DONNA (V.O.) (CONT'D)", "DONNA");
         Row("dual dialogue", "BRICK ^", "BRICK");
@@ -124,14 +114,12 @@ private Q_SLOTS:
     void cueNames()
     {
         QFETCH(QString, cue);
-        QFETCH(QString, name);
-        QCOMPARE(CueName(cue), name);
+        QTEST(CueName(cue), "name");
     }
 
     void synopsis_data()
     {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<QString>("synopsis");
+        Columns<QString, QString>("action", "synopsis");
         Row("short, first line only", "A gorgeous day.\nThe sun shines.", "A gorgeous day.");
         Row("first sentence of a long line",
             "A gorgeous day.  The sun is shining.  But BRICK BRADDOCK, retired police detective, sits.",
@@ -144,8 +132,7 @@ private Q_SLOTS:
     void synopsis()
     {
         QFETCH(QString, action);
-        QFETCH(QString, synopsis);
-        QCOMPARE(SynopsisFrom(action), synopsis);
+        QTEST(SynopsisFrom(action), "synopsis");
     }
 
     void fountainRules()
@@ -259,10 +246,7 @@ private Q_SLOTS:
 
     void realFountainScripts_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("headings");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<double>("printedPages");
+        Columns<QString, int, QStringList, double>("file", "headings", "cast", "printedPages");
         // Printed pages: the scripts' PDFs on US Letter (without the title page), the last
         // page counted by its lines.
         Row("Brick & Steel", "brick_and_steel.fountain", 8,
@@ -275,16 +259,13 @@ private Q_SLOTS:
 
     void realFountainScripts()
     {
-        QFETCH(QString, file);
-        QFETCH(QStringList, cast);
-        QFETCH(double, printedPages);
+        auto [file, cast, printedPages] = Fetch<QString, QStringList, double>("file", "cast", "printedPages");
         const ResultOf<QStringList> lines = ReadImportText(QDir(DataDir).filePath(file));
         QVERIFY(lines.ok());
         auto run = std::make_unique<Imported>();
         run->result = ImportFountain(run->doc, *lines, ScriptImportSettings());
         QVERIFY(run->result.ok());
-        QFETCH(int, headings);
-        QCOMPARE(run->doc.strips.count(), headings);
+        QTEST(run->doc.strips.count(), "headings");
         QStringList names = Cast(run->doc);
         QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>(cast.begin(), cast.end()));
         QCOMPARE(names.size(), cast.size());
@@ -326,8 +307,7 @@ private Q_SLOTS:
 
     void doubts_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("doubt");
+        Columns<QString, QString>("name", "doubt");
         Row("page number", "12.", "no letters");
         Row("bare number", "2", "no letters");
         Row("page with a letter", "12a.", "a page number");
@@ -347,8 +327,7 @@ private Q_SLOTS:
     void doubts()
     {
         QFETCH(QString, name);
-        QFETCH(QString, doubt);
-        QCOMPARE(CharacterDoubt(name), doubt);
+        QTEST(CharacterDoubt(name), "doubt");
     }
 
     void reviewRemovesWithAssignments()
@@ -370,9 +349,7 @@ private Q_SLOTS:
 
     void plainTextReview_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("headings");
-        QTest::addColumn<QStringList>("speakers");
+        Columns<QString, int, QStringList>("file", "headings", "speakers");
         // Speaking characters as the text import names them; BOB and CYBER BOB are two
         // cues of one character in the script, and stay two names.
         Row("trelby", "trelby-test.txt", 11,
@@ -383,8 +360,7 @@ private Q_SLOTS:
 
     void plainTextReview()
     {
-        QFETCH(QString, file);
-        QFETCH(QStringList, speakers);
+        auto [file, speakers] = Fetch<QString, QStringList>("file", "speakers");
         const QString path = QDir(ScreenplaysDir).filePath(file);
         if (!QFile::exists(path))
             QSKIP("the shared screenplays are not there");
@@ -392,8 +368,7 @@ private Q_SLOTS:
         QVERIFY(lines.ok());
         auto run = std::make_unique<Imported>();
         QVERIFY(DoImport(run->doc, *lines, ScriptImportSettings()).ok());
-        QFETCH(int, headings);
-        QCOMPARE(run->doc.strips.count(), headings);
+        QTEST(run->doc.strips.count(), "headings");
         const int before = run->doc.elements.count();
         const QStringList dropped = RemoveDoubtfulCharacters(run->doc);
         QCOMPARE(run->doc.elements.count(), before - dropped.size());

@@ -13,7 +13,6 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QPdfWriter>
-#include <QTest>
 
 using namespace tb;
 using namespace tb::test;
@@ -140,448 +139,388 @@ class TestAlLayout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scaling_data();
-    void scaling();
-    void bandsOnPages_data();
-    void bandsOnPages();
-    void detailRowsTakeTheirValues();
-    void repeatedHeadersAndFootersPlacement();
-    void sameNameFieldsOnlyFirstReceives();
-    void columnsFillLeftToRight();
-    void groupBandsShowTheirRow();
-    void marginsAndPrinterOffsets();
-    void expandGrowsTheBand();
-    void clipModes();
-    void systemFields();
-    void pageOfPages();
-    void grownTextPushesDownWhatIsBelow();
-    void labelsForBlankFieldsAreLeftOut();
-    void printingFamilyHasABoldFace_data();
-    void printingFamilyHasABoldFace();
-    void textLines_data();
-    void textLines();
-    void previewAndPrintBreakAlike();
-    void pdfIsWrittenWholeOrNotAtAll();
-};
-
-void TestAlLayout::scaling_data()
-{
-    QTest::addColumn<int>("design");
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<int>("expected");
-    // The half added before rounding leans values upward; ties go to the even neighbour.
-    QTest::newRow("1 at screen") << 1 << 96 << 2;
-    QTest::newRow("2 at screen") << 2 << 96 << 2;
-    QTest::newRow("3 at screen") << 3 << 96 << 4;
-    QTest::newRow("10 at 1200") << 10 << 1200 << 126;
-    QTest::newRow("20 at 1200") << 20 << 1200 << 250;
-    QTest::newRow("11 at 600") << 11 << 600 << 69;
-    QTest::newRow("0") << 0 << 600 << 0;
-}
-
-void TestAlLayout::scaling()
-{
-    QFETCH(int, design);
-    QFETCH(int, dpi);
-    QFETCH(int, expected);
-    QCOMPARE(ScaleToOutput(design, dpi, 96), expected);
-    QCOMPARE(MillimetresToDots(25.4, 1200), 1200); // 1200.5 rounds to the even 1200
-    QCOMPARE(MillimetresToDots(10, 600), 237);     // 236.7 + 0.5
-}
-
-void TestAlLayout::bandsOnPages_data()
-{
-    QTest::addColumn<QString>("bands");
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<QString>("pages"); // the bands of each page by name
-    const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
-    QTest::newRow("detail without values prints once") << detail << "" << 10000 << "D";
-    QTest::newRow("detail repeats while any field has a value")
-        << band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)) << "A*2;B*4" << 10000 << "D D D D";
-    // Room for the header, the column titles, three rows and the footer, exactly.
-    QTest::newRow("page breaks repeat detail headers")
-        << pagedBands() << "N*10" << H20 + H10 + 3 * H30 + H10 + 1
-        << "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot";
-    QTest::newRow("title and footer only")
-        << band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Title Foot";
-    QTest::newRow("footers alone make a page") << band("Foot", 40, 10, "alr_PageFooter") << "" << 5000 << "Foot";
-    QTest::newRow("first and later page headers")
-        << band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
-               band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
-               band("Every", 20, 10, "alr_PageHeader") +
-               band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
-               band("D", 30, 30, "alr_Detail", {}, fieldOn("N"))
-        << "N*3" << 2 * H10 + 2 * H30 + 1 << "First Every D D | Later Every D";
-    QTest::newRow("new page band") << band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
-                                          band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) +
-                                          band("Foot", 40, 10, "alr_PageFooter") +
-                                          band("Closing", 30, 10, "alr_ReportFooter")
-                                   << "N*2" << 5000 << "Title Foot | D D Closing Foot";
-    // Each row is taller than what is left below the header: it starts a new page and is
-    // drawn there anyway, once, rather than asking for pages for ever.
-    QTest::newRow("too tall band still prints")
-        << band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")) << "N*2"
-        << H20 + H30 / 2 << "Head D | Head D";
-    QTest::newRow("group breaks through a detail link")
-        << groupBands(true) << "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3" << 10000 << "Col GH D D GF GH D GF GH D D GF";
-    // Column titles, the group header and two rows per page.
-    QTest::newRow("group header repeats on a new page")
-        << groupBands(false) << "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2" << 2 * H10 + 2 * H30 + 1
-        << "Col GH D D | Col GH D D | Col GH D";
-    // Room for two rows but not for the footer after the second: the second row goes to
-    // the next page with its footer, rather than leave a footer alone there.
-    QTest::newRow("last row keeps its group footer")
-        << groupBands(true) << "N*2;Day=Day 1,Day 1" << 2 * H10 + 2 * H30 + 1 << "Col GH D | Col GH D GF";
-    QTest::newRow("columns") << band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
-                                    band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n")
-                             << "N*4" << 5000 << "D D D D Foot Foot";
-}
-
-void TestAlLayout::bandsOnPages()
-{
-    QFETCH(QString, bands);
-    QFETCH(QString, values);
-    QFETCH(int, height);
-    QFETCH(QString, pages);
-    const Laid laid = layOut(bands, values, height);
-    QVERIFY(laid.form);
-    QCOMPARE(bandNames(laid.layout), pages);
-    // A second run starts again from the first values.
-    QCOMPARE(bandNames(LayOutReport(*laid.form->report, pageOf(height))), pages);
-}
-
-void TestAlLayout::detailRowsTakeTheirValues()
-{
-    const Laid empty = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name")), "", 10000);
-    QCOMPARE(controlOf(empty.layout.pages[0].bands[0], "Name")->text, QString());
-    QVERIFY(controlOf(empty.layout.pages[0].bands[0], "Name")->lines.isEmpty());
-
-    const Laid laid = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000);
-    const auto &bands = laid.layout.pages[0].bands;
-    QCOMPARE(controlOf(bands[1], "A")->text, QStringLiteral("2"));
-    QCOMPARE(controlOf(bands[3], "A")->text, QString());
-    QCOMPARE(controlOf(bands[3], "B")->text, QStringLiteral("4"));
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(bands[i].rect.top(), i * H20);
-        QCOMPARE(bands[i].row, i);
-    }
-}
-
-void TestAlLayout::repeatedHeadersAndFootersPlacement()
-{
-    const int height = H20 + H10 + 3 * H30 + H10 + 1;
-    const Laid laid = layOut(pagedBands(), "N*10", height);
-    const auto &second = laid.layout.pages[1].bands;
-    QCOMPARE(second[1].rect.top(), H20);
-    QCOMPARE(second[2].rect.top(), H20 + H10);
-    QCOMPARE(controlOf(second[2], "N")->text, QStringLiteral("4"));
-    QCOMPARE(second[5].rect.top(), height - 1 - H10); // the footer at the usable bottom
-
-    // Footers stack upward from the usable bottom.
-    const Laid footers = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
-                                    band("Foot1", 40, 10, "alr_PageFooter") + band("Foot2", 50, 20, "alr_PageFooter"),
-                                "N*1", 5000);
-    const int usableBottom = 5000 - 1 - H10 - H20;
-    QCOMPARE(footers.layout.pages[0].bands[1].rect.top(), usableBottom);
-    QCOMPARE(footers.layout.pages[0].bands[2].rect.top(), usableBottom + H10);
-}
-
-void TestAlLayout::sameNameFieldsOnlyFirstReceives()
-{
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name") + fieldOn("NAME", 200)));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    QStringList trace;
-    report.DebugTrace = true;
-    report.OnTrace = [&](const QString &line) { trace.append(line); };
-    report.AddNamedValue(QStringLiteral("name"), QStringLiteral("first"));
-    report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("lost"));
-    report.DebugTrace = false;
-    report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("silent"));
-    QCOMPARE(trace, QStringList({"AddNamedValue(name) = first", "AlField Missing = not found for value: lost"}));
-    const auto fields = form->fields();
-    QCOMPARE(fields[0]->values, QStringList{"first"});
-    QVERIFY(fields[1]->values.isEmpty());
-}
-
-void TestAlLayout::columnsFillLeftToRight()
-{
-    const Laid laid = layOut(band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
-                                 band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
-                             "N*4", 5000);
-    const auto &b = laid.layout.pages[0].bands;
-    const int step = MillimetresToDots(20, 1200);
-    QCOMPARE(b[0].rect.topLeft(), QPoint(0, 0));
-    QCOMPARE(b[1].rect.topLeft(), QPoint(step, 0));
-    QCOMPARE(b[2].rect.topLeft(), QPoint(2 * step, 0));
-    QCOMPARE(b[3].rect.topLeft(), QPoint(0, H20));
-    // Another band type draws the same content in each column, at one height.
-    QCOMPARE(b[4].rect.topLeft(), QPoint(0, 2 * H20));
-    QCOMPARE(b[5].rect.topLeft(), QPoint(step, 2 * H20));
-}
-
-void TestAlLayout::groupBandsShowTheirRow()
-{
-    // The group bands show the row that opens or closes the group.
-    const Laid laid = layOut(groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3;DayEnd=E1,E1,E2,E3,E3", 10000);
-    const auto &b = laid.layout.pages[0].bands; // Col GH D D GF GH D GF GH D D GF
-    QCOMPARE(controlOf(b[1], "Day")->text, QStringLiteral("Day 1"));
-    QCOMPARE(controlOf(b[4], "DayEnd")->text, QStringLiteral("E1"));
-    QCOMPARE(controlOf(b[5], "Day")->text, QStringLiteral("Day 2"));
-    QCOMPARE(controlOf(b[11], "DayEnd")->text, QStringLiteral("E3"));
-    QCOMPARE(b[2].rect.top(), 2 * H10);
-    // A group header repeated on a new page shows the group's row again.
-    const Laid paged = layOut(groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2", 2 * H10 + 2 * H30 + 1);
-    QCOMPARE(controlOf(paged.layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
-    QCOMPARE(controlOf(paged.layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
-}
-
-void TestAlLayout::marginsAndPrinterOffsets()
-{
-    auto form =
-        makeForm(band("Head", 0, 20, "alr_PageHeader", {}, fieldOn("T", 10, 5)) + band("D", 20, 20, "alr_Detail"));
-    QVERIFY(form);
-    form->report->LeftMarginMM = 10;
-    LayoutPage page = pageOf(5000);
-    page.offsetLeft = 100;
-    page.offsetTop = 80;
-    const ReportLayout layout = LayOutReport(*form->report, page);
-    const PlacedBand &head = layout.pages[0].bands[0];
-    // The margin counts from the sheet's edge and the first band from the sheet's top,
-    // both given in the printer's coordinates, which start at its offsets.
-    const int left = MillimetresToDots(10, 1200) - 100;
-    QCOMPARE(head.rect.topLeft(), QPoint(left, -80));
-    QCOMPARE(controlOf(head, "T")->rect.topLeft(),
-             QPoint(left + ScaleToOutput(10, 1200, 96), -80 + ScaleToOutput(5, 1200, 96)));
-}
-
-void TestAlLayout::expandGrowsTheBand()
-{
-    auto form = makeForm(band("D", 0, 30, "alr_Detail", "    ClipMode = cm_Expand\n",
-                              fieldOn("Lines", 0, 4, "      AutoSize = False\n      WordWrap = True\n") +
-                                  QStringLiteral("    object Rule: TAlShape\n      Top = 29\n      Width = 500\n"
-                                                 "      Height = 1\n    end\n"
-                                                 "    object Box: TAlShape\n      Top = 0\n      Width = 10\n"
-                                                 "      Height = 30\n    end\n")));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    report.AddNamedValue("Lines", "one");
-    report.AddNamedValue("Lines", "one\r\ntwo\r\nthree\r\nfour\r\n");
-    const ReportLayout layout = LayOutReport(report, pageOf(10000));
-    const auto &b = layout.pages[0].bands;
-    QCOMPARE(b[0].rect.height(), H30);
-    const auto *field = static_cast<const TAlLabel *>(form->find("Lines"));
-    const int lineHeight = int(std::ceil(field->metrics().lineSpacing()));
-    const int gapBelow = H30 - (ScaleToOutput(4, 1200, 96) + ScaleToOutput(14, 1200, 96));
-    QCOMPARE(b[1].rect.height(), ScaleToOutput(4, 1200, 96) + 4 * lineHeight + gapBelow);
-    QCOMPARE(b[1].rect.top(), H30);
-    // The rule at the bottom moves down with the band, the box from the top stretches.
-    QCOMPARE(controlOf(b[1], "Rule")->rect.bottom(), b[1].rect.bottom());
-    QCOMPARE(controlOf(b[1], "Box")->rect.top(), b[1].rect.top());
-    QCOMPARE(controlOf(b[1], "Box")->rect.bottom(), b[1].rect.bottom());
-    QVERIFY(!controlOf(b[1], "Lines")->clipped);
-}
-
-void TestAlLayout::clipModes()
-{
-    const QString field = fieldOn("Text", 0, 0, "      AutoSize = False\n      WordWrap = True\n");
-    auto clip = makeForm(band("D", 0, 20, "alr_Detail", {}, field));
-    auto over = makeForm(band("D", 0, 20, "alr_Detail", "    ClipMode = cm_Overwrite\n", field));
-    const QString longText =
-        QStringLiteral("a text much too long for a field one hundred pixels wide and one line high");
-    clip->report->AddNamedValue("Text", longText);
-    over->report->AddNamedValue("Text", longText);
-    const ReportLayout clipLayout = LayOutReport(*clip->report, pageOf(5000)); // c points into it
-    const PlacedControl *c = controlOf(clipLayout.pages[0].bands[0], "Text");
-    // Never cut silently: the line that fits ends in an ellipsis.
-    QCOMPARE(c->lines.size(), 1);
-    QVERIFY(c->cut);
-    QVERIFY(c->lines.first().text.endsWith(QChar(0x2026)));
-    QVERIFY(c->clipped);
-    QCOMPARE(c->clip, c->rect);
-    const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
-    QVERIFY(!controlOf(overLayout.pages[0].bands[0], "Text")->clipped);
-    QCOMPARE(overLayout.pages[0].bands[0].rect.height(), H20); // the band keeps its height
-}
-
-void TestAlLayout::systemFields()
-{
-    const QString sys = QStringLiteral("    object S%1: TAlSysField\n      Top = %2\n      DataType = %1\n    end\n");
-    auto form =
-        makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
-                 band("Foot", 40, 80, "alr_PageFooter", {},
-                      sys.arg("alr_PageNum").arg(0) + sys.arg("alr_Counter").arg(14) + sys.arg("alr_Count").arg(28) +
-                          sys.arg("alr_Date").arg(42) + sys.arg("alr_Formname").arg(56)));
-    QVERIFY(form);
-    // Formname is filled in when a template file loads.
-    static_cast<TAlSysField *>(form->find("Salr_Formname"))->formName = QStringLiteral("test.dfm");
-    TAlReport &report = *form->report;
-    report.now = QDateTime(QDate(2027, 4, 5), QTime(9, 30));
-    pushValues(report, "N*3");
-    const ReportLayout layout = LayOutReport(report, pageOf(H20 * 2 + ScaleToOutput(80, 1200, 96) + 1));
-    QCOMPARE(layout.pages.size(), 2);
-    const PlacedBand &foot = layout.pages[1].bands.last();
-    QCOMPARE(controlOf(foot, "Salr_PageNum")->text, QStringLiteral("2"));
-    QCOMPARE(controlOf(foot, "Salr_Counter")->text, QStringLiteral("3"));
-    QCOMPARE(controlOf(foot, "Salr_Count")->text, QStringLiteral("3"));
-    QCOMPARE(controlOf(foot, "Salr_Date")->text,
-             legacy::FormatDate(QDate(2027, 4, 5), QString::fromLatin1(legacy::ShortDatePattern)));
-    QCOMPARE(controlOf(foot, "Salr_Formname")->text, QStringLiteral("test.dfm"));
-}
-
-void TestAlLayout::pageOfPages()
-{
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
-                         band("Foot", 40, 20, "alr_PageFooter", {},
-                              "    object P: TAlSysField\n      DataType = alr_PageOfPages\n    end\n"));
-    QVERIFY(form);
-    pushValues(*form->report, "N*5");
-    // Two rows a page: three pages, each knowing the total.
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(H20 * 3 + 1));
-    QCOMPARE(layout.pages.size(), 3);
-    QStringList texts;
-    for (const LaidOutPage &page : layout.pages)
-        texts.append(controlOf(page.bands.last(), "P")->text);
-    QCOMPARE(texts, QStringList({"Page 1 of 3", "Page 2 of 3", "Page 3 of 3"}));
-}
-
-void TestAlLayout::grownTextPushesDownWhatIsBelow()
-{
-    const QString wrap = QStringLiteral("      AutoSize = False\n      WordWrap = True\n");
-    auto form =
-        makeForm(band("D", 0, 40, "alr_Detail", "    ClipMode = cm_Expand\n",
-                      fieldOn("Top", 0, 2, wrap) + fieldOn("Below", 0, 18, wrap) + fieldOn("Beside", 200, 18, wrap)));
-    QVERIFY(form);
-    TAlReport &report = *form->report;
-    report.AddNamedValue("Top", "one\rtwo\rthree");
-    report.AddNamedValue("Below", "under");
-    report.AddNamedValue("Beside", "beside");
-    const ReportLayout layout = LayOutReport(report, pageOf(10000)); // b points into it
-    const PlacedBand &b = layout.pages[0].bands[0];
-    const int lh = int(std::ceil(static_cast<const TAlLabel *>(form->find("Top"))->metrics().lineSpacing()));
-    const int grown = 3 * lh - ScaleToOutput(14, 1200, 96);
-    // The field below moves down by what the one above grew; the one beside stays.
-    QCOMPARE(controlOf(b, "Below")->rect.top(), ScaleToOutput(18, 1200, 96) + grown);
-    QCOMPARE(controlOf(b, "Beside")->rect.top(), ScaleToOutput(18, 1200, 96));
-    QCOMPARE(b.rect.height(), ScaleToOutput(40, 1200, 96) + grown);
-}
-
-void TestAlLayout::labelsForBlankFieldsAreLeftOut()
-{
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {},
-                              fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
-                                                    "      LabelFor = Dir\n    end\n"));
-    QVERIFY(form);
-    pushValues(*form->report, "Dir=Ann, ,Bo");
-    const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
-    QStringList shown;
-    for (const PlacedBand &b : layout.pages[0].bands)
-        shown.append(controlOf(b, "DirLabel") ? "label" : "none");
-    QCOMPARE(shown, QStringList({"label", "none", "label"}));
-}
-
-void TestAlLayout::printingFamilyHasABoldFace_data()
-{
-    QTest::addColumn<QString>("family");
-    QTest::newRow("the templates' Arial") << "Arial";
-    QTest::newRow("a family no system has") << "Quillbrook Grotesque Nonesuch";
-}
-
-void TestAlLayout::printingFamilyHasABoldFace()
-{
-    // Whatever a template names, the text prints in a family with a bold face of its own,
-    // so that bold texts keep to the widths they were measured at.
-    QFETCH(QString, family);
-    const QString used = QFontInfo(QFont(PrintingFamily(family))).family();
-    QVERIFY2(QFontDatabase::styles(used).contains(QStringLiteral("Bold"), Qt::CaseInsensitive), qPrintable(used));
-}
-
-void TestAlLayout::textLines_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("empty") << "" << 0.0 << QStringList();
-    QTest::newRow("line breaks") << "a\r\nb\rc\nd" << 0.0 << QStringList{"a", "b", "c", "d"};
-    QTest::newRow("one break at the end") << "a\r\nb\r\n" << 0.0 << QStringList{"a", "b"};
-    QTest::newRow("blank lines at the end") << "a\r\n \r\n" << 0.0 << QStringList{"a"};
-    QTest::newRow("blank lines inside") << "a\r\n\r\nb" << 0.0 << QStringList{"a", "", "b"};
-    QTest::newRow("only a blank") << " " << 0.0 << QStringList();
-    QTest::newRow("wrapped with indent") << "    aaa bbb ccc" << 9.0 << QStringList{"    aaa", "    bbb", "    ccc"};
-    QTest::newRow("long word stays whole") << "aaaaaaaaaaaa b" << 5.0 << QStringList{"aaaaaaaaaaaa", "b"};
-}
-
-void TestAlLayout::textLines()
-{
-    QFETCH(QString, text);
-    QFETCH(double, width);
-    QFETCH(QStringList, lines);
-    QFont font(QStringLiteral("Liberation Mono"));
-    font.setPixelSize(10);
-    const QFontMetricsF metrics(font);
-    // Widths are given in characters of the fixed-pitch font.
-    QCOMPARE(BreakTextLines(text, font, width * metrics.horizontalAdvance(u'x')), lines);
-}
-
-void TestAlLayout::previewAndPrintBreakAlike()
-{
-    auto form = makeForm(band("Head", 0, 40, "alr_PageHeader") + band("Col", 40, 12, "alr_DetailHeader") +
-                         band("D", 52, 17, "alr_Detail", {}, fieldOn("N")) + band("Foot", 70, 23, "alr_PageFooter"));
-    QVERIFY(form);
-    pushValues(*form->report, "N*400");
-    // A printer with unprintable borders, as a PDF writer with margins stands for one.
-    const QString path = TempPath("breaks.pdf");
-    QPdfWriter writer(path);
-    writer.setResolution(600);
-    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(4.2, 5.1, 3.3, 6.4),
-                                     QPageLayout::Millimeter));
-    QVERIFY(form->report->Print(writer).ok());
-    const int printed = TAlPrinter::Instance().PageCount();
-    QList<TDrawMetaFile *> pages;
-    QVERIFY(form->report->PreparePreview(pages, PrinterGeometry::fromDevice(writer)).ok());
-    QCOMPARE(int(pages.size()), printed);
-    QVERIFY2(printed > 5, qPrintable(QString::number(printed)));
-    // A preview page is the printable area with the offsets, at screen resolution.
-    QVERIFY(qAbs(pages.first()->Width - qRound((210 - 3.3) / 25.4 * 96)) <= 1);
-    QVERIFY(qAbs(pages.first()->Height - qRound((297 - 6.4) / 25.4 * 96)) <= 1);
-    QVERIFY(!pages.first()->picture().isNull());
-    qDeleteAll(pages);
-}
-
-void TestAlLayout::pdfIsWrittenWholeOrNotAtAll()
-{
-    auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")));
-    QVERIFY(form);
-    pushValues(*form->report, "N*3");
-    const QString path = TempPath("report.pdf");
-    QVERIFY(WriteReportPdf(*form->report, path, tPapersize::alr_Letter).ok());
-    QFile pdf(path);
-    QVERIFY(pdf.open(QIODevice::ReadOnly));
-    QVERIFY(pdf.readAll().startsWith("%PDF"));
-    pdf.close();
-    // A cancelled run leaves the earlier file as it was.
-    const QByteArray before = [&] {
-        QFile f(path);
-        f.open(QIODevice::ReadOnly);
-        return f.readAll();
-    }();
-    class Cancelling : public ReportProgressBox
+    void scaling_data()
     {
-    public:
-        void open(const QString &, const QString &, bool) override {}
-        void setCaption(const QString &) override {}
-        void setLabel(const QString &) override {}
-        bool keepAlive() override { return true; }
-        void close() override {}
-    } box;
-    form->report->progressBox = &box;
-    QVERIFY(!WriteReportPdf(*form->report, path).ok());
-    QFile after(path);
-    QVERIFY(after.open(QIODevice::ReadOnly));
-    QCOMPARE(after.readAll(), before);
-    QVERIFY(!WriteReportPdf(*form->report, TempPath("no/such/folder/x.pdf")).ok());
-}
+        Columns<int, int, int>("design", "dpi", "expected");
+        // The half added before rounding leans values upward; ties go to the even neighbour.
+        Row("1 at screen", 1, 96, 2);
+        Row("2 at screen", 2, 96, 2);
+        Row("3 at screen", 3, 96, 4);
+        Row("10 at 1200", 10, 1200, 126);
+        Row("20 at 1200", 20, 1200, 250);
+        Row("11 at 600", 11, 600, 69);
+        Row("0", 0, 600, 0);
+    }
+    void scaling()
+    {
+        auto [design, dpi] = Fetch<int, int>("design", "dpi");
+        QTEST(ScaleToOutput(design, dpi, 96), "expected");
+        QCOMPARE(MillimetresToDots(25.4, 1200), 1200); // 1200.5 rounds to the even 1200
+        QCOMPARE(MillimetresToDots(10, 600), 237);     // 236.7 + 0.5
+    }
+    void bandsOnPages_data()
+    {
+        // pages: the bands of each page by name
+        Columns<QString, QString, int, QString>("bands", "values", "height", "pages");
+        const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
+        Row("detail without values prints once", detail, "", 10000, "D");
+        Row("detail repeats while any field has a value",
+            band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000, "D D D D");
+        // Room for the header, the column titles, three rows and the footer, exactly.
+        Row("page breaks repeat detail headers", pagedBands(), "N*10", H20 + H10 + 3 * H30 + H10 + 1,
+            "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot");
+        Row("title and footer only", band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter"), "",
+            5000, "Title Foot");
+        Row("footers alone make a page", band("Foot", 40, 10, "alr_PageFooter"), "", 5000, "Foot");
+        Row("first and later page headers",
+            band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
+                band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
+                band("Every", 20, 10, "alr_PageHeader") +
+                band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
+                band("D", 30, 30, "alr_Detail", {}, fieldOn("N")),
+            "N*3", 2 * H10 + 2 * H30 + 1, "First Every D D | Later Every D");
+        Row("new page band",
+            band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
+                band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) + band("Foot", 40, 10, "alr_PageFooter") +
+                band("Closing", 30, 10, "alr_ReportFooter"),
+            "N*2", 5000, "Title Foot | D D Closing Foot");
+        // Each row is taller than what is left below the header: it starts a new page and is
+        // drawn there anyway, once, rather than asking for pages for ever.
+        Row("too tall band still prints",
+            band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")), "N*2",
+            H20 + H30 / 2, "Head D | Head D");
+        Row("group breaks through a detail link", groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3", 10000,
+            "Col GH D D GF GH D GF GH D D GF");
+        // Column titles, the group header and two rows per page.
+        Row("group header repeats on a new page", groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2",
+            2 * H10 + 2 * H30 + 1, "Col GH D D | Col GH D D | Col GH D");
+        // Room for two rows but not for the footer after the second: the second row goes to
+        // the next page with its footer, rather than leave a footer alone there.
+        Row("last row keeps its group footer", groupBands(true), "N*2;Day=Day 1,Day 1", 2 * H10 + 2 * H30 + 1,
+            "Col GH D | Col GH D GF");
+        Row("columns",
+            band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
+            "N*4", 5000, "D D D D Foot Foot");
+    }
+    void bandsOnPages()
+    {
+        auto [bands, values, height, pages] =
+            Fetch<QString, QString, int, QString>("bands", "values", "height", "pages");
+        const Laid laid = layOut(bands, values, height);
+        QVERIFY(laid.form);
+        QCOMPARE(bandNames(laid.layout), pages);
+        // A second run starts again from the first values.
+        QCOMPARE(bandNames(LayOutReport(*laid.form->report, pageOf(height))), pages);
+    }
+    void detailRowsTakeTheirValues()
+    {
+        const Laid empty = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name")), "", 10000);
+        QCOMPARE(controlOf(empty.layout.pages[0].bands[0], "Name")->text, QString());
+        QVERIFY(controlOf(empty.layout.pages[0].bands[0], "Name")->lines.isEmpty());
+
+        const Laid laid =
+            layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000);
+        const auto &bands = laid.layout.pages[0].bands;
+        QCOMPARE(controlOf(bands[1], "A")->text, QStringLiteral("2"));
+        QCOMPARE(controlOf(bands[3], "A")->text, QString());
+        QCOMPARE(controlOf(bands[3], "B")->text, QStringLiteral("4"));
+        for (int i = 0; i < 4; ++i) {
+            QCOMPARE(bands[i].rect.top(), i * H20);
+            QCOMPARE(bands[i].row, i);
+        }
+    }
+    void repeatedHeadersAndFootersPlacement()
+    {
+        const int height = H20 + H10 + 3 * H30 + H10 + 1;
+        const Laid laid = layOut(pagedBands(), "N*10", height);
+        const auto &second = laid.layout.pages[1].bands;
+        QCOMPARE(second[1].rect.top(), H20);
+        QCOMPARE(second[2].rect.top(), H20 + H10);
+        QCOMPARE(controlOf(second[2], "N")->text, QStringLiteral("4"));
+        QCOMPARE(second[5].rect.top(), height - 1 - H10); // the footer at the usable bottom
+
+        // Footers stack upward from the usable bottom.
+        const Laid footers =
+            layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) + band("Foot1", 40, 10, "alr_PageFooter") +
+                       band("Foot2", 50, 20, "alr_PageFooter"),
+                   "N*1", 5000);
+        const int usableBottom = 5000 - 1 - H10 - H20;
+        QCOMPARE(footers.layout.pages[0].bands[1].rect.top(), usableBottom);
+        QCOMPARE(footers.layout.pages[0].bands[2].rect.top(), usableBottom + H10);
+    }
+    void sameNameFieldsOnlyFirstReceives()
+    {
+        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name") + fieldOn("NAME", 200)));
+        QVERIFY(form);
+        TAlReport &report = *form->report;
+        QStringList trace;
+        report.DebugTrace = true;
+        report.OnTrace = [&](const QString &line) { trace.append(line); };
+        report.AddNamedValue(QStringLiteral("name"), QStringLiteral("first"));
+        report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("lost"));
+        report.DebugTrace = false;
+        report.AddNamedValue(QStringLiteral("Missing"), QStringLiteral("silent"));
+        QCOMPARE(trace, QStringList({"AddNamedValue(name) = first", "AlField Missing = not found for value: lost"}));
+        const auto fields = form->fields();
+        QCOMPARE(fields[0]->values, QStringList{"first"});
+        QVERIFY(fields[1]->values.isEmpty());
+    }
+    void columnsFillLeftToRight()
+    {
+        const Laid laid =
+            layOut(band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                       band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
+                   "N*4", 5000);
+        const auto &b = laid.layout.pages[0].bands;
+        const int step = MillimetresToDots(20, 1200);
+        QCOMPARE(b[0].rect.topLeft(), QPoint(0, 0));
+        QCOMPARE(b[1].rect.topLeft(), QPoint(step, 0));
+        QCOMPARE(b[2].rect.topLeft(), QPoint(2 * step, 0));
+        QCOMPARE(b[3].rect.topLeft(), QPoint(0, H20));
+        // Another band type draws the same content in each column, at one height.
+        QCOMPARE(b[4].rect.topLeft(), QPoint(0, 2 * H20));
+        QCOMPARE(b[5].rect.topLeft(), QPoint(step, 2 * H20));
+    }
+    void groupBandsShowTheirRow()
+    {
+        // The group bands show the row that opens or closes the group.
+        const Laid laid =
+            layOut(groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3;DayEnd=E1,E1,E2,E3,E3", 10000);
+        const auto &b = laid.layout.pages[0].bands; // Col GH D D GF GH D GF GH D D GF
+        QCOMPARE(controlOf(b[1], "Day")->text, QStringLiteral("Day 1"));
+        QCOMPARE(controlOf(b[4], "DayEnd")->text, QStringLiteral("E1"));
+        QCOMPARE(controlOf(b[5], "Day")->text, QStringLiteral("Day 2"));
+        QCOMPARE(controlOf(b[11], "DayEnd")->text, QStringLiteral("E3"));
+        QCOMPARE(b[2].rect.top(), 2 * H10);
+        // A group header repeated on a new page shows the group's row again.
+        const Laid paged = layOut(groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2", 2 * H10 + 2 * H30 + 1);
+        QCOMPARE(controlOf(paged.layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
+        QCOMPARE(controlOf(paged.layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
+    }
+    void marginsAndPrinterOffsets()
+    {
+        auto form =
+            makeForm(band("Head", 0, 20, "alr_PageHeader", {}, fieldOn("T", 10, 5)) + band("D", 20, 20, "alr_Detail"));
+        QVERIFY(form);
+        form->report->LeftMarginMM = 10;
+        LayoutPage page = pageOf(5000);
+        page.offsetLeft = 100;
+        page.offsetTop = 80;
+        const ReportLayout layout = LayOutReport(*form->report, page);
+        const PlacedBand &head = layout.pages[0].bands[0];
+        // The margin counts from the sheet's edge and the first band from the sheet's top,
+        // both given in the printer's coordinates, which start at its offsets.
+        const int left = MillimetresToDots(10, 1200) - 100;
+        QCOMPARE(head.rect.topLeft(), QPoint(left, -80));
+        QCOMPARE(controlOf(head, "T")->rect.topLeft(),
+                 QPoint(left + ScaleToOutput(10, 1200, 96), -80 + ScaleToOutput(5, 1200, 96)));
+    }
+    void expandGrowsTheBand()
+    {
+        auto form = makeForm(band("D", 0, 30, "alr_Detail", "    ClipMode = cm_Expand\n",
+                                  fieldOn("Lines", 0, 4, "      AutoSize = False\n      WordWrap = True\n") +
+                                      QStringLiteral("    object Rule: TAlShape\n      Top = 29\n      Width = 500\n"
+                                                     "      Height = 1\n    end\n"
+                                                     "    object Box: TAlShape\n      Top = 0\n      Width = 10\n"
+                                                     "      Height = 30\n    end\n")));
+        QVERIFY(form);
+        TAlReport &report = *form->report;
+        report.AddNamedValue("Lines", "one");
+        report.AddNamedValue("Lines", "one\r\ntwo\r\nthree\r\nfour\r\n");
+        const ReportLayout layout = LayOutReport(report, pageOf(10000));
+        const auto &b = layout.pages[0].bands;
+        QCOMPARE(b[0].rect.height(), H30);
+        const auto *field = static_cast<const TAlLabel *>(form->find("Lines"));
+        const int lineHeight = int(std::ceil(field->metrics().lineSpacing()));
+        const int gapBelow = H30 - (ScaleToOutput(4, 1200, 96) + ScaleToOutput(14, 1200, 96));
+        QCOMPARE(b[1].rect.height(), ScaleToOutput(4, 1200, 96) + 4 * lineHeight + gapBelow);
+        QCOMPARE(b[1].rect.top(), H30);
+        // The rule at the bottom moves down with the band, the box from the top stretches.
+        QCOMPARE(controlOf(b[1], "Rule")->rect.bottom(), b[1].rect.bottom());
+        QCOMPARE(controlOf(b[1], "Box")->rect.top(), b[1].rect.top());
+        QCOMPARE(controlOf(b[1], "Box")->rect.bottom(), b[1].rect.bottom());
+        QVERIFY(!controlOf(b[1], "Lines")->clipped);
+    }
+    void clipModes()
+    {
+        const QString field = fieldOn("Text", 0, 0, "      AutoSize = False\n      WordWrap = True\n");
+        auto clip = makeForm(band("D", 0, 20, "alr_Detail", {}, field));
+        auto over = makeForm(band("D", 0, 20, "alr_Detail", "    ClipMode = cm_Overwrite\n", field));
+        const QString longText =
+            QStringLiteral("a text much too long for a field one hundred pixels wide and one line high");
+        clip->report->AddNamedValue("Text", longText);
+        over->report->AddNamedValue("Text", longText);
+        const ReportLayout clipLayout = LayOutReport(*clip->report, pageOf(5000)); // c points into it
+        const PlacedControl *c = controlOf(clipLayout.pages[0].bands[0], "Text");
+        // Never cut silently: the line that fits ends in an ellipsis.
+        QCOMPARE(c->lines.size(), 1);
+        QVERIFY(c->cut);
+        QVERIFY(c->lines.first().text.endsWith(QChar(0x2026)));
+        QVERIFY(c->clipped);
+        QCOMPARE(c->clip, c->rect);
+        const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
+        QVERIFY(!controlOf(overLayout.pages[0].bands[0], "Text")->clipped);
+        QCOMPARE(overLayout.pages[0].bands[0].rect.height(), H20); // the band keeps its height
+    }
+    void systemFields()
+    {
+        const QString sys =
+            QStringLiteral("    object S%1: TAlSysField\n      Top = %2\n      DataType = %1\n    end\n");
+        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
+                             band("Foot", 40, 80, "alr_PageFooter", {},
+                                  sys.arg("alr_PageNum").arg(0) + sys.arg("alr_Counter").arg(14) +
+                                      sys.arg("alr_Count").arg(28) + sys.arg("alr_Date").arg(42) +
+                                      sys.arg("alr_Formname").arg(56)));
+        QVERIFY(form);
+        // Formname is filled in when a template file loads.
+        static_cast<TAlSysField *>(form->find("Salr_Formname"))->formName = QStringLiteral("test.dfm");
+        TAlReport &report = *form->report;
+        report.now = QDateTime(QDate(2027, 4, 5), QTime(9, 30));
+        pushValues(report, "N*3");
+        const ReportLayout layout = LayOutReport(report, pageOf(H20 * 2 + ScaleToOutput(80, 1200, 96) + 1));
+        QCOMPARE(layout.pages.size(), 2);
+        const PlacedBand &foot = layout.pages[1].bands.last();
+        QCOMPARE(controlOf(foot, "Salr_PageNum")->text, QStringLiteral("2"));
+        QCOMPARE(controlOf(foot, "Salr_Counter")->text, QStringLiteral("3"));
+        QCOMPARE(controlOf(foot, "Salr_Count")->text, QStringLiteral("3"));
+        QCOMPARE(controlOf(foot, "Salr_Date")->text,
+                 legacy::FormatDate(QDate(2027, 4, 5), QString::fromLatin1(legacy::ShortDatePattern)));
+        QCOMPARE(controlOf(foot, "Salr_Formname")->text, QStringLiteral("test.dfm"));
+    }
+    void pageOfPages()
+    {
+        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
+                             band("Foot", 40, 20, "alr_PageFooter", {},
+                                  "    object P: TAlSysField\n      DataType = alr_PageOfPages\n    end\n"));
+        QVERIFY(form);
+        pushValues(*form->report, "N*5");
+        // Two rows a page: three pages, each knowing the total.
+        const ReportLayout layout = LayOutReport(*form->report, pageOf(H20 * 3 + 1));
+        QCOMPARE(layout.pages.size(), 3);
+        QStringList texts;
+        for (const LaidOutPage &page : layout.pages)
+            texts.append(controlOf(page.bands.last(), "P")->text);
+        QCOMPARE(texts, QStringList({"Page 1 of 3", "Page 2 of 3", "Page 3 of 3"}));
+    }
+    void grownTextPushesDownWhatIsBelow()
+    {
+        const QString wrap = QStringLiteral("      AutoSize = False\n      WordWrap = True\n");
+        auto form = makeForm(
+            band("D", 0, 40, "alr_Detail", "    ClipMode = cm_Expand\n",
+                 fieldOn("Top", 0, 2, wrap) + fieldOn("Below", 0, 18, wrap) + fieldOn("Beside", 200, 18, wrap)));
+        QVERIFY(form);
+        TAlReport &report = *form->report;
+        report.AddNamedValue("Top", "one\rtwo\rthree");
+        report.AddNamedValue("Below", "under");
+        report.AddNamedValue("Beside", "beside");
+        const ReportLayout layout = LayOutReport(report, pageOf(10000)); // b points into it
+        const PlacedBand &b = layout.pages[0].bands[0];
+        const int lh = int(std::ceil(static_cast<const TAlLabel *>(form->find("Top"))->metrics().lineSpacing()));
+        const int grown = 3 * lh - ScaleToOutput(14, 1200, 96);
+        // The field below moves down by what the one above grew; the one beside stays.
+        QCOMPARE(controlOf(b, "Below")->rect.top(), ScaleToOutput(18, 1200, 96) + grown);
+        QCOMPARE(controlOf(b, "Beside")->rect.top(), ScaleToOutput(18, 1200, 96));
+        QCOMPARE(b.rect.height(), ScaleToOutput(40, 1200, 96) + grown);
+    }
+    void labelsForBlankFieldsAreLeftOut()
+    {
+        auto form = makeForm(band("D", 0, 20, "alr_Detail", {},
+                                  fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
+                                                        "      LabelFor = Dir\n    end\n"));
+        QVERIFY(form);
+        pushValues(*form->report, "Dir=Ann, ,Bo");
+        const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
+        QStringList shown;
+        for (const PlacedBand &b : layout.pages[0].bands)
+            shown.append(controlOf(b, "DirLabel") ? "label" : "none");
+        QCOMPARE(shown, QStringList({"label", "none", "label"}));
+    }
+    void printingFamilyHasABoldFace_data()
+    {
+        QTest::addColumn<QString>("family");
+        Row("the templates' Arial", "Arial");
+        Row("a family no system has", "Quillbrook Grotesque Nonesuch");
+    }
+    void printingFamilyHasABoldFace()
+    {
+        // Whatever a template names, the text prints in a family with a bold face of its own,
+        // so that bold texts keep to the widths they were measured at.
+        QFETCH(QString, family);
+        const QString used = QFontInfo(QFont(PrintingFamily(family))).family();
+        QVERIFY2(QFontDatabase::styles(used).contains(QStringLiteral("Bold"), Qt::CaseInsensitive), qPrintable(used));
+    }
+    void textLines_data()
+    {
+        Columns<QString, double, QStringList>("text", "width", "lines");
+        Row("empty", "", 0.0, QStringList());
+        Row("line breaks", "a\r\nb\rc\nd", 0.0, QStringList{"a", "b", "c", "d"});
+        Row("one break at the end", "a\r\nb\r\n", 0.0, QStringList{"a", "b"});
+        Row("blank lines at the end", "a\r\n \r\n", 0.0, QStringList{"a"});
+        Row("blank lines inside", "a\r\n\r\nb", 0.0, QStringList{"a", "", "b"});
+        Row("only a blank", " ", 0.0, QStringList());
+        Row("wrapped with indent", "    aaa bbb ccc", 9.0, QStringList{"    aaa", "    bbb", "    ccc"});
+        Row("long word stays whole", "aaaaaaaaaaaa b", 5.0, QStringList{"aaaaaaaaaaaa", "b"});
+    }
+    void textLines()
+    {
+        auto [text, width] = Fetch<QString, double>("text", "width");
+        QFont font(QStringLiteral("Liberation Mono"));
+        font.setPixelSize(10);
+        const QFontMetricsF metrics(font);
+        // Widths are given in characters of the fixed-pitch font.
+        QTEST(BreakTextLines(text, font, width * metrics.horizontalAdvance(u'x')), "lines");
+    }
+    void previewAndPrintBreakAlike()
+    {
+        auto form =
+            makeForm(band("Head", 0, 40, "alr_PageHeader") + band("Col", 40, 12, "alr_DetailHeader") +
+                     band("D", 52, 17, "alr_Detail", {}, fieldOn("N")) + band("Foot", 70, 23, "alr_PageFooter"));
+        QVERIFY(form);
+        pushValues(*form->report, "N*400");
+        // A printer with unprintable borders, as a PDF writer with margins stands for one.
+        const QString path = TempPath("breaks.pdf");
+        QPdfWriter writer(path);
+        writer.setResolution(600);
+        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(4.2, 5.1, 3.3, 6.4),
+                                         QPageLayout::Millimeter));
+        QVERIFY(form->report->Print(writer).ok());
+        const int printed = TAlPrinter::Instance().PageCount();
+        QList<TDrawMetaFile *> pages;
+        QVERIFY(form->report->PreparePreview(pages, PrinterGeometry::fromDevice(writer)).ok());
+        QCOMPARE(int(pages.size()), printed);
+        QVERIFY2(printed > 5, qPrintable(QString::number(printed)));
+        // A preview page is the printable area with the offsets, at screen resolution.
+        QVERIFY(qAbs(pages.first()->Width - qRound((210 - 3.3) / 25.4 * 96)) <= 1);
+        QVERIFY(qAbs(pages.first()->Height - qRound((297 - 6.4) / 25.4 * 96)) <= 1);
+        QVERIFY(!pages.first()->picture().isNull());
+        qDeleteAll(pages);
+    }
+    void pdfIsWrittenWholeOrNotAtAll()
+    {
+        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")));
+        QVERIFY(form);
+        pushValues(*form->report, "N*3");
+        const QString path = TempPath("report.pdf");
+        QVERIFY(WriteReportPdf(*form->report, path, tPapersize::alr_Letter).ok());
+        const QByteArray before = ReadFileBytes(path);
+        QVERIFY(before.startsWith("%PDF"));
+        // A cancelled run leaves the earlier file as it was.
+        class Cancelling : public ReportProgressBox
+        {
+        public:
+            void open(const QString &, const QString &, bool) override {}
+            void setCaption(const QString &) override {}
+            void setLabel(const QString &) override {}
+            bool keepAlive() override { return true; }
+            void close() override {}
+        } box;
+        form->report->progressBox = &box;
+        QVERIFY(!WriteReportPdf(*form->report, path).ok());
+        QCOMPARE(ReadFileBytes(path), before);
+        QVERIFY(!WriteReportPdf(*form->report, TempPath("no/such/folder/x.pdf")).ok());
+    }
+};
 
 TB_TEST_MAIN(TestAlLayout)
 #include "tst_allayout.moc"

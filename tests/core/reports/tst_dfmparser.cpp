@@ -4,24 +4,10 @@
 #include "reports/DfmParser.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QTest>
 #include <QtEndian>
 
 using namespace tb;
 using namespace tb::test;
-
-namespace {
-
-// Adds one data row.
-template <typename... T>
-void row(const char *tag, const T &...values)
-{
-    (QTest::newRow(tag) << ... << values);
-}
-
-} // namespace
 
 class TestDfmParser : public QObject
 {
@@ -77,41 +63,39 @@ private Q_SLOTS:
 
     void syntaxErrors_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("message");
-        row("no object", "Left = 1\n", "t.dfm, line 1: expected \"object\", found \"Left\"");
-        row("missing class", "object F:\nend", "t.dfm, line 2: expected a class name after \"F:\", found \"end\"");
-        row("missing equals", "object F: TForm\n  Left 1\nend",
+        Columns<QString, QString>("text", "message");
+        Row("no object", "Left = 1\n", "t.dfm, line 1: expected \"object\", found \"Left\"");
+        Row("missing class", "object F:\nend", "t.dfm, line 2: expected a class name after \"F:\", found \"end\"");
+        Row("missing equals", "object F: TForm\n  Left 1\nend",
             "t.dfm, line 2: expected \"=\" after the property name \"Left\", found the number 1");
-        row("missing value", "object F: TForm\n  Left =\nend",
+        Row("missing value", "object F: TForm\n  Left =\nend",
             "t.dfm, line 3: expected a value for \"Left\", found \"end\"");
-        row("missing end", "object F: TForm\n  Left = 1\n",
+        Row("missing end", "object F: TForm\n  Left = 1\n",
             "t.dfm, line 3: expected a property, \"object\" or \"end\" in F, found the end of the file");
-        row("open string", "object F: TForm\n  Caption = 'abc\nend",
+        Row("open string", "object F: TForm\n  Caption = 'abc\nend",
             "t.dfm, line 2: expected \"'\" to close the string before the end of the line");
-        row("plus without string", "object F: TForm\n  Caption = 'a' +\n  1\nend",
+        Row("plus without string", "object F: TForm\n  Caption = 'a' +\n  1\nend",
             "t.dfm, line 3: expected a string after \"+\", found the number 1");
-        row("bad set", "object F: TForm\n  Font.Style = [fsBold fsItalic]\nend",
+        Row("bad set", "object F: TForm\n  Font.Style = [fsBold fsItalic]\nend",
             "t.dfm, line 2: expected \",\" or \"]\" in the set of \"Font.Style\", found \"fsItalic\"");
-        row("odd hex", "object F: TForm\n  Data = {ABC}\nend",
+        Row("odd hex", "object F: TForm\n  Data = {ABC}\nend",
             "t.dfm, line 2: binary data has an odd number of hexadecimal digits");
-        row("bad hex", "object F: TForm\n  Data = {AG}\nend",
+        Row("bad hex", "object F: TForm\n  Data = {AG}\nend",
             "t.dfm, line 2: expected a hexadecimal digit in the binary data, found \"G\"");
-        row("bad character", "object F: TForm\n  Left = 1\n  ; \nend", "t.dfm, line 3: unexpected character \";\"");
-        row("number glued to name", "object F: TForm\n  Left = 12px\nend",
+        Row("bad character", "object F: TForm\n  Left = 1\n  ; \nend", "t.dfm, line 3: unexpected character \";\"");
+        Row("number glued to name", "object F: TForm\n  Left = 12px\nend",
             "t.dfm, line 2: expected a blank or a symbol after the number, found \"p\"");
-        row("text after end", "object F: TForm\nend\nobject G: TForm\nend",
+        Row("text after end", "object F: TForm\nend\nobject G: TForm\nend",
             "t.dfm, line 3: expected the end of the file after the last \"end\", found \"object\"");
-        row("unclosed list", "object F: TForm\n  L = ('a'\n",
+        Row("unclosed list", "object F: TForm\n  L = ('a'\n",
             "t.dfm, line 3: expected \")\" to close the list of \"L\", found the end of the file");
-        row("collection", "object F: TForm\n  C = < Width = 1 >\nend",
+        Row("collection", "object F: TForm\n  C = < Width = 1 >\nend",
             "t.dfm, line 2: expected \"item\" or \">\" in the collection \"C\", found \"Width\"");
     }
 
     void syntaxErrors()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, message);
+        auto [text, message] = Fetch<QString, QString>("text", "message");
         ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
         QVERIFY(!parsed.ok());
         QCOMPARE(parsed.message(), message);
@@ -119,45 +103,43 @@ private Q_SLOTS:
 
     void templateErrors_data()
     {
-        QTest::addColumn<QString>("body");
-        QTest::addColumn<QString>("message");
-        row("unknown class", "  object X: TLabel\n  end\n",
+        Columns<QString, QString>("body", "message");
+        Row("unknown class", "  object X: TLabel\n  end\n",
             "t.dfm, line 2: expected a report class (TAlReport, tAlBand, TAlLabel, TAlField, "
             "TAlSysField, TAlShape, tAlImage, TAlDetailLink), found \"TLabel\"");
-        row("unknown property", "  object B: tAlBand\n    Colour = clRed\n  end\n",
+        Row("unknown property", "  object B: tAlBand\n    Colour = clRed\n  end\n",
             "t.dfm, line 3: unknown property \"Colour\" of tAlBand");
-        row("wrong kind", "  object B: tAlBand\n    Height = 'tall'\n  end\n",
+        Row("wrong kind", "  object B: tAlBand\n    Height = 'tall'\n  end\n",
             "t.dfm, line 3: expected a whole number for \"Height\", found a quoted string");
-        row("bad enumeration", "  object B: tAlBand\n    BandType = alr_Body\n  end\n",
+        Row("bad enumeration", "  object B: tAlBand\n    BandType = alr_Body\n  end\n",
             "t.dfm, line 3: expected one of alr_Title, alr_PageHeader, alr_DetailHeader, "
             "alr_Detail, alr_DetailFooter, alr_PageFooter, alr_ReportFooter, alr_NewPage, "
             "alr_GroupHeader, alr_GroupFooter for \"BandType\", found \"alr_Body\"");
-        row("bad boolean", "  object B: tAlBand\n    Enabled = Yes\n  end\n",
+        Row("bad boolean", "  object B: tAlBand\n    Enabled = Yes\n  end\n",
             "t.dfm, line 3: expected True or False for \"Enabled\"");
-        row("bad colour", "  object B: tAlBand\n    Color = clPurpleish\n  end\n",
+        Row("bad colour", "  object B: tAlBand\n    Color = clPurpleish\n  end\n",
             "t.dfm, line 3: \"clPurpleish\" is not a colour name (for \"Color\")");
-        row("bad font style", "  object B: tAlBand\n    Font.Style = [fsHeavy]\n  end\n",
+        Row("bad font style", "  object B: tAlBand\n    Font.Style = [fsHeavy]\n  end\n",
             "t.dfm, line 3: expected fsBold, fsItalic, fsUnderline or fsStrikeOut in "
             "\"Font.Style\", found \"fsHeavy\"");
-        row("caption on a system field",
+        Row("caption on a system field",
             "  object B: tAlBand\n    object S: TAlSysField\n      Caption = 'x'\n    end\n  end\n",
             "t.dfm, line 4: unknown property \"Caption\" of TAlSysField");
-        row("missing reference", "  object K: TAlDetailLink\n    GroupBand = Nowhere\n  end\n",
+        Row("missing reference", "  object K: TAlDetailLink\n    GroupBand = Nowhere\n  end\n",
             "t.dfm, line 3: \"GroupBand\" of K names \"Nowhere\", which the template does "
             "not hold");
-        row("reference of the wrong class",
+        Row("reference of the wrong class",
             "  object B: tAlBand\n  end\n  object K: TAlDetailLink\n    DataSource = B\n  end\n",
             "t.dfm, line 5: expected a TAlField for \"DataSource\", found tAlBand \"B\"");
-        row("band on a band", "  object B: tAlBand\n    object C: tAlBand\n    end\n  end\n",
+        Row("band on a band", "  object B: tAlBand\n    object C: tAlBand\n    end\n  end\n",
             "t.dfm, line 3: a band cannot sit on another band (C on B)");
-        row("children of a label", "  object L: TAlLabel\n    object M: TAlLabel\n    end\n  end\n",
+        Row("children of a label", "  object L: TAlLabel\n    object M: TAlLabel\n    end\n  end\n",
             "t.dfm, line 3: L cannot hold other components");
     }
 
     void templateErrors()
     {
-        QFETCH(QString, body);
-        QFETCH(QString, message);
+        auto [body, message] = Fetch<QString, QString>("body", "message");
         ResultOf<DfmObject> parsed =
             ParseDfmText(QStringLiteral("object F: TForm\n") + body + QStringLiteral("end\n"), QStringLiteral("t.dfm"));
         QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
@@ -221,23 +203,22 @@ private Q_SLOTS:
 
     void loadTemplateReportsWhyNot_data()
     {
-        QTest::addColumn<QByteArray>("content"); // none: no file at all
-        QTest::addColumn<QString>("why");
-        row("missing", QByteArray(), "%1: no such template file");
-        row("no report", QByteArray("object F: TForm\r\n  object B: tAlBand\r\n  end\r\nend\r\n"),
+        // content: none: no file at all
+        Columns<QByteArray, QString>("content", "why");
+        Row("missing", QByteArray(), "%1: no such template file");
+        Row("no report", QByteArray("object F: TForm\r\n  object B: tAlBand\r\n  end\r\nend\r\n"),
             "t.dfm: the template holds no TAlReport");
-        row("bad value", QByteArray("object F: TForm\n  object R: TAlReport\n    Papersize = A4\n  end\nend\n"),
+        Row("bad value", QByteArray("object F: TForm\n  object R: TAlReport\n    Papersize = A4\n  end\nend\n"),
             "t.dfm, line 3: expected one of alr_A4, alr_A5, alr_Legal, alr_Letter for "
             "\"Papersize\", found \"A4\"");
         // A binary form file of the older edition is named as such.
-        row("binary", QByteArray("TPF0\x06TForm1\x05Form1"),
+        Row("binary", QByteArray("TPF0\x06TForm1\x05Form1"),
             "t.dfm, line 1: expected a template in text form, found a binary form file");
     }
 
     void loadTemplateReportsWhyNot()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, why);
+        auto [content, why] = Fetch<QByteArray, QString>("content", "why");
         const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/t.dfm");
         QDir().mkpath(QFileInfo(path).path());
         QFile f(path);
@@ -256,23 +237,22 @@ private Q_SLOTS:
 
     void shippedTemplatesLoad_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("fields");
+        Columns<QString, QString>("file", "fields");
         const QString header = QStringLiteral("PictureField AddressField CompanyField ");
-        row("shooting schedule", "ShootSch1.dfm",
+        Row("shooting schedule", "ShootSch1.dfm",
             "PictureField CompanyField DayField GroupEndField SceneField PageField "
             "PagesField LocationField SynopsisField CatagoryField1 CatagoryField2 "
             "CatagoryField3 GrandTotal DayPagesField");
-        row("one-line", "Oneline1.dfm",
+        Row("one-line", "Oneline1.dfm",
             "PictureField CompanyField DayField GroupEndField SceneField PagesField "
             "LocationField SynopsisField CastField GrandTotal");
-        row("breakdown", "Breakdown1.dfm",
+        Row("breakdown", "Breakdown1.dfm",
             header + "RefField DirField ProdField BSField SceneField PageField PagesField "
                      "DNField SetField SynopsisField NotesField NotesCat");
-        row("element summary", "ElementSummary1.dfm",
+        Row("element summary", "ElementSummary1.dfm",
             "HeaderField CompanyField FirstField LastField TotalField UsedField "
             "NameField DescField TypeField NotesField PBField HoldField");
-        row("call sheet", "CallSheet1.dfm",
+        Row("call sheet", "CallSheet1.dfm",
             header + "DateField DirField ProdField ADField UPMField UnitField MakeupField CostumeField WeatherField "
                      "WrapField SceneField LocationField PagesField DNField IEField SetField SynopsisField "
                      "ACharacterField ANameField AMakeupField ACostumeField AOnsetField ATransportField ExtraField "
@@ -282,8 +262,7 @@ private Q_SLOTS:
 
     void shippedTemplatesLoad()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, fields);
+        auto [file, fields] = Fetch<QString, QString>("file", "fields");
         auto loaded = LoadTemplate(QStringLiteral(TB_SOURCE_DIR) + "/templates/" + file);
         QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
         const ReportForm &form = *loaded.value();

@@ -3,13 +3,10 @@
 #include "TestSupport.h"
 
 #include "document/DayCalculation.h"
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "reports/ReportBuilders.h"
 
-#include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -101,407 +98,353 @@ class TestReportBuilders : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void dayRanges_data();
-    void dayRanges();
-    void shootingDaysOnlyHidesRestDays();
-    void bannerDaysGetRowsOfTheirOwn();
-    void elementColumns();
-    void breakdownBoxesContinueBelowTheSheet();
-    void brokenTemplateNamesLineAndCause();
-    void rowValuesInOrder();
-    void locationLine_data();
-    void locationLine();
-    void dayFieldThatIsNoNumber();
-    void missingTemplate_data();
-    void missingTemplate();
-    void breakdownCategoryFieldsByTag();
-    void breakdownSpecificSheets();
-    void elementSummaryDaysUsed();
-    void elementSummaryLeavesOutUnusedAndUnticked();
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+    void init()
+    {
+        m_doc = std::make_unique<ScheduleDocument>();
+        m_doc->values.StartDate = legacy::FloatToText(legacy::DateToSerial(Start));
+        m_prompter.prompts.clear();
+        m_doc->setPrompter(&m_prompter);
+        m_doc->setStatusSink(&m_status);
+    }
+    void dayRanges_data()
+    {
+        Columns<ScheduleReportOptions, QStringList, QString, QStringList>("options", "scenes", "firstDay",
+                                                                          "grandTotal");
+        Row("all", range(true, 1, 1), QStringList{"Scene: 1", "Scene: 2", "Scene: 3", "Scene: 4"},
+            "SHOOTING DAY 1 : " + longDate(0), QStringList{"End"});
+        Row("day 2 to 2", range(false, 2, 2), QStringList{"Scene: 2", "Scene: 3"}, "SHOOTING DAY 2 : " + longDate(1),
+            QStringList{"End (Days 2 to 2)"});
+        // "All" with a From of 3 still finds its start strip from the From box (kept so).
+        Row("all, from 3", range(true, 3, 3), QStringList{"Scene: 4"}, "SHOOTING DAY 3 : " + longDate(2),
+            QStringList{"End"});
+        // No strip on the first day asked for: nothing at all is pushed, nothing printed.
+        Row("no strip on day 5", range(false, 5, 6), QStringList(), QString(), QStringList());
+    }
+    void dayRanges()
+    {
+        auto [options, scenes] = Fetch<ScheduleReportOptions, QStringList>("options", "scenes");
+        layOut(*m_doc, "1 | 2 3 | 4 |");
+        Pushes pushes;
+        auto built = CreateSchedulePages(*m_doc, options, pushes.context());
+        QVERIFY2(built.ok(), qPrintable(built.message()));
+        QCOMPARE(pushes.values("SceneField"), scenes);
+        QTEST(pushes.values("DayField").value(0), "firstDay");
+        QTEST(pushes.values("GrandTotal"), "grandTotal");
+        QCOMPARE(built->rows, scenes.size());
+        QCOMPARE(built->nothingToPrint, scenes.isEmpty());
+    }
+    void shootingDaysOnlyHidesRestDays()
+    {
+        m_doc->values.AutoRestDayRule = QStringLiteral("S2"); // a rest day after the second day
+        layOut(*m_doc, "1 | 2 | 3 |");
+        QCOMPARE(Kinds(*m_doc), QStringLiteral("1 2 1 2 3 1 2"));
+
+        Pushes shooting;
+        QVERIFY(CreateSchedulePages(*m_doc, {}, shooting.context()).ok());
+        QCOMPARE(shooting.values("DayField"),
+                 QStringList({"SHOOTING DAY 1 : " + longDate(0), "SHOOTING DAY 2 : " + longDate(1),
+                              "SHOOTING DAY 3 : " + longDate(3)}));
+        QCOMPARE(shooting.values("GroupEndField"), QStringList({"END OF DAY 1", "END OF DAY 2", "END OF DAY 3"}));
+
+        Pushes production;
+        QVERIFY(CreateSchedulePages(*m_doc, range(true, 1, 1, false), production.context()).ok());
+        QCOMPARE(production.values("DayField"),
+                 QStringList({"PRODUCTION DAY 1 : " + longDate(0), "PRODUCTION DAY 2 : " + longDate(1),
+                              "PRODUCTION DAY 3 : " + longDate(2) + "        REST DAY",
+                              "PRODUCTION DAY 4 : " + longDate(3)}));
+        QCOMPARE(production.values("SceneField"), QStringList({"Scene: 1", "Scene: 2", "REST DAY", "Scene: 3"}));
+        QCOMPARE(production.values("GroupEndField").at(2), QStringLiteral("END OF DAY 3"));
+        // The rest-day row is blank elsewhere, each field a single blank.
+        for (const char *name : {"PageField", "PagesField", "LocationField", "SynopsisField", "CatagoryField1",
+                                 "CatagoryField2", "CatagoryField3", "CastField", "DayPagesField"})
+            QCOMPARE(production.values(QString::fromLatin1(name)).at(2), QStringLiteral(" "));
+    }
+    void bannerDaysGetRowsOfTheirOwn()
+    {
+        scene(*m_doc, "1");
+        AddDivider(*m_doc);
+        AddBanner(*m_doc, QStringLiteral("TRAVEL TO ST IVES"), 2);
+        AddBanner(*m_doc, QStringLiteral("A NOTE"), 0);
+        layOut(*m_doc, "2 |");
+        Pushes pushes;
+        QVERIFY(CreateSchedulePages(*m_doc, range(true, 1, 1, false), pushes.context()).ok());
+        QCOMPARE(pushes.values("DayField"),
+                 QStringList({"PRODUCTION DAY 1 : " + longDate(0),
+                              "PRODUCTION DAY 2 : " + longDate(1) + "        TRAVEL TO ST IVES",
+                              "PRODUCTION DAY 3 : " + longDate(2) + "        TRAVEL TO ST IVES",
+                              "PRODUCTION DAY 4 : " + longDate(3)}));
+        QCOMPARE(pushes.values("SceneField"),
+                 QStringList({"Scene: 1", "TRAVEL TO ST IVES", "TRAVEL TO ST IVES", "Scene: 2"}));
+        // Shooting days only: the banner days print nothing; the banner took one day number.
+        Pushes shooting;
+        QVERIFY(CreateSchedulePages(*m_doc, {}, shooting.context()).ok());
+        QCOMPARE(shooting.values("DayField"),
+                 QStringList({"SHOOTING DAY 1 : " + longDate(0), "SHOOTING DAY 3 : " + longDate(3)}));
+    }
+    void elementColumns()
+    {
+        // A scene with no elements: a blank cast text and three blank columns.
+        scene(*m_doc, "1");
+        const int row = scene(*m_doc, "2");
+        QList<int> elements;
+        elements << AddElement(*m_doc, "ANN", 1, "1") << AddElement(*m_doc, "BOB", 1, "4")
+                 << AddElement(*m_doc, "CY", 1, "12") << AddElement(*m_doc, "VAN", 4) << AddElement(*m_doc, "LAMP", 5)
+                 << AddElement(*m_doc, "MAP", 5) << AddElement(*m_doc, "ROPE", 5) << AddElement(*m_doc, "RAIN", 10)
+                 << AddElement(*m_doc, "UNUSED", 2);
+        // Assigned out of order: each list follows the element table.
+        for (int e : {8, 3, 7, 1, 6, 4, 5, 2})
+            AddAssignment(*m_doc, row, elements[e - 1]);
+        RecalculateDays(*m_doc);
+        Pushes pushes;
+        QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
+        QCOMPARE(pushes.values("CastField"), QStringList({" ", "Cast:  1  4  12"}));
+        // 12 lines: a third is 4. A list is never split; the test comes before each list.
+        QCOMPARE(pushes.values("CatagoryField1"),
+                 QStringList({" ", "CAST\r\n    1 ANN\r\n    4 BOB\r\n    12 CY\r\n \r\n"}));
+        QCOMPARE(pushes.values("CatagoryField2"),
+                 QStringList({" ", "VEHICLES\r\n    VAN\r\n \r\nPROPS\r\n    LAMP\r\n    MAP\r\n    ROPE\r\n \r\n"}));
+        QCOMPARE(pushes.values("CatagoryField3"), QStringList({" ", "SPECIAL FX\r\n    RAIN\r\n \r\n"}));
+    }
+    void breakdownBoxesContinueBelowTheSheet()
+    {
+        // 25 cast members and a location of 200 characters: more than the cast box and the
+        // synopsis box hold. Nothing may be lost: what the box cannot show continues below.
+        const int row = scene(*m_doc, "112A-112C");
+        m_doc->strips[row].set(StripField::Location, QString(QStringLiteral("THE LONG QUAY ")).repeated(14).trimmed());
+        m_doc->strips[row].set(StripField::IntExt, QStringLiteral("I/E"));
+        QStringList names;
+        for (int i = 1; i <= 25; ++i) {
+            names.append(QStringLiteral("CAST MEMBER %1").arg(i));
+            AddAssignment(*m_doc, row, AddElement(*m_doc, names.last(), 1, QString::number(i)));
+        }
+        scene(*m_doc, "2");
+        RecalculateDays(*m_doc);
+        Pushes pushes;
+        QVERIFY(CreateBreakdownPages(*m_doc, {}, pushes.context("Breakdown1.dfm")).ok());
+        QCOMPARE(pushes.values("IntExtField").first(), QStringLiteral("INT/EXT"));
+        const QStringList cast = pushes.values("CastListField").first().split(u'\r');
+        QCOMPARE(cast.size(), 25);
+        QCOMPARE(cast.first(), QStringLiteral("1 - CAST MEMBER 1"));
+        const QStringList continued = pushes.values("ContinuedField");
+        QCOMPARE(continued.size(), 2);
+        QVERIFY(continued.at(1).isEmpty()); // the short scene fits
+        QVERIFY(continued.at(0).startsWith(QStringLiteral("SHEET 1 CONTINUED")));
+        QVERIFY(continued.at(0).contains(QStringLiteral("CAST (continued)")));
+        QVERIFY(continued.at(0).contains(QStringLiteral("25 - CAST MEMBER 25")));
+        QVERIFY(continued.at(0).contains(QStringLiteral("LOCATION  /  SYNOPSIS (continued)")));
+    }
+    void brokenTemplateNamesLineAndCause()
+    {
+        const QString path = TempPath("ShootSch1.dfm");
+        QVERIFY(WriteBytes(path, "object F: TForm\n  object R: TAlReport\n    Papersize = alr_A3\n  end\nend\n"));
+        layOut(*m_doc, "1");
+        Pushes pushes;
+        QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context(path)).ok());
+        // The message every user has always seen, then where and why.
+        QCOMPARE(m_prompter.texts().size(), 1);
+        const QString text = m_prompter.texts().first();
+        QVERIFY(text.startsWith(QStringLiteral("Could not load schedule template file (%1). Please try re-installing "
+                                               "Torvanbridge.\r\r")
+                                    .arg(path)));
+        QVERIFY2(text.contains(QStringLiteral("ShootSch1.dfm, line 3: expected one of alr_A4")), qPrintable(text));
+    }
+    void rowValuesInOrder()
+    {
+        scene(*m_doc, "12A", "1.375");
+        scene(*m_doc, "13", "0.5");
+        layOut(*m_doc, "|");
+        Pushes pushes;
+        QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
+        QCOMPARE(pushes.names.mid(0, 14),
+                 QStringList({"PictureField", "CompanyField", "DayField", "GroupEndField", "SceneField", "PageField",
+                              "PagesField", "LocationField", "SynopsisField", "CastField", "CatagoryField1",
+                              "CatagoryField2", "CatagoryField3", "DayPagesField"}));
+        // This program's values come after those of every row and after the closing line.
+        QCOMPARE(pushes.names.mid(14, 10),
+                 QStringList({"SceneNoField", "IntExtField", "SetLocField", "DNField", "LengthField", "ScriptPageField",
+                              "CastIdsField", "SetNameField", "NotesField", "DayField"}));
+        QCOMPARE(pushes.names.mid(pushes.names.size() - 3), QStringList({"GrandTotal", "TotalsField", "TitleField"}));
+        QCOMPARE(pushes.values("TotalsField"), QStringList{"1 shooting day, 2 scenes, 1 7/8 pages"});
+        QCOMPARE(pushes.values("LengthField"), QStringList({"1 3/8", "4/8"}));
+        QCOMPARE(pushes.values("SceneField").first(), QStringLiteral("Scene: 12A"));
+        QCOMPARE(pushes.values("PageField").first(), QStringLiteral("Page: 12A"));
+        QCOMPARE(pushes.values("PagesField"), QStringList({"Pages: 1 3/8", "Pages: 4/8"}));
+        QCOMPARE(pushes.values("DayPagesField"), QStringList({"Total pages: 1 7/8", "Total pages: 1 7/8"}));
+    }
+    void locationLine_data()
+    {
+        Columns<QStringList, QString>("intExtDayNight", "line");
+        Row("int day", QStringList{"I", "D"}, "INT - HARBOUR - DAY");
+        Row("ext night", QStringList{"E", "N"}, "EXT - HARBOUR - NIGHT");
+        Row("int/ext dawn", QStringList{"I/E", "DWN"}, "INT/EXT - HARBOUR - DAWN");
+        Row("dusk only", QStringList{"", "DSK"}, "HARBOUR - DUSK");
+        Row("neither", QStringList{"X", "Y"}, "HARBOUR");
+    }
+    void locationLine()
+    {
+        auto [intExtDayNight, line] = Fetch<QStringList, QString>("intExtDayNight", "line");
+        const int row = scene(*m_doc, "1");
+        m_doc->strips[row].set(StripField::IntExt, intExtDayNight[0]);
+        m_doc->strips[row].set(StripField::DayNight, intExtDayNight[1]);
+        RecalculateDays(*m_doc);
+        Pushes pushes;
+        QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
+        QCOMPARE(pushes.values("LocationField"), QStringList{line});
+    }
+    void dayFieldThatIsNoNumber()
+    {
+        layOut(*m_doc, "1 2");
+        m_doc->strips[2].set(StripField::DayNumber, QStringLiteral("x"));
+        Pushes pushes;
+        QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
+        QCOMPARE(m_prompter.texts(), QStringList{"'x' is not a valid integer value"});
+        QVERIFY(!m_status.busy);
+    }
+    void missingTemplate_data()
+    {
+        // message: %1 = the template path
+        Columns<int, QString>("report", "message");
+        Row("schedule", 0, "Could not load schedule template file (%1). Please try re-installing Torvanbridge.");
+        Row("breakdown", 1,
+            "Could not load breakdown sheet template file (%1). Please try re-installing "
+            "Torvanbridge.");
+        // This message names no file.
+        Row("element summary", 2,
+            "Could not load element summary sheet template file. Please try re-installing Torvanbridge.");
+    }
+    void missingTemplate()
+    {
+        auto [report, message] = Fetch<int, QString>("report", "message");
+        QStringList trace;
+        const QString path = TempPath("gone.dfm");
+        const ReportBuildContext context{[&](const QString &l) { trace.append(l); }, nullptr, path};
+        ScheduleReportOptions oneLine;
+        oneLine.oneLine = true;
+        const bool ok = report == 0   ? CreateSchedulePages(*m_doc, oneLine, context).ok()
+                        : report == 1 ? CreateBreakdownPages(*m_doc, {}, context).ok()
+                                      : CreateElementSummaryPages(*m_doc, {}, context).ok();
+        QVERIFY(!ok);
+        QCOMPARE(m_prompter.texts(), QStringList{message.contains("%1") ? message.arg(path) : message});
+        QCOMPARE(trace.size(), 1); // the loader's own detail
+        QVERIFY(!m_status.busy);   // the hourglass is restored
+    }
+    void breakdownCategoryFieldsByTag()
+    {
+        const QString path = TempPath("TaggedBreakdown.dfm");
+        QVERIFY(WriteBytes(
+            path, "object F: TForm\n  object R: TAlReport\n  end\n  object D: tAlBand\n    BandType = alr_Detail\n"
+                  "    object BSField: TAlField\n    end\n"
+                  "    object CastName: TAlField\n      Tag = 1\n    end\n"
+                  "    object Ordinary: TAlField\n      Tag = 100\n    end\n"
+                  "    object CastList: TAlField\n      Tag = 101\n    end\n"
+                  "    object PropList: TAlField\n      Tag = 105\n    end\n"
+                  "  end\nend\n"));
+        const int row = scene(*m_doc, "7");
+        m_doc->strips[row].set(StripField::Location, QStringLiteral("QUAY"));
+        m_doc->strips[row].set(StripField::Notes, QStringLiteral("\"Rain at dusk\",Boats"));
+        m_doc->strips[row].set(StripField::DayNight, QStringLiteral("N"));
+        const int ann = AddElement(*m_doc, "ANN", 1, "1");
+        const int bob = AddElement(*m_doc, "BOB", 1, "2");
+        AddElement(*m_doc, "LAMP", 5);
+        AddAssignment(*m_doc, row, bob);
+        AddAssignment(*m_doc, row, ann);
+        Pushes pushes;
+        auto built = CreateBreakdownPages(*m_doc, {}, pushes.context(path));
+        QVERIFY2(built.ok(), qPrintable(built.message()));
+        QCOMPARE(pushes.values("BSField"), QStringList{"1"});
+        QCOMPARE(pushes.values("CastName"), QStringList{"CAST"});
+        QCOMPARE(pushes.values("CastList"), QStringList{"ANN\rBOB\r"}); // element order, not assignment order
+        QCOMPARE(pushes.values("PropList"), QStringList{""});
+        QVERIFY(pushes.values("Ordinary").isEmpty()); // tag 100 is an ordinary field
+        QCOMPARE(pushes.values("SynopsisField"), QStringList{"QUAY\rSynopsis 7"});
+        QCOMPARE(pushes.values("NotesField"), QStringList{"Rain at dusk\r\nBoats\r\n"});
+        QCOMPARE(pushes.values("DNField"), QStringList{"N"});
+        QCOMPARE(pushes.values("NotesCat"), QStringList{"NOTES"});
+    }
+    void breakdownSpecificSheets()
+    {
+        m_doc->values.CompanyAddress = QStringLiteral("\"1 Quay Street\",Penzance");
+        layOut(*m_doc, "1 | 2 3");
+        const QList<BreakdownListItem> items = BreakdownListItems(*m_doc);
+        QCOMPARE(items.size(), 3);
+        QCOMPARE(items[1].row, 3);
+        QCOMPARE(items[1].text, QStringLiteral("2 - HARBOUR  Synopsis 2"));
+
+        Pushes none;
+        BreakdownReportOptions chosen;
+        chosen.all = false;
+        auto empty = CreateBreakdownPages(*m_doc, chosen, none.context("Breakdown1.dfm"));
+        QVERIFY(empty.ok());
+        QVERIFY(empty->nothingToPrint);
+        QVERIFY(none.values("BSField").isEmpty());
+        QCOMPARE(none.values("AddressField"), QStringList{"1 Quay Street\r\nPenzance\r\n"});
+
+        Pushes some;
+        chosen.rows = {4, 2, 1}; // the divider in the middle is passed over
+        auto built = CreateBreakdownPages(*m_doc, chosen, some.context("Breakdown1.dfm"));
+        QVERIFY(built.ok());
+        QCOMPARE(built->rows, 2);
+        QCOMPARE(some.values("SceneField"), QStringList({"3", "1"}));
+        QCOMPARE(some.values("CatName1"), QStringList({"CAST", "CAST"}));
+    }
+    void elementSummaryDaysUsed()
+    {
+        const int boat = AddElement(*m_doc, "BOAT", 4, "B1");
+        m_doc->elements[boat].set(ElementField::PersonName, QStringLiteral("Mary Ellen"));
+        m_doc->elements[boat].set(ElementField::PrintOnBoard, QStringLiteral("1"));
+        m_doc->elements[boat].set(ElementField::OtherInfo, QStringLiteral("\"Needs a skipper\",Insured"));
+        for (int day = 1; day <= 7; ++day) {
+            const int row = scene(*m_doc, QString::number(day));
+            if (day == 2 || day == 3 || day == 7)
+                AddAssignment(*m_doc, row, boat);
+            if (day == 3) // a second scene the same day is no second day used
+                AddAssignment(*m_doc, scene(*m_doc, "3B"), boat);
+            AddDivider(*m_doc);
+        }
+        RecalculateDays(*m_doc);
+        Pushes pushes;
+        ElementSummaryOptions options;
+        options.categories = {4};
+        auto built = CreateElementSummaryPages(*m_doc, options, pushes.context("ElementSummary1.dfm"));
+        QVERIFY2(built.ok(), qPrintable(built.message()));
+        const auto shortDate = [](int d) {
+            return legacy::FormatDate(Start.addDays(d), QString::fromLatin1(legacy::ShortDatePattern));
+        };
+        QCOMPARE(pushes.values("FirstField"), QStringList{shortDate(1)});
+        QCOMPARE(pushes.values("LastField"), QStringList{shortDate(6)});
+        QCOMPARE(pushes.values("TotalField"), QStringList{"6"});
+        QCOMPARE(pushes.values("UsedField"), QStringList{"3"});
+        QCOMPARE(pushes.values("NameField"), QStringList{"B1  BOAT"});
+        QCOMPARE(pushes.values("DescField"), QStringList{"Mary Ellen"});
+        QCOMPARE(pushes.values("TypeField"), QStringList{"Vehicles"});
+        QCOMPARE(pushes.values("NotesField"), QStringList{"Needs a skipper\r\nInsured\r\n"});
+        QCOMPARE(pushes.values("PBField"), QStringList{"Yes"});
+        QCOMPARE(pushes.values("HoldField"), QStringList{"No"});
+        QCOMPARE(pushes.names.mid(0, 7), QStringList({"PictureField", "AddressField", "CompanyField", "RefField",
+                                                      "DirField", "ProdField", "HeaderField"}));
+    }
+    void elementSummaryLeavesOutUnusedAndUnticked()
+    {
+        m_doc->values.PictureTitle = QStringLiteral("Harbour Lights");
+        const int row = scene(*m_doc, "1");
+        AddAssignment(*m_doc, row, AddElement(*m_doc, "ANN", 1, "1"));
+        AddElement(*m_doc, "NOBODY", 1, "2");
+        AddAssignment(*m_doc, row, AddElement(*m_doc, "LAMP", 5));
+        RecalculateDays(*m_doc);
+        Pushes pushes;
+        auto built = CreateElementSummaryPages(*m_doc, {}, pushes.context("ElementSummary1.dfm"));
+        QVERIFY(built.ok());
+        QCOMPARE(pushes.values("NameField"), QStringList{"1  ANN"}); // cast only, and only who is used
+        QCOMPARE(pushes.values("HeaderField"), QStringList{"Element summary - \"Harbour Lights\""});
+        QCOMPARE(built->rows, 1);
+    }
 
 private:
     std::unique_ptr<ScheduleDocument> m_doc;
     ScriptedPrompter m_prompter;
     RecordingStatus m_status;
 };
-
-void TestReportBuilders::initTestCase()
-{
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-}
-
-void TestReportBuilders::init()
-{
-    m_doc = std::make_unique<ScheduleDocument>();
-    m_doc->values.StartDate = legacy::FloatToText(legacy::DateToSerial(Start));
-    m_prompter.prompts.clear();
-    m_doc->setPrompter(&m_prompter);
-    m_doc->setStatusSink(&m_status);
-}
-
-void TestReportBuilders::dayRanges_data()
-{
-    QTest::addColumn<ScheduleReportOptions>("options");
-    QTest::addColumn<QStringList>("scenes");
-    QTest::addColumn<QString>("firstDay");
-    QTest::addColumn<QStringList>("grandTotal");
-    QTest::newRow("all") << range(true, 1, 1) << QStringList{"Scene: 1", "Scene: 2", "Scene: 3", "Scene: 4"}
-                         << "SHOOTING DAY 1 : " + longDate(0) << QStringList{"End"};
-    QTest::newRow("day 2 to 2") << range(false, 2, 2) << QStringList{"Scene: 2", "Scene: 3"}
-                                << "SHOOTING DAY 2 : " + longDate(1) << QStringList{"End (Days 2 to 2)"};
-    // "All" with a From of 3 still finds its start strip from the From box (kept so).
-    QTest::newRow("all, from 3") << range(true, 3, 3) << QStringList{"Scene: 4"} << "SHOOTING DAY 3 : " + longDate(2)
-                                 << QStringList{"End"};
-    // No strip on the first day asked for: nothing at all is pushed, nothing printed.
-    QTest::newRow("no strip on day 5") << range(false, 5, 6) << QStringList() << QString() << QStringList();
-}
-
-void TestReportBuilders::dayRanges()
-{
-    QFETCH(ScheduleReportOptions, options);
-    QFETCH(QStringList, scenes);
-    QFETCH(QString, firstDay);
-    QFETCH(QStringList, grandTotal);
-    layOut(*m_doc, "1 | 2 3 | 4 |");
-    Pushes pushes;
-    auto built = CreateSchedulePages(*m_doc, options, pushes.context());
-    QVERIFY2(built.ok(), qPrintable(built.message()));
-    QCOMPARE(pushes.values("SceneField"), scenes);
-    QCOMPARE(pushes.values("DayField").value(0), firstDay);
-    QCOMPARE(pushes.values("GrandTotal"), grandTotal);
-    QCOMPARE(built->rows, scenes.size());
-    QCOMPARE(built->nothingToPrint, scenes.isEmpty());
-}
-
-void TestReportBuilders::shootingDaysOnlyHidesRestDays()
-{
-    m_doc->values.AutoRestDayRule = QStringLiteral("S2"); // a rest day after the second day
-    layOut(*m_doc, "1 | 2 | 3 |");
-    QCOMPARE(Kinds(*m_doc), QStringLiteral("1 2 1 2 3 1 2"));
-
-    Pushes shooting;
-    QVERIFY(CreateSchedulePages(*m_doc, {}, shooting.context()).ok());
-    QCOMPARE(shooting.values("DayField"),
-             QStringList({"SHOOTING DAY 1 : " + longDate(0), "SHOOTING DAY 2 : " + longDate(1),
-                          "SHOOTING DAY 3 : " + longDate(3)}));
-    QCOMPARE(shooting.values("GroupEndField"), QStringList({"END OF DAY 1", "END OF DAY 2", "END OF DAY 3"}));
-
-    Pushes production;
-    QVERIFY(CreateSchedulePages(*m_doc, range(true, 1, 1, false), production.context()).ok());
-    QCOMPARE(
-        production.values("DayField"),
-        QStringList({"PRODUCTION DAY 1 : " + longDate(0), "PRODUCTION DAY 2 : " + longDate(1),
-                     "PRODUCTION DAY 3 : " + longDate(2) + "        REST DAY", "PRODUCTION DAY 4 : " + longDate(3)}));
-    QCOMPARE(production.values("SceneField"), QStringList({"Scene: 1", "Scene: 2", "REST DAY", "Scene: 3"}));
-    QCOMPARE(production.values("GroupEndField").at(2), QStringLiteral("END OF DAY 3"));
-    // The rest-day row is blank elsewhere, each field a single blank.
-    for (const char *name : {"PageField", "PagesField", "LocationField", "SynopsisField", "CatagoryField1",
-                             "CatagoryField2", "CatagoryField3", "CastField", "DayPagesField"})
-        QCOMPARE(production.values(QString::fromLatin1(name)).at(2), QStringLiteral(" "));
-}
-
-void TestReportBuilders::bannerDaysGetRowsOfTheirOwn()
-{
-    scene(*m_doc, "1");
-    AddDivider(*m_doc);
-    AddBanner(*m_doc, QStringLiteral("TRAVEL TO ST IVES"), 2);
-    AddBanner(*m_doc, QStringLiteral("A NOTE"), 0);
-    layOut(*m_doc, "2 |");
-    Pushes pushes;
-    QVERIFY(CreateSchedulePages(*m_doc, range(true, 1, 1, false), pushes.context()).ok());
-    QCOMPARE(pushes.values("DayField"), QStringList({"PRODUCTION DAY 1 : " + longDate(0),
-                                                     "PRODUCTION DAY 2 : " + longDate(1) + "        TRAVEL TO ST IVES",
-                                                     "PRODUCTION DAY 3 : " + longDate(2) + "        TRAVEL TO ST IVES",
-                                                     "PRODUCTION DAY 4 : " + longDate(3)}));
-    QCOMPARE(pushes.values("SceneField"),
-             QStringList({"Scene: 1", "TRAVEL TO ST IVES", "TRAVEL TO ST IVES", "Scene: 2"}));
-    // Shooting days only: the banner days print nothing; the banner took one day number.
-    Pushes shooting;
-    QVERIFY(CreateSchedulePages(*m_doc, {}, shooting.context()).ok());
-    QCOMPARE(shooting.values("DayField"),
-             QStringList({"SHOOTING DAY 1 : " + longDate(0), "SHOOTING DAY 3 : " + longDate(3)}));
-}
-
-void TestReportBuilders::elementColumns()
-{
-    // A scene with no elements: a blank cast text and three blank columns.
-    scene(*m_doc, "1");
-    const int row = scene(*m_doc, "2");
-    QList<int> elements;
-    elements << AddElement(*m_doc, "ANN", 1, "1") << AddElement(*m_doc, "BOB", 1, "4")
-             << AddElement(*m_doc, "CY", 1, "12") << AddElement(*m_doc, "VAN", 4) << AddElement(*m_doc, "LAMP", 5)
-             << AddElement(*m_doc, "MAP", 5) << AddElement(*m_doc, "ROPE", 5) << AddElement(*m_doc, "RAIN", 10)
-             << AddElement(*m_doc, "UNUSED", 2);
-    // Assigned out of order: each list follows the element table.
-    for (int e : {8, 3, 7, 1, 6, 4, 5, 2})
-        AddAssignment(*m_doc, row, elements[e - 1]);
-    RecalculateDays(*m_doc);
-    Pushes pushes;
-    QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-    QCOMPARE(pushes.values("CastField"), QStringList({" ", "Cast:  1  4  12"}));
-    // 12 lines: a third is 4. A list is never split; the test comes before each list.
-    QCOMPARE(pushes.values("CatagoryField1"),
-             QStringList({" ", "CAST\r\n    1 ANN\r\n    4 BOB\r\n    12 CY\r\n \r\n"}));
-    QCOMPARE(pushes.values("CatagoryField2"),
-             QStringList({" ", "VEHICLES\r\n    VAN\r\n \r\nPROPS\r\n    LAMP\r\n    MAP\r\n    ROPE\r\n \r\n"}));
-    QCOMPARE(pushes.values("CatagoryField3"), QStringList({" ", "SPECIAL FX\r\n    RAIN\r\n \r\n"}));
-}
-
-void TestReportBuilders::breakdownBoxesContinueBelowTheSheet()
-{
-    // 25 cast members and a location of 200 characters: more than the cast box and the
-    // synopsis box hold. Nothing may be lost: what the box cannot show continues below.
-    const int row = scene(*m_doc, "112A-112C");
-    m_doc->strips[row].set(StripField::Location, QString(QStringLiteral("THE LONG QUAY ")).repeated(14).trimmed());
-    m_doc->strips[row].set(StripField::IntExt, QStringLiteral("I/E"));
-    QStringList names;
-    for (int i = 1; i <= 25; ++i) {
-        names.append(QStringLiteral("CAST MEMBER %1").arg(i));
-        AddAssignment(*m_doc, row, AddElement(*m_doc, names.last(), 1, QString::number(i)));
-    }
-    scene(*m_doc, "2");
-    RecalculateDays(*m_doc);
-    Pushes pushes;
-    QVERIFY(CreateBreakdownPages(*m_doc, {}, pushes.context("Breakdown1.dfm")).ok());
-    QCOMPARE(pushes.values("IntExtField").first(), QStringLiteral("INT/EXT"));
-    const QStringList cast = pushes.values("CastListField").first().split(u'\r');
-    QCOMPARE(cast.size(), 25);
-    QCOMPARE(cast.first(), QStringLiteral("1 - CAST MEMBER 1"));
-    const QStringList continued = pushes.values("ContinuedField");
-    QCOMPARE(continued.size(), 2);
-    QVERIFY(continued.at(1).isEmpty()); // the short scene fits
-    QVERIFY(continued.at(0).startsWith(QStringLiteral("SHEET 1 CONTINUED")));
-    QVERIFY(continued.at(0).contains(QStringLiteral("CAST (continued)")));
-    QVERIFY(continued.at(0).contains(QStringLiteral("25 - CAST MEMBER 25")));
-    QVERIFY(continued.at(0).contains(QStringLiteral("LOCATION  /  SYNOPSIS (continued)")));
-}
-
-void TestReportBuilders::brokenTemplateNamesLineAndCause()
-{
-    const QString path = TempPath("ShootSch1.dfm");
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("object F: TForm\n  object R: TAlReport\n    Papersize = alr_A3\n  end\nend\n");
-    f.close();
-    layOut(*m_doc, "1");
-    Pushes pushes;
-    QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context(path)).ok());
-    // The message every user has always seen, then where and why.
-    QCOMPARE(m_prompter.texts().size(), 1);
-    const QString text = m_prompter.texts().first();
-    QVERIFY(text.startsWith(QStringLiteral("Could not load schedule template file (%1). Please try re-installing "
-                                           "Torvanbridge.\r\r")
-                                .arg(path)));
-    QVERIFY2(text.contains(QStringLiteral("ShootSch1.dfm, line 3: expected one of alr_A4")), qPrintable(text));
-}
-
-void TestReportBuilders::rowValuesInOrder()
-{
-    scene(*m_doc, "12A", "1.375");
-    scene(*m_doc, "13", "0.5");
-    layOut(*m_doc, "|");
-    Pushes pushes;
-    QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-    QCOMPARE(pushes.names.mid(0, 14),
-             QStringList({"PictureField", "CompanyField", "DayField", "GroupEndField", "SceneField", "PageField",
-                          "PagesField", "LocationField", "SynopsisField", "CastField", "CatagoryField1",
-                          "CatagoryField2", "CatagoryField3", "DayPagesField"}));
-    // This program's values come after those of every row and after the closing line.
-    QCOMPARE(pushes.names.mid(14, 10),
-             QStringList({"SceneNoField", "IntExtField", "SetLocField", "DNField", "LengthField", "ScriptPageField",
-                          "CastIdsField", "SetNameField", "NotesField", "DayField"}));
-    QCOMPARE(pushes.names.mid(pushes.names.size() - 3), QStringList({"GrandTotal", "TotalsField", "TitleField"}));
-    QCOMPARE(pushes.values("TotalsField"), QStringList{"1 shooting day, 2 scenes, 1 7/8 pages"});
-    QCOMPARE(pushes.values("LengthField"), QStringList({"1 3/8", "4/8"}));
-    QCOMPARE(pushes.values("SceneField").first(), QStringLiteral("Scene: 12A"));
-    QCOMPARE(pushes.values("PageField").first(), QStringLiteral("Page: 12A"));
-    QCOMPARE(pushes.values("PagesField"), QStringList({"Pages: 1 3/8", "Pages: 4/8"}));
-    QCOMPARE(pushes.values("DayPagesField"), QStringList({"Total pages: 1 7/8", "Total pages: 1 7/8"}));
-}
-
-void TestReportBuilders::locationLine_data()
-{
-    QTest::addColumn<QStringList>("intExtDayNight");
-    QTest::addColumn<QString>("line");
-    QTest::newRow("int day") << QStringList{"I", "D"} << "INT - HARBOUR - DAY";
-    QTest::newRow("ext night") << QStringList{"E", "N"} << "EXT - HARBOUR - NIGHT";
-    QTest::newRow("int/ext dawn") << QStringList{"I/E", "DWN"} << "INT/EXT - HARBOUR - DAWN";
-    QTest::newRow("dusk only") << QStringList{"", "DSK"} << "HARBOUR - DUSK";
-    QTest::newRow("neither") << QStringList{"X", "Y"} << "HARBOUR";
-}
-
-void TestReportBuilders::locationLine()
-{
-    QFETCH(QStringList, intExtDayNight);
-    QFETCH(QString, line);
-    const int row = scene(*m_doc, "1");
-    m_doc->strips[row].set(StripField::IntExt, intExtDayNight[0]);
-    m_doc->strips[row].set(StripField::DayNight, intExtDayNight[1]);
-    RecalculateDays(*m_doc);
-    Pushes pushes;
-    QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-    QCOMPARE(pushes.values("LocationField"), QStringList{line});
-}
-
-void TestReportBuilders::dayFieldThatIsNoNumber()
-{
-    layOut(*m_doc, "1 2");
-    m_doc->strips[2].set(StripField::DayNumber, QStringLiteral("x"));
-    Pushes pushes;
-    QVERIFY(!CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-    QCOMPARE(m_prompter.texts(), QStringList{"'x' is not a valid integer value"});
-    QVERIFY(!m_status.busy);
-}
-
-void TestReportBuilders::missingTemplate_data()
-{
-    QTest::addColumn<int>("report");
-    QTest::addColumn<QString>("message"); // %1 = the template path
-    QTest::newRow("schedule") << 0
-                              << "Could not load schedule template file (%1). Please try re-installing Torvanbridge.";
-    QTest::newRow("breakdown") << 1
-                               << "Could not load breakdown sheet template file (%1). Please try re-installing "
-                                  "Torvanbridge.";
-    // This message names no file.
-    QTest::newRow("element summary")
-        << 2 << "Could not load element summary sheet template file. Please try re-installing Torvanbridge.";
-}
-
-void TestReportBuilders::missingTemplate()
-{
-    QFETCH(int, report);
-    QFETCH(QString, message);
-    QStringList trace;
-    const QString path = TempPath("gone.dfm");
-    const ReportBuildContext context{[&](const QString &l) { trace.append(l); }, nullptr, path};
-    ScheduleReportOptions oneLine;
-    oneLine.oneLine = true;
-    const bool ok = report == 0   ? CreateSchedulePages(*m_doc, oneLine, context).ok()
-                    : report == 1 ? CreateBreakdownPages(*m_doc, {}, context).ok()
-                                  : CreateElementSummaryPages(*m_doc, {}, context).ok();
-    QVERIFY(!ok);
-    QCOMPARE(m_prompter.texts(), QStringList{message.contains("%1") ? message.arg(path) : message});
-    QCOMPARE(trace.size(), 1); // the loader's own detail
-    QVERIFY(!m_status.busy);   // the hourglass is restored
-}
-
-void TestReportBuilders::breakdownCategoryFieldsByTag()
-{
-    const QString path = TempPath("TaggedBreakdown.dfm");
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("object F: TForm\n  object R: TAlReport\n  end\n  object D: tAlBand\n    BandType = alr_Detail\n"
-            "    object BSField: TAlField\n    end\n"
-            "    object CastName: TAlField\n      Tag = 1\n    end\n"
-            "    object Ordinary: TAlField\n      Tag = 100\n    end\n"
-            "    object CastList: TAlField\n      Tag = 101\n    end\n"
-            "    object PropList: TAlField\n      Tag = 105\n    end\n"
-            "  end\nend\n");
-    f.close();
-    const int row = scene(*m_doc, "7");
-    m_doc->strips[row].set(StripField::Location, QStringLiteral("QUAY"));
-    m_doc->strips[row].set(StripField::Notes, QStringLiteral("\"Rain at dusk\",Boats"));
-    m_doc->strips[row].set(StripField::DayNight, QStringLiteral("N"));
-    const int ann = AddElement(*m_doc, "ANN", 1, "1");
-    const int bob = AddElement(*m_doc, "BOB", 1, "2");
-    AddElement(*m_doc, "LAMP", 5);
-    AddAssignment(*m_doc, row, bob);
-    AddAssignment(*m_doc, row, ann);
-    Pushes pushes;
-    auto built = CreateBreakdownPages(*m_doc, {}, pushes.context(path));
-    QVERIFY2(built.ok(), qPrintable(built.message()));
-    QCOMPARE(pushes.values("BSField"), QStringList{"1"});
-    QCOMPARE(pushes.values("CastName"), QStringList{"CAST"});
-    QCOMPARE(pushes.values("CastList"), QStringList{"ANN\rBOB\r"}); // element order, not assignment order
-    QCOMPARE(pushes.values("PropList"), QStringList{""});
-    QVERIFY(pushes.values("Ordinary").isEmpty()); // tag 100 is an ordinary field
-    QCOMPARE(pushes.values("SynopsisField"), QStringList{"QUAY\rSynopsis 7"});
-    QCOMPARE(pushes.values("NotesField"), QStringList{"Rain at dusk\r\nBoats\r\n"});
-    QCOMPARE(pushes.values("DNField"), QStringList{"N"});
-    QCOMPARE(pushes.values("NotesCat"), QStringList{"NOTES"});
-}
-
-void TestReportBuilders::breakdownSpecificSheets()
-{
-    m_doc->values.CompanyAddress = QStringLiteral("\"1 Quay Street\",Penzance");
-    layOut(*m_doc, "1 | 2 3");
-    const QList<BreakdownListItem> items = BreakdownListItems(*m_doc);
-    QCOMPARE(items.size(), 3);
-    QCOMPARE(items[1].row, 3);
-    QCOMPARE(items[1].text, QStringLiteral("2 - HARBOUR  Synopsis 2"));
-
-    Pushes none;
-    BreakdownReportOptions chosen;
-    chosen.all = false;
-    auto empty = CreateBreakdownPages(*m_doc, chosen, none.context("Breakdown1.dfm"));
-    QVERIFY(empty.ok());
-    QVERIFY(empty->nothingToPrint);
-    QVERIFY(none.values("BSField").isEmpty());
-    QCOMPARE(none.values("AddressField"), QStringList{"1 Quay Street\r\nPenzance\r\n"});
-
-    Pushes some;
-    chosen.rows = {4, 2, 1}; // the divider in the middle is passed over
-    auto built = CreateBreakdownPages(*m_doc, chosen, some.context("Breakdown1.dfm"));
-    QVERIFY(built.ok());
-    QCOMPARE(built->rows, 2);
-    QCOMPARE(some.values("SceneField"), QStringList({"3", "1"}));
-    QCOMPARE(some.values("CatName1"), QStringList({"CAST", "CAST"}));
-}
-
-void TestReportBuilders::elementSummaryDaysUsed()
-{
-    const int boat = AddElement(*m_doc, "BOAT", 4, "B1");
-    m_doc->elements[boat].set(ElementField::PersonName, QStringLiteral("Mary Ellen"));
-    m_doc->elements[boat].set(ElementField::PrintOnBoard, QStringLiteral("1"));
-    m_doc->elements[boat].set(ElementField::OtherInfo, QStringLiteral("\"Needs a skipper\",Insured"));
-    for (int day = 1; day <= 7; ++day) {
-        const int row = scene(*m_doc, QString::number(day));
-        if (day == 2 || day == 3 || day == 7)
-            AddAssignment(*m_doc, row, boat);
-        if (day == 3) // a second scene the same day is no second day used
-            AddAssignment(*m_doc, scene(*m_doc, "3B"), boat);
-        AddDivider(*m_doc);
-    }
-    RecalculateDays(*m_doc);
-    Pushes pushes;
-    ElementSummaryOptions options;
-    options.categories = {4};
-    auto built = CreateElementSummaryPages(*m_doc, options, pushes.context("ElementSummary1.dfm"));
-    QVERIFY2(built.ok(), qPrintable(built.message()));
-    const auto shortDate = [](int d) {
-        return legacy::FormatDate(Start.addDays(d), QString::fromLatin1(legacy::ShortDatePattern));
-    };
-    QCOMPARE(pushes.values("FirstField"), QStringList{shortDate(1)});
-    QCOMPARE(pushes.values("LastField"), QStringList{shortDate(6)});
-    QCOMPARE(pushes.values("TotalField"), QStringList{"6"});
-    QCOMPARE(pushes.values("UsedField"), QStringList{"3"});
-    QCOMPARE(pushes.values("NameField"), QStringList{"B1  BOAT"});
-    QCOMPARE(pushes.values("DescField"), QStringList{"Mary Ellen"});
-    QCOMPARE(pushes.values("TypeField"), QStringList{"Vehicles"});
-    QCOMPARE(pushes.values("NotesField"), QStringList{"Needs a skipper\r\nInsured\r\n"});
-    QCOMPARE(pushes.values("PBField"), QStringList{"Yes"});
-    QCOMPARE(pushes.values("HoldField"), QStringList{"No"});
-    QCOMPARE(pushes.names.mid(0, 7), QStringList({"PictureField", "AddressField", "CompanyField", "RefField",
-                                                  "DirField", "ProdField", "HeaderField"}));
-}
-
-void TestReportBuilders::elementSummaryLeavesOutUnusedAndUnticked()
-{
-    m_doc->values.PictureTitle = QStringLiteral("Harbour Lights");
-    const int row = scene(*m_doc, "1");
-    AddAssignment(*m_doc, row, AddElement(*m_doc, "ANN", 1, "1"));
-    AddElement(*m_doc, "NOBODY", 1, "2");
-    AddAssignment(*m_doc, row, AddElement(*m_doc, "LAMP", 5));
-    RecalculateDays(*m_doc);
-    Pushes pushes;
-    auto built = CreateElementSummaryPages(*m_doc, {}, pushes.context("ElementSummary1.dfm"));
-    QVERIFY(built.ok());
-    QCOMPARE(pushes.values("NameField"), QStringList{"1  ANN"}); // cast only, and only who is used
-    QCOMPARE(pushes.values("HeaderField"), QStringList{"Element summary - \"Harbour Lights\""});
-    QCOMPARE(built->rows, 1);
-}
 
 TB_TEST_MAIN(TestReportBuilders)
 #include "tst_reportbuilders.moc"

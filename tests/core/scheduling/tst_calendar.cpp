@@ -18,240 +18,199 @@ class TestCalendar : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void fridayStartWithWeekendsOff();
-    void startDateBeforeToday_data();
-    void startDateBeforeToday();
-    void clearingTheStartDate_data();
-    void clearingTheStartDate();
-    void ruleShownByTheDialog_data();
-    void ruleShownByTheDialog();
-    void ruleRefused_data();
-    void ruleRefused();
-    void lockBeforeTheStartDate();
-    void lockNeedsAStartDate();
-    void unlockMarksModified();
-    void holdDays();
-};
+    void fridayStartWithWeekendsOff()
+    {
+        Fixture f;
+        Build(f.doc, ThreeDays);
+        QVERIFY(ApplyStartDate(f.doc, Friday, Friday));
+        QCOMPARE(f.doc.values.StartDate, "46087");
+        QVERIFY(f.prompter.prompts.isEmpty()); // today is not later than the date
+        f.view.selectionAtRepaint.clear();
+        QVERIFY(ApplyRestDayRule(f.doc, "D76").ok());
+        QCOMPARE(f.doc.values.AutoRestDayRule, "D67"); // digits in order
 
-void TestCalendar::fridayStartWithWeekendsOff()
-{
-    Fixture f;
-    Build(f.doc, ThreeDays);
-    QVERIFY(ApplyStartDate(f.doc, Friday, Friday));
-    QCOMPARE(f.doc.values.StartDate, "46087");
-    QVERIFY(f.prompter.prompts.isEmpty()); // today is not later than the date
-    f.view.selectionAtRepaint.clear();
-    QVERIFY(ApplyRestDayRule(f.doc, "D76").ok());
-    QCOMPARE(f.doc.values.AutoRestDayRule, "D67"); // digits in order
-
-    // Day 1 Friday, then Saturday and Sunday off, and day 4 is Monday.
-    QCOMPARE(Kinds(f.doc), "1 2 3 3 1 2 1 2");
-    QCOMPARE(f.doc.strips[6][StripField::SceneNumber], "Mon, March 9, 2026");
-    QCOMPARE(FirstProductionDayText(f.doc), "First day of production is currently a Friday.");
-    QCOMPARE(f.view.selectionAtRepaint.size(), 1); // the rule repaints the board
-}
-
-void TestCalendar::startDateBeforeToday_data()
-{
-    QTest::addColumn<Answer>("answer");
-    Row("yes", Answer::Yes);
-    Row("no", Answer::No);
-}
-
-void TestCalendar::startDateBeforeToday()
-{
-    QFETCH(Answer, answer);
-    Fixture f;
-    f.doc.values.StartDate = FridayMarch6;
-    f.prompter.answers = {answer};
-    QCOMPARE(ApplyStartDate(f.doc, Earlier, Friday), answer == Answer::Yes);
-    QCOMPARE(f.prompter.texts(),
-             QStringList{"Errr? The date you have selected is before todays date! Have you discovered the secret of "
-                         "time travel?\r\rAre you sure you want to use a start date of Thu, January 1, 2026?"});
-    QCOMPARE(f.prompter.prompts.first().buttons, Buttons::YesNo);
-    QCOMPARE(f.doc.values.StartDate, answer == Answer::Yes ? "46023" : "46087");
-    QCOMPARE(f.doc.Modified, answer == Answer::Yes);
-}
-
-void TestCalendar::clearingTheStartDate_data()
-{
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("asked");
-    QTest::addColumn<bool>("cleared");
-    QTest::addColumn<QString>("kinds");
-
-    // Only the weekday rule needs the start date, so only it is asked about; a
-    // start-day rule goes silently, and its rest days with it.
-    Row("no rule", "", Answer::Yes, false, true, "1 2 1 2 1 2");
-    Row("S1", "S1", Answer::Yes, false, true, "1 2 1 2 1 2");
-    Row("D67, yes", "D67", Answer::Yes, true, true, "1 2 1 2 1 2");
-    Row("D67, no", "D67", Answer::No, true, false, "1 2 3 3 1 2 1 2");
-}
-
-void TestCalendar::clearingTheStartDate()
-{
-    QFETCH(QString, rule);
-    QFETCH(Answer, answer);
-    QFETCH(bool, asked);
-    QFETCH(bool, cleared);
-    QFETCH(QString, kinds);
-    Fixture f;
-    f.doc.values.StartDate = FridayMarch6;
-    f.doc.values.AutoRestDayRule = rule;
-    Build(f.doc, ThreeDays);
-    f.prompter.answers = {answer};
-
-    QCOMPARE(ApplyStartDate(f.doc, std::nullopt, Friday), cleared);
-    QCOMPARE(f.prompter.prompts.size(), asked ? 1 : 0);
-    if (asked) {
-        QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Warning);
-        QVERIFY(f.prompter.texts().first().startsWith(
-            "You are removing the start date from the schedule, but you have previously set certain days of the week "
-            "as rest days."));
-        QVERIFY(f.prompter.texts().first().endsWith(
-            "\r\rClick Yes to continue (removing the auto rest days) or No to cancel this operation."));
+        // Day 1 Friday, then Saturday and Sunday off, and day 4 is Monday.
+        QCOMPARE(Kinds(f.doc), "1 2 3 3 1 2 1 2");
+        QCOMPARE(f.doc.strips[6][StripField::SceneNumber], "Mon, March 9, 2026");
+        QCOMPARE(FirstProductionDayText(f.doc), "First day of production is currently a Friday.");
+        QCOMPARE(f.view.selectionAtRepaint.size(), 1); // the rule repaints the board
     }
-    QCOMPARE(f.doc.values.StartDate.isEmpty(), cleared);
-    QCOMPARE(f.doc.values.AutoRestDayRule, cleared ? QString() : rule);
-    QCOMPARE(Kinds(f.doc), kinds);
-    QCOMPARE(f.doc.strips[2][StripField::SceneNumber].isEmpty(), cleared); // dividers lose their dates
-}
+    void startDateBeforeToday_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        Row("yes", Answer::Yes);
+        Row("no", Answer::No);
+    }
+    void startDateBeforeToday()
+    {
+        QFETCH(Answer, answer);
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        f.prompter.answers = {answer};
+        QCOMPARE(ApplyStartDate(f.doc, Earlier, Friday), answer == Answer::Yes);
+        QCOMPARE(
+            f.prompter.texts(),
+            QStringList{"Errr? The date you have selected is before todays date! Have you discovered the secret of "
+                        "time travel?\r\rAre you sure you want to use a start date of Thu, January 1, 2026?"});
+        QCOMPARE(f.prompter.prompts.first().buttons, Buttons::YesNo);
+        QCOMPARE(f.doc.values.StartDate, answer == Answer::Yes ? "46023" : "46087");
+        QCOMPARE(f.doc.Modified, answer == Answer::Yes);
+    }
+    void clearingTheStartDate_data()
+    {
+        Columns<QString, Answer, bool, bool, QString>("rule", "answer", "asked", "cleared", "kinds");
 
-void TestCalendar::ruleShownByTheDialog_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<bool>("byWeekday");
-    QTest::addColumn<QString>("ticked");  // "1" for each ticked box 1..7
-    QTest::addColumn<QString>("written"); // the rule the dialog writes back unchanged
+        // Only the weekday rule needs the start date, so only it is asked about; a
+        // start-day rule goes silently, and its rest days with it.
+        Row("no rule", "", Answer::Yes, false, true, "1 2 1 2 1 2");
+        Row("S1", "S1", Answer::Yes, false, true, "1 2 1 2 1 2");
+        Row("D67, yes", "D67", Answer::Yes, true, true, "1 2 1 2 1 2");
+        Row("D67, no", "D67", Answer::No, true, false, "1 2 3 3 1 2 1 2");
+    }
+    void clearingTheStartDate()
+    {
+        auto [rule, answer, asked, cleared] = Fetch<QString, Answer, bool, bool>("rule", "answer", "asked", "cleared");
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        f.doc.values.AutoRestDayRule = rule;
+        Build(f.doc, ThreeDays);
+        f.prompter.answers = {answer};
 
-    Row("none", FridayMarch6, "", false, "0000000", "S");
-    Row("S6", FridayMarch6, "S6", false, "0000010", "S6");
-    Row("D67", FridayMarch6, "D67", true, "0000011", "D67");
-    // Without a start date the weekday basis cannot be shown.
-    Row("D67 without start", "", "D67", false, "0000011", "S67");
-    // The seventh box is hidden from the start day, but a tick in it still counts.
-    Row("S167", FridayMarch6, "S167", false, "1000011", "S167");
-}
+        QCOMPARE(ApplyStartDate(f.doc, std::nullopt, Friday), cleared);
+        QCOMPARE(f.prompter.prompts.size(), asked ? 1 : 0);
+        if (asked) {
+            QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Warning);
+            QVERIFY(f.prompter.texts().first().startsWith("You are removing the start date from the schedule, but you "
+                                                          "have previously set certain days of the week "
+                                                          "as rest days."));
+            QVERIFY(f.prompter.texts().first().endsWith(
+                "\r\rClick Yes to continue (removing the auto rest days) or No to cancel this operation."));
+        }
+        QCOMPARE(f.doc.values.StartDate.isEmpty(), cleared);
+        QCOMPARE(f.doc.values.AutoRestDayRule, cleared ? QString() : rule);
+        QTEST(Kinds(f.doc), "kinds");
+        QCOMPARE(f.doc.strips[2][StripField::SceneNumber].isEmpty(), cleared); // dividers lose their dates
+    }
+    void ruleShownByTheDialog_data()
+    {
+        // ticked: "1" for each ticked box 1..7
+        // written: the rule the dialog writes back unchanged
+        Columns<QString, QString, bool, QString, QString>("start", "rule", "byWeekday", "ticked", "written");
 
-void TestCalendar::ruleShownByTheDialog()
-{
-    QFETCH(QString, start);
-    QFETCH(QString, rule);
-    QFETCH(bool, byWeekday);
-    QFETCH(QString, ticked);
-    QFETCH(QString, written);
-    Fixture f;
-    f.doc.values.StartDate = start;
-    f.doc.values.AutoRestDayRule = rule;
-    const RestDayChoice choice = ReadRestDayRule(f.doc);
-    QCOMPARE(choice.basis == RestDayBasis::DayOfWeek, byWeekday);
-    QString boxes;
-    for (bool b : choice.ticked)
-        boxes += b ? u'1' : u'0';
-    QCOMPARE(boxes, ticked);
-    QCOMPARE(RestDayRuleText(choice), written);
-}
+        Row("none", FridayMarch6, "", false, "0000000", "S");
+        Row("S6", FridayMarch6, "S6", false, "0000010", "S6");
+        Row("D67", FridayMarch6, "D67", true, "0000011", "D67");
+        // Without a start date the weekday basis cannot be shown.
+        Row("D67 without start", "", "D67", false, "0000011", "S67");
+        // The seventh box is hidden from the start day, but a tick in it still counts.
+        Row("S167", FridayMarch6, "S167", false, "1000011", "S167");
+    }
+    void ruleShownByTheDialog()
+    {
+        auto [start, rule, ticked] = Fetch<QString, QString, QString>("start", "rule", "ticked");
+        Fixture f;
+        f.doc.values.StartDate = start;
+        f.doc.values.AutoRestDayRule = rule;
+        const RestDayChoice choice = ReadRestDayRule(f.doc);
+        QTEST(choice.basis == RestDayBasis::DayOfWeek, "byWeekday");
+        QString boxes;
+        for (bool b : choice.ticked)
+            boxes += b ? u'1' : u'0';
+        QCOMPARE(boxes, ticked);
+        QTEST(RestDayRuleText(choice), "written");
+    }
+    void ruleRefused_data()
+    {
+        Columns<QString, QString>("start", "rule");
+        Row("other letter", FridayMarch6, "W6");
+        Row("digit 8", FridayMarch6, "S8");
+        Row("digit 0", FridayMarch6, "S0");
+        Row("lower case", FridayMarch6, "d6");
+        Row("weekday without start", "", "D6");
+    }
+    void ruleRefused()
+    {
+        auto [start, rule] = Fetch<QString, QString>("start", "rule");
+        Fixture f;
+        f.doc.values.StartDate = start;
+        f.doc.values.AutoRestDayRule = "S6";
+        const Result r = ApplyRestDayRule(f.doc, rule);
+        QVERIFY(!r.ok());
+        QVERIFY(!r.message().isEmpty());
+        QCOMPARE(f.doc.values.AutoRestDayRule, "S6");
+        QVERIFY(!f.doc.Modified);
+    }
+    void lockBeforeTheStartDate()
+    {
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, ThreeDays);
+        f.doc.SelStart = 4;
+        f.doc.SelEnd = 2; // a selection made leftwards
+        f.doc.Modified = false;
+        QVERIFY(LockStrips(f.doc, Earlier).ok());
+        QCOMPARE(f.prompter.texts(), QStringList{"Errr? The date you have selected is before the production start "
+                                                 "date!\r\rYou must enter a date that is on or after 3/6/2026."});
+        QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Error);
+        // Locked all the same.
+        QStringList locks;
+        for (int i = 1; i <= f.doc.strips.count(); ++i)
+            locks.append(f.doc.strips[i][StripField::LockDate]);
+        QCOMPARE(locks, (QStringList{"", "1/1/2026", "1/1/2026", "1/1/2026", "", ""}));
+        QCOMPARE(LockDateOf(f.doc, 3), Earlier);
+        QVERIFY(f.doc.Modified);
 
-void TestCalendar::ruleRefused_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("rule");
-    Row("other letter", FridayMarch6, "W6");
-    Row("digit 8", FridayMarch6, "S8");
-    Row("digit 0", FridayMarch6, "S0");
-    Row("lower case", FridayMarch6, "d6");
-    Row("weekday without start", "", "D6");
-}
-
-void TestCalendar::ruleRefused()
-{
-    QFETCH(QString, start);
-    QFETCH(QString, rule);
-    Fixture f;
-    f.doc.values.StartDate = start;
-    f.doc.values.AutoRestDayRule = "S6";
-    const Result r = ApplyRestDayRule(f.doc, rule);
-    QVERIFY(!r.ok());
-    QVERIFY(!r.message().isEmpty());
-    QCOMPARE(f.doc.values.AutoRestDayRule, "S6");
-    QVERIFY(!f.doc.Modified);
-}
-
-void TestCalendar::lockBeforeTheStartDate()
-{
-    Fixture f;
-    f.doc.values.StartDate = FridayMarch6;
-    Build(f.doc, ThreeDays);
-    f.doc.SelStart = 4;
-    f.doc.SelEnd = 2; // a selection made leftwards
-    f.doc.Modified = false;
-    QVERIFY(LockStrips(f.doc, Earlier).ok());
-    QCOMPARE(f.prompter.texts(), QStringList{"Errr? The date you have selected is before the production start "
-                                             "date!\r\rYou must enter a date that is on or after 3/6/2026."});
-    QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Error);
-    // Locked all the same.
-    QStringList locks;
-    for (int i = 1; i <= f.doc.strips.count(); ++i)
-        locks.append(f.doc.strips[i][StripField::LockDate]);
-    QCOMPARE(locks, (QStringList{"", "1/1/2026", "1/1/2026", "1/1/2026", "", ""}));
-    QCOMPARE(LockDateOf(f.doc, 3), Earlier);
-    QVERIFY(f.doc.Modified);
-
-    // On the start date itself: no warning.
-    f.prompter.prompts.clear();
-    QVERIFY(LockStrips(f.doc, Friday).ok());
-    QVERIFY(f.prompter.prompts.isEmpty());
-    QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
-}
-
-void TestCalendar::lockNeedsAStartDate()
-{
-    Fixture f;
-    Build(f.doc, ThreeDays);
-    f.doc.Modified = false;
-    f.doc.SelStart = f.doc.SelEnd = 1;
-    QVERIFY(!CanLockStrips(f.doc));
-    QVERIFY(!LockStrips(f.doc, Friday).ok());
-    QCOMPARE(f.prompter.prompts.size(), 2);
-    QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Information);
-    QCOMPARE(f.prompter.texts().first(),
-             "You cannot lock strip(s) to a specific date yet, because you have not set a start date for the "
-             "production.\r\rPlease select Production | Start date... from the menu first.");
-    QCOMPARE(f.doc.strips[1][StripField::LockDate], "");
-    QVERIFY(!f.doc.Modified);
-}
-
-void TestCalendar::unlockMarksModified()
-{
-    Fixture f;
-    f.doc.values.StartDate = FridayMarch6;
-    Build(f.doc, ThreeDays);
-    f.doc.strips[1].set(StripField::LockDate, "3/9/2026");
-    f.doc.strips[2].set(StripField::LockDate, "3/9/2026");
-    f.doc.SelStart = 2;
-    f.doc.SelEnd = 3;
-    UnlockStrips(f.doc);
-    QCOMPARE(f.doc.strips[1][StripField::LockDate], "3/9/2026");
-    QCOMPARE(f.doc.strips[2][StripField::LockDate], "");
-    // Nothing left to unlock: still marked modified.
-    f.doc.Modified = false;
-    UnlockStrips(f.doc);
-    QVERIFY(f.doc.Modified);
-}
-
-void TestCalendar::holdDays()
-{
-    Fixture f;
-    QCOMPARE(f.doc.values.HoldDays, 10);
-    QVERIFY(SetHoldDays(f.doc, 999).ok());
-    QCOMPARE(f.doc.values.HoldDays, 999);
-    QVERIFY(!f.doc.Modified);
-    QVERIFY(!SetHoldDays(f.doc, 0).ok());
-    QVERIFY(!SetHoldDays(f.doc, 1000).ok());
-    QCOMPARE(f.doc.values.HoldDays, 999);
-}
+        // On the start date itself: no warning.
+        f.prompter.prompts.clear();
+        QVERIFY(LockStrips(f.doc, Friday).ok());
+        QVERIFY(f.prompter.prompts.isEmpty());
+        QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
+    }
+    void lockNeedsAStartDate()
+    {
+        Fixture f;
+        Build(f.doc, ThreeDays);
+        f.doc.Modified = false;
+        f.doc.SelStart = f.doc.SelEnd = 1;
+        QVERIFY(!CanLockStrips(f.doc));
+        QVERIFY(!LockStrips(f.doc, Friday).ok());
+        QCOMPARE(f.prompter.prompts.size(), 2);
+        QCOMPARE(f.prompter.prompts.first().kind, MessageKind::Information);
+        QCOMPARE(f.prompter.texts().first(),
+                 "You cannot lock strip(s) to a specific date yet, because you have not set a start date for the "
+                 "production.\r\rPlease select Production | Start date... from the menu first.");
+        QCOMPARE(f.doc.strips[1][StripField::LockDate], "");
+        QVERIFY(!f.doc.Modified);
+    }
+    void unlockMarksModified()
+    {
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, ThreeDays);
+        f.doc.strips[1].set(StripField::LockDate, "3/9/2026");
+        f.doc.strips[2].set(StripField::LockDate, "3/9/2026");
+        f.doc.SelStart = 2;
+        f.doc.SelEnd = 3;
+        UnlockStrips(f.doc);
+        QCOMPARE(f.doc.strips[1][StripField::LockDate], "3/9/2026");
+        QCOMPARE(f.doc.strips[2][StripField::LockDate], "");
+        // Nothing left to unlock: still marked modified.
+        f.doc.Modified = false;
+        UnlockStrips(f.doc);
+        QVERIFY(f.doc.Modified);
+    }
+    void holdDays()
+    {
+        Fixture f;
+        QCOMPARE(f.doc.values.HoldDays, 10);
+        QVERIFY(SetHoldDays(f.doc, 999).ok());
+        QCOMPARE(f.doc.values.HoldDays, 999);
+        QVERIFY(!f.doc.Modified);
+        QVERIFY(!SetHoldDays(f.doc, 0).ok());
+        QVERIFY(!SetHoldDays(f.doc, 1000).ok());
+        QCOMPARE(f.doc.values.HoldDays, 999);
+    }
+};
 
 TB_TEST_GUILESS_MAIN(TestCalendar)
 #include "tst_calendar.moc"

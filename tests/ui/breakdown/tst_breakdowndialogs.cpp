@@ -1,6 +1,5 @@
 #include "TestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "document/Settings.h"
 #include "ui/breakdown/TfrmAddElement.h"
 #include "ui/breakdown/TfrmConform.h"
@@ -11,7 +10,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,7 +19,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
-#include <QTest>
 #include <QTimer>
 
 #include <memory>
@@ -44,24 +41,15 @@ public:
     bool tickRemember = false;
 };
 
-template <typename T>
-T *child(QWidget &parent, const char *name)
-{
-    T *found = parent.findChild<T *>(QString::fromLatin1(name));
-    if (!found)
-        qFatal("no child %s", name);
-    return found;
-}
-
 void click(QWidget &parent, const char *button)
 {
-    QTest::mouseClick(child<QPushButton>(parent, button), Qt::LeftButton);
+    QTest::mouseClick(Child<QPushButton>(parent, button), Qt::LeftButton);
 }
 
 // Right-clicks the element grid in the given category column.
 QMenu *openPopup(TfrmStrip &dialog, int column)
 {
-    auto *grid = child<QTableWidget>(dialog, "ElGrid");
+    auto *grid = Child<QTableWidget>(dialog, "ElGrid");
     grid->scrollTo(grid->model()->index(0, column));
     const QPoint pos = grid->visualRect(grid->model()->index(0, column)).center();
     QTest::mouseClick(grid->viewport(), Qt::RightButton, {}, pos);
@@ -158,494 +146,445 @@ private Q_SLOTS:
         sceneDialog.reset();
         docp.reset();
     }
-    void sceneEditorShowsTheStrip();
-    void popupToggleIsLostOnNext();
-    void popupToggleSavedByOk();
-    void popupBreaksIntoColumns();
-    void editedFieldWarnsOnNext_data();
-    void editedFieldWarnsOnNext();
-    void nextStopsAtTheLastStrip();
-    void insertModeDisablesApplyAndStepping();
-    void applyInAddModeAppendsAgain();
-    void zeroLengthKeepsTheDialogOpen();
-    void addNewThenCancelFlagsTheLastElement();
-    void applyNextTwice();
-    void categoryChangeGivesCastNumber();
-    void duplicateIdDeclinedKeepsTheDialogOpen();
-    void holdRuleIsKeptForTheNextElement();
-    void editElementAssignments();
-    void sortDialog();
-    void sortAbortStillSorts();
-    void conformDialog();
-    void productionDetails();
-    void productionDetailsBrokenLogo();
-};
+    void sceneEditorShowsTheStrip()
+    {
+        ScheduleDocument &doc = small();
+        doc.strips[2].set(StripField::StripId, "17");
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
+        QCOMPARE(dialog.windowTitle(), "Edit scene breakdown #17");
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
+        QCOMPARE(Child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
+        QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 4);
+        QCOMPARE(Child<QComboBox>(dialog, "LocEdit")->currentText(), "BARN");
+        auto *grid = Child<QTableWidget>(dialog, "ElGrid");
+        QCOMPARE(grid->columnCount(), 15);
+        QCOMPARE(grid->horizontalHeaderItem(0)->text(), "Cast");
+        QCOMPARE(grid->horizontalHeaderItem(14)->text(), "Other");
+        QCOMPARE(column(grid, 0), QStringList{"ANNA"});
+        QCOMPARE(column(grid, 4), QStringList{"LAMP"});
+        QVERIFY(!dialog.isChanged());
+        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "NextBut")->isEnabled());
+    }
+    void popupToggleIsLostOnNext()
+    {
+        ScheduleDocument &doc = small();
+        RememberingPrompter &prompter = *prompterp;
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
 
-void TestBreakdownDialogs::sceneEditorShowsTheStrip()
-{
-    ScheduleDocument &doc = small();
-    doc.strips[2].set(StripField::StripId, "17");
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
-    QCOMPARE(dialog.windowTitle(), "Edit scene breakdown #17");
-    QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
-    QCOMPARE(child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
-    QCOMPARE(child<QSpinBox>(dialog, "EightsSpin")->value(), 4);
-    QCOMPARE(child<QComboBox>(dialog, "LocEdit")->currentText(), "BARN");
-    auto *grid = child<QTableWidget>(dialog, "ElGrid");
-    QCOMPARE(grid->columnCount(), 15);
-    QCOMPARE(grid->horizontalHeaderItem(0)->text(), "Cast");
-    QCOMPARE(grid->horizontalHeaderItem(14)->text(), "Other");
-    QCOMPARE(column(grid, 0), QStringList{"ANNA"});
-    QCOMPARE(column(grid, 4), QStringList{"LAMP"});
-    QVERIFY(!dialog.isChanged());
-    QVERIFY(child<QPushButton>(dialog, "PrevBut")->isEnabled());
-    QVERIFY(child<QPushButton>(dialog, "NextBut")->isEnabled());
-}
+        QMenu *menu = openPopup(dialog, 0);
+        QVERIFY(menu->isVisible());
+        QCOMPARE(menu->findChildren<QCheckBox *>().size(), 3);
+        QVERIFY(popupItem(menu, "ANNA")->isChecked());
+        QTest::mouseClick(popupItem(menu, "BEN"), Qt::LeftButton);
+        QVERIFY(!menu->isVisible());
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList({"ANNA", "BEN"}));
+        QVERIFY(!dialog.isChanged());
 
-void TestBreakdownDialogs::popupToggleIsLostOnNext()
-{
-    ScheduleDocument &doc = small();
-    RememberingPrompter &prompter = *prompterp;
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
+        click(dialog, "NextBut");
+        QVERIFY(prompter.prompts.isEmpty());
+        QCOMPARE(dialog.currentStrip, 3);
+        QCOMPARE(doc.strips[2][StripField::Assignments], "1,4");
+        click(dialog, "PrevBut");
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList{"ANNA"});
+    }
+    void popupToggleSavedByOk()
+    {
+        ScheduleDocument &doc = small();
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
+        QTest::mouseClick(popupItem(openPopup(dialog, 0), "CORA"), Qt::LeftButton);
+        QTest::mouseClick(popupItem(openPopup(dialog, 4), "LAMP"), Qt::LeftButton); // off again
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.strips[2][StripField::Assignments], "1,3");
+    }
+    void popupBreaksIntoColumns()
+    {
+        ScheduleDocument &doc = *docp;
+        AddScene(doc, "1", "1");
+        for (int i = 1; i <= 30; ++i)
+            AddElement(doc, QStringLiteral("PROP %1").arg(i), 5, "Prp");
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
+        QMenu *menu = openPopup(dialog, 4);
+        const QPoint first = popupItem(menu, "PROP 1")->pos();
+        const QPoint last = popupItem(menu, "PROP 25")->pos();
+        const QPoint next = popupItem(menu, "PROP 26")->pos();
+        QCOMPARE(last.x(), first.x());
+        QVERIFY(last.y() > first.y());
+        QVERIFY(next.x() > first.x());
+        QCOMPARE(next.y(), first.y());
+        QVERIFY(menu->findChild<QPushButton *>("ElPopupAddNew"));
+        menu->hide();
 
-    QMenu *menu = openPopup(dialog, 0);
-    QVERIFY(menu->isVisible());
-    QCOMPARE(menu->findChildren<QCheckBox *>().size(), 3);
-    QVERIFY(popupItem(menu, "ANNA")->isChecked());
-    QTest::mouseClick(popupItem(menu, "BEN"), Qt::LeftButton);
-    QVERIFY(!menu->isVisible());
-    QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 0), QStringList({"ANNA", "BEN"}));
-    QVERIFY(!dialog.isChanged());
-
-    click(dialog, "NextBut");
-    QVERIFY(prompter.prompts.isEmpty());
-    QCOMPARE(dialog.currentStrip, 3);
-    QCOMPARE(doc.strips[2][StripField::Assignments], "1,4");
-    click(dialog, "PrevBut");
-    QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 0), QStringList{"ANNA"});
-}
-
-void TestBreakdownDialogs::popupToggleSavedByOk()
-{
-    ScheduleDocument &doc = small();
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
-    QTest::mouseClick(popupItem(openPopup(dialog, 0), "CORA"), Qt::LeftButton);
-    QTest::mouseClick(popupItem(openPopup(dialog, 4), "LAMP"), Qt::LeftButton); // off again
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.strips[2][StripField::Assignments], "1,3");
-}
-
-void TestBreakdownDialogs::popupBreaksIntoColumns()
-{
-    ScheduleDocument &doc = *docp;
-    AddScene(doc, "1", "1");
-    for (int i = 1; i <= 30; ++i)
-        AddElement(doc, QStringLiteral("PROP %1").arg(i), 5, "Prp");
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
-    QMenu *menu = openPopup(dialog, 4);
-    const QPoint first = popupItem(menu, "PROP 1")->pos();
-    const QPoint last = popupItem(menu, "PROP 25")->pos();
-    const QPoint next = popupItem(menu, "PROP 26")->pos();
-    QCOMPARE(last.x(), first.x());
-    QVERIFY(last.y() > first.y());
-    QVERIFY(next.x() > first.x());
-    QCOMPARE(next.y(), first.y());
-    QVERIFY(menu->findChild<QPushButton *>("ElPopupAddNew"));
-    menu->hide();
-
-    // An empty category offers "Add new..." alone.
-    menu = openPopup(dialog, 6);
-    QVERIFY(menu->findChildren<QCheckBox *>().isEmpty());
-    QCOMPARE(dialog.elementDialog()->currentCategory, 7);
-    menu->hide();
-}
-
-void TestBreakdownDialogs::editedFieldWarnsOnNext_data()
-{
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("remember");
-    QTest::addColumn<QString>("synopsis");
-    QTest::newRow("Yes saves") << Answer::Yes << false << "Changed";
-    QTest::newRow("No drops") << Answer::No << false << "";
-    // Remembered, the question is asked no more and the answer saves as Yes did.
-    QTest::newRow("remembered") << Answer::Yes << true << "Changed";
-}
-
-void TestBreakdownDialogs::editedFieldWarnsOnNext()
-{
-    QFETCH(Answer, answer);
-    QFETCH(bool, remember);
-    ScheduleDocument &doc = small();
-    RememberingPrompter &prompter = *prompterp;
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
-    QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Changed");
-    QVERIFY(dialog.isChanged());
-    prompter.answers = {answer};
-    prompter.tickRemember = remember;
-    click(dialog, "NextBut");
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(prompter.prompts[0].text,
-             "You have made changes to this scene. Do you wish to save them before you proceed?");
-    QCOMPARE(prompter.prompts[0].checkBoxText, "&Remember my choice and don't ask again.");
-    QCOMPARE(prompter.prompts[0].buttons, Buttons::YesNo);
-    QTEST(doc.strips[1][StripField::Synopsis], "synopsis");
-    QCOMPARE(dialog.currentStrip, 2);
-    QVERIFY(!dialog.isChanged());
-    QCOMPARE(settingsp->skipWarning(RememberedWarning::SceneChange), remember);
-    if (remember) {
-        QTest::keyClicks(child<QLineEdit>(dialog, "DescEdit"), "Two");
+        // An empty category offers "Add new..." alone.
+        menu = openPopup(dialog, 6);
+        QVERIFY(menu->findChildren<QCheckBox *>().isEmpty());
+        QCOMPARE(dialog.elementDialog()->currentCategory, 7);
+        menu->hide();
+    }
+    void editedFieldWarnsOnNext_data()
+    {
+        Columns<Answer, bool, QString>("answer", "remember", "synopsis");
+        Row("Yes saves", Answer::Yes, false, "Changed");
+        Row("No drops", Answer::No, false, "");
+        // Remembered, the question is asked no more and the answer saves as Yes did.
+        Row("remembered", Answer::Yes, true, "Changed");
+    }
+    void editedFieldWarnsOnNext()
+    {
+        auto [answer, remember] = Fetch<Answer, bool>("answer", "remember");
+        ScheduleDocument &doc = small();
+        RememberingPrompter &prompter = *prompterp;
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Changed");
+        QVERIFY(dialog.isChanged());
+        prompter.answers = {answer};
+        prompter.tickRemember = remember;
         click(dialog, "NextBut");
         QCOMPARE(prompter.prompts.size(), 1);
-        QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
+        QCOMPARE(prompter.prompts[0].text,
+                 "You have made changes to this scene. Do you wish to save them before you proceed?");
+        QCOMPARE(prompter.prompts[0].checkBoxText, "&Remember my choice and don't ask again.");
+        QCOMPARE(prompter.prompts[0].buttons, Buttons::YesNo);
+        QTEST(doc.strips[1][StripField::Synopsis], "synopsis");
+        QCOMPARE(dialog.currentStrip, 2);
+        QVERIFY(!dialog.isChanged());
+        QCOMPARE(settingsp->skipWarning(RememberedWarning::SceneChange), remember);
+        if (remember) {
+            QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Two");
+            click(dialog, "NextBut");
+            QCOMPARE(prompter.prompts.size(), 1);
+            QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
+        }
     }
-}
-
-void TestBreakdownDialogs::nextStopsAtTheLastStrip()
-{
-    ScheduleDocument &doc = small();
-    AddDivider(doc);
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 3);
-    click(dialog, "NextBut");
-    QCOMPARE(dialog.currentStrip, 5);
-    QCOMPARE(doc.SelStart, 5);
-    QVERIFY(!child<QPushButton>(dialog, "NextBut")->isEnabled());
-    QVERIFY(child<QPushButton>(dialog, "PrevBut")->isEnabled());
-    QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "3"); // the page still shows scene 3
-    click(dialog, "PrevBut");
-    QCOMPARE(dialog.currentStrip, 3);
-    QVERIFY(child<QPushButton>(dialog, "NextBut")->isEnabled());
-}
-
-void TestBreakdownDialogs::insertModeDisablesApplyAndStepping()
-{
-    ScheduleDocument &doc = small();
-    TfrmStrip &dialog = openScene(SceneMode::Insert, 2);
-    QCOMPARE(dialog.windowTitle(), "New scene breakdown #4");
-    QVERIFY(!child<QPushButton>(dialog, "AddContBut")->isEnabled());
-    QVERIFY(!child<QPushButton>(dialog, "PrevBut")->isEnabled());
-    QVERIFY(!child<QPushButton>(dialog, "NextBut")->isEnabled());
-    QCOMPARE(child<QSpinBox>(dialog, "EightsSpin")->value(), 1);
-    QTest::keyClicks(child<QLineEdit>(dialog, "SceneEdit"), "1A");
-    click(dialog, "OKBut");
-    QCOMPARE(doc.strips[2][StripField::SceneNumber], "1A");
-    QCOMPARE(doc.strips[3][StripField::SceneNumber], "2");
-}
-
-void TestBreakdownDialogs::applyInAddModeAppendsAgain()
-{
-    ScheduleDocument &doc = small();
-    TfrmStrip &dialog = openScene(SceneMode::Add, 0);
-    QTest::keyClicks(child<QLineEdit>(dialog, "SceneEdit"), "9");
-    child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
-    click(dialog, "AddContBut");
-    click(dialog, "AddContBut");
-    QCOMPARE(doc.strips.count(), 6);
-    QCOMPARE(doc.strips[5][StripField::SceneNumber], "9");
-    QCOMPARE(doc.strips[6][StripField::SceneNumber], "9");
-    QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Close");
-    QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
-    QVERIFY(doc.locationPickList.contains("HARBOUR"));
-    auto *locations = child<QComboBox>(dialog, "LocEdit");
-    QVERIFY(locations->findText("HARBOUR") >= 0);
-    QCOMPARE(locations->currentText(), "HARBOUR");
-    click(dialog, "CancelBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.strips.count(), 6);
-}
-
-void TestBreakdownDialogs::zeroLengthKeepsTheDialogOpen()
-{
-    ScheduleDocument &doc = small();
-    RememberingPrompter &prompter = *prompterp;
-    TfrmStrip &dialog = openScene(SceneMode::Add, 0);
-    child<QLineEdit>(dialog, "SceneEdit")->setText("77");
-    child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
-    click(dialog, "OKBut");
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(doc.strips.count(), 4);
-    click(dialog, "AddContBut"); // Apply refuses the same way
-    QVERIFY(dialog.isVisible());
-    QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
-    QCOMPARE(doc.strips.count(), 4);
-    click(dialog, "CancelBut");
-}
-
-void TestBreakdownDialogs::addNewThenCancelFlagsTheLastElement()
-{
-    ScheduleDocument &doc = small();
-    TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
-    QMenu *menu = openPopup(dialog, 0); // the cast column
-    pressInNextModal("CancelBut");
-    QTest::mouseClick(menu->findChild<QPushButton *>("ElPopupAddNew"), Qt::LeftButton);
-    QCOMPARE(doc.elements.count(), 6);
-    // The table's last element, CROWD, is now flagged for this strip.
-    QCOMPARE(column(child<QTableWidget>(dialog, "ElGrid"), 1), QStringList{"CROWD"});
-    QVERIFY(dialog.isChanged());
-    QCOMPARE(dialog.elementDialog()->currentCategory, 1);
-    click(dialog, "OKBut");
-    QCOMPARE(doc.strips[1][StripField::Assignments], "6");
-}
-
-void TestBreakdownDialogs::applyNextTwice()
-{
-    ScheduleDocument &doc = small();
-    TfrmAddElement dialog(doc);
-    dialog.editIndex = -1;
-    dialog.currentCategory = 1;
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Add new element");
-    QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "4");
-    QVERIFY(child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-    QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "DORA");
-    child<QListWidget>(dialog, "AssignList")->item(2)->setCheckState(Qt::Checked);
-    click(dialog, "AddContBut");
-    QCOMPARE(child<QLineEdit>(dialog, "ElName")->text(), "");
-    QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "5");
-    QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "EVE");
-    click(dialog, "AddContBut");
-    QCOMPARE(doc.elements.count(), 8);
-    QCOMPARE(doc.elements[7][ElementField::Description], "DORA");
-    QCOMPARE(doc.elements[7][ElementField::BoardId], "4");
-    QCOMPARE(doc.elements[8][ElementField::BoardId], "5");
-    QCOMPARE(doc.strips[3][StripField::Assignments], "7");
-    QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Close");
-    QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
-    QVERIFY(dialog.isVisible());
-
-    // Shown again, the dialog starts afresh.
-    click(dialog, "CancelBut");
-    dialog.show();
-    QCOMPARE(child<QPushButton>(dialog, "CancelBut")->text(), "Cancel");
-    QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
-}
-
-void TestBreakdownDialogs::categoryChangeGivesCastNumber()
-{
-    ScheduleDocument &doc = small();
-    TfrmAddElement dialog(doc);
-    dialog.editIndex = 4; // LAMP, a prop
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Edit element \"LAMP\"");
-    QVERIFY(!child<QPushButton>(dialog, "AddContBut")->isEnabled());
-    auto *categories = child<QComboBox>(dialog, "CatCombo");
-    QCOMPARE(categories->count(), 15);
-    QCOMPARE(categories->currentIndex(), 4);
-    QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "Prp");
-    QVERIFY(!child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-    categories->setFocus();
-    while (categories->currentIndex() > 0)
-        QTest::keyClick(categories, Qt::Key_Up);
-    QCOMPARE(child<QLineEdit>(dialog, "IDEdit")->text(), "4");
-    QVERIFY(child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.elements[4][ElementField::CategoryNumber], "1");
-    QCOMPARE(doc.elements[4][ElementField::BoardId], "4");
-    QCOMPARE(doc.elements[4][ElementField::PrintOnBoard], "1");
-}
-
-void TestBreakdownDialogs::duplicateIdDeclinedKeepsTheDialogOpen()
-{
-    ScheduleDocument &doc = small();
-    RememberingPrompter &prompter = *prompterp;
-    TfrmAddElement dialog(doc);
-    dialog.editIndex = 5; // VASE, a prop
-    dialog.show();
-    auto *id = child<QLineEdit>(dialog, "IDEdit");
-    id->setText("3");
-    prompter.answers = {Answer::No};
-    click(dialog, "OKBut");
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(doc.elements[5][ElementField::BoardId], "Prp");
-    prompter.answers = {Answer::Yes};
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.elements[5][ElementField::BoardId], "3");
-}
-
-void TestBreakdownDialogs::holdRuleIsKeptForTheNextElement()
-{
-    ScheduleDocument &doc = small();
-    TfrmAddElement dialog(doc);
-    dialog.editIndex = -1;
-    dialog.show();
-    child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
-    QTest::keyClicks(child<QLineEdit>(dialog, "ElName"), "FRED");
-    click(dialog, "OKBut");
-    QCOMPARE(doc.elements[7][ElementField::HoldRule], "SAG");
-    dialog.show();
-    QVERIFY(child<QCheckBox>(dialog, "SAGCheck")->isChecked());
-}
-
-void TestBreakdownDialogs::editElementAssignments()
-{
-    ScheduleDocument &doc = small();
-    TfrmAddElement dialog(doc);
-    dialog.editIndex = 1; // ANNA, in scene 2
-    dialog.show();
-    auto *list = child<QListWidget>(dialog, "AssignList");
-    QCOMPARE(list->count(), 3);
-    QCOMPARE(list->item(1)->checkState(), Qt::Checked);
-    list->item(1)->setCheckState(Qt::Unchecked);
-    list->item(0)->setCheckState(Qt::Checked);
-    click(dialog, "OKBut");
-    QCOMPARE(doc.strips[1][StripField::Assignments], "1");
-    QCOMPARE(doc.strips[2][StripField::Assignments], "4");
-}
-
-void TestBreakdownDialogs::sortDialog()
-{
-    ScheduleDocument &doc = *docp;
-    for (const char *loc : {"PIER", "BARN", "ATTIC"}) {
-        const int row = AddScene(doc, loc, "1");
-        doc.strips[row].set(StripField::Location, loc);
+    void nextStopsAtTheLastStrip()
+    {
+        ScheduleDocument &doc = small();
+        AddDivider(doc);
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 3);
+        click(dialog, "NextBut");
+        QCOMPARE(dialog.currentStrip, 5);
+        QCOMPARE(doc.SelStart, 5);
+        QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "3"); // the page still shows scene 3
+        click(dialog, "PrevBut");
+        QCOMPARE(dialog.currentStrip, 3);
+        QVERIFY(Child<QPushButton>(dialog, "NextBut")->isEnabled());
     }
-    TfrmSort dialog(doc);
-    dialog.show();
-    QCOMPARE(child<QComboBox>(dialog, "HighCombo")->currentText(), "Location");
-    QCOMPARE(child<QComboBox>(dialog, "MidCombo")->currentText(), "Day / Night");
-    QCOMPARE(child<QComboBox>(dialog, "LowCombo")->currentText(), "Int / Ext");
-    QCOMPARE(child<QComboBox>(dialog, "MidCombo")->itemText(0), "(None)");
-    QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
-    QVERIFY(!child<QPushButton>(dialog, "UnSortBut")->isEnabled());
-    auto *grid = child<QTableWidget>(dialog, "SortGrid");
-    QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
-    click(dialog, "SortBut");
-    QCOMPARE(column(grid, 2), QStringList({"ATTIC", "BARN", "PIER"}));
-    QCOMPARE(column(grid, 0), QStringList({"3", "2", "1"}));
-    QVERIFY(child<QPushButton>(dialog, "OKBut")->isEnabled());
-    click(dialog, "UnSortBut");
-    QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
-    QVERIFY(!child<QPushButton>(dialog, "OKBut")->isEnabled());
-    click(dialog, "SortBut");
-    click(dialog, "OKBut");
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(doc.strips[1][StripField::SceneNumber], "ATTIC");
-    QCOMPARE(doc.strips[3][StripField::SceneNumber], "PIER");
-}
-
-void TestBreakdownDialogs::sortAbortStillSorts()
-{
-    ScheduleDocument &doc = *docp;
-    RememberingPrompter &prompter = *prompterp;
-    AddScene(doc, "10", "1");
-    AddDivider(doc);
-    AddScene(doc, "2", "1");
-    TfrmSort dialog(doc);
-    dialog.show();
-    child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
-    click(dialog, "SortBut");
-    prompter.answers = {Answer::Abort};
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Rejected));
-    QCOMPARE(Kinds(doc), "1 1");
-    QCOMPARE(doc.strips[1][StripField::SceneNumber], "2");
-}
-
-void TestBreakdownDialogs::conformDialog()
-{
-    ScheduleDocument &doc = small();
-    RememberingPrompter &prompter = *prompterp;
-    TfrmConform dialog(doc);
-    dialog.show();
-    auto *entry = child<QLineEdit>(dialog, "ConformEdit");
-    for (const char *text : {"3", "+", "1", "*Travel", "7"}) {
-        entry->setText(text);
-        QTest::keyClick(entry, Qt::Key_Return);
-        QVERIFY(dialog.isVisible()); // Enter makes an entry, it does not close the dialog
+    void insertModeDisablesApplyAndStepping()
+    {
+        ScheduleDocument &doc = small();
+        TfrmStrip &dialog = openScene(SceneMode::Insert, 2);
+        QCOMPARE(dialog.windowTitle(), "New scene breakdown #4");
+        QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "PrevBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
+        QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 1);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "1A");
+        click(dialog, "OKBut");
+        QCOMPARE(doc.strips[2][StripField::SceneNumber], "1A");
+        QCOMPARE(doc.strips[3][StripField::SceneNumber], "2");
     }
-    QCOMPARE(entry->text(), "");
-    QCOMPARE(prompter.prompts.size(), 1); // "7" is no strip
-    auto *grid = child<QTableWidget>(dialog, "ConformGrid");
-    QCOMPARE(grid->rowCount(), 5);
-    QVERIFY(grid->isColumnHidden(2));
-    QCOMPARE(grid->item(1, 1)->text(), "--- Divider ---");
-    QCOMPARE(grid->item(1, 0)->background().color(), QColor(Qt::black));
-    QCOMPARE(grid->item(3, 0)->background().color(), QColor(0xEF, 0x6F, 0x00));
-    QCOMPARE(grid->item(0, 0)->foreground().color(), QColor(Qt::black));
+    void applyInAddModeAppendsAgain()
+    {
+        ScheduleDocument &doc = small();
+        TfrmStrip &dialog = openScene(SceneMode::Add, 0);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "9");
+        Child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
+        click(dialog, "AddContBut");
+        click(dialog, "AddContBut");
+        QCOMPARE(doc.strips.count(), 6);
+        QCOMPARE(doc.strips[5][StripField::SceneNumber], "9");
+        QCOMPARE(doc.strips[6][StripField::SceneNumber], "9");
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(doc.locationPickList.contains("HARBOUR"));
+        auto *locations = Child<QComboBox>(dialog, "LocEdit");
+        QVERIFY(locations->findText("HARBOUR") >= 0);
+        QCOMPARE(locations->currentText(), "HARBOUR");
+        click(dialog, "CancelBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.strips.count(), 6);
+    }
+    void zeroLengthKeepsTheDialogOpen()
+    {
+        ScheduleDocument &doc = small();
+        RememberingPrompter &prompter = *prompterp;
+        TfrmStrip &dialog = openScene(SceneMode::Add, 0);
+        Child<QLineEdit>(dialog, "SceneEdit")->setText("77");
+        Child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
+        click(dialog, "OKBut");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(doc.strips.count(), 4);
+        click(dialog, "AddContBut"); // Apply refuses the same way
+        QVERIFY(dialog.isVisible());
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QCOMPARE(doc.strips.count(), 4);
+        click(dialog, "CancelBut");
+    }
+    void addNewThenCancelFlagsTheLastElement()
+    {
+        ScheduleDocument &doc = small();
+        TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
+        QMenu *menu = openPopup(dialog, 0); // the cast column
+        pressInNextModal("CancelBut");
+        QTest::mouseClick(menu->findChild<QPushButton *>("ElPopupAddNew"), Qt::LeftButton);
+        QCOMPARE(doc.elements.count(), 6);
+        // The table's last element, CROWD, is now flagged for this strip.
+        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 1), QStringList{"CROWD"});
+        QVERIFY(dialog.isChanged());
+        QCOMPARE(dialog.elementDialog()->currentCategory, 1);
+        click(dialog, "OKBut");
+        QCOMPARE(doc.strips[1][StripField::Assignments], "6");
+    }
+    void applyNextTwice()
+    {
+        ScheduleDocument &doc = small();
+        TfrmAddElement dialog(doc);
+        dialog.editIndex = -1;
+        dialog.currentCategory = 1;
+        dialog.show();
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
+        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "DORA");
+        Child<QListWidget>(dialog, "AssignList")->item(2)->setCheckState(Qt::Checked);
+        click(dialog, "AddContBut");
+        QCOMPARE(Child<QLineEdit>(dialog, "ElName")->text(), "");
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "5");
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "EVE");
+        click(dialog, "AddContBut");
+        QCOMPARE(doc.elements.count(), 8);
+        QCOMPARE(doc.elements[7][ElementField::Description], "DORA");
+        QCOMPARE(doc.elements[7][ElementField::BoardId], "4");
+        QCOMPARE(doc.elements[8][ElementField::BoardId], "5");
+        QCOMPARE(doc.strips[3][StripField::Assignments], "7");
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(dialog.isVisible());
 
-    // Delete the empty line the refused entry left, then the divider.
-    grid->setFocus();
-    grid->setCurrentCell(4, 0);
-    QTest::keyClick(grid, Qt::Key_Delete);
-    grid->setCurrentCell(1, 0);
-    QTest::keyClick(grid, Qt::Key_Delete);
-    QCOMPARE(grid->rowCount(), 3);
+        // Shown again, the dialog starts afresh.
+        click(dialog, "CancelBut");
+        dialog.show();
+        QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Cancel");
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
+    }
+    void categoryChangeGivesCastNumber()
+    {
+        ScheduleDocument &doc = small();
+        TfrmAddElement dialog(doc);
+        dialog.editIndex = 4; // LAMP, a prop
+        dialog.show();
+        QCOMPARE(dialog.windowTitle(), "Edit element \"LAMP\"");
+        QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
+        auto *categories = Child<QComboBox>(dialog, "CatCombo");
+        QCOMPARE(categories->count(), 15);
+        QCOMPARE(categories->currentIndex(), 4);
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "Prp");
+        QVERIFY(!Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        categories->setFocus();
+        while (categories->currentIndex() > 0)
+            QTest::keyClick(categories, Qt::Key_Up);
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
+        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.elements[4][ElementField::CategoryNumber], "1");
+        QCOMPARE(doc.elements[4][ElementField::BoardId], "4");
+        QCOMPARE(doc.elements[4][ElementField::PrintOnBoard], "1");
+    }
+    void duplicateIdDeclinedKeepsTheDialogOpen()
+    {
+        ScheduleDocument &doc = small();
+        RememberingPrompter &prompter = *prompterp;
+        TfrmAddElement dialog(doc);
+        dialog.editIndex = 5; // VASE, a prop
+        dialog.show();
+        auto *id = Child<QLineEdit>(dialog, "IDEdit");
+        id->setText("3");
+        prompter.answers = {Answer::No};
+        click(dialog, "OKBut");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(doc.elements[5][ElementField::BoardId], "Prp");
+        prompter.answers = {Answer::Yes};
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.elements[5][ElementField::BoardId], "3");
+    }
+    void holdRuleIsKeptForTheNextElement()
+    {
+        ScheduleDocument &doc = small();
+        TfrmAddElement dialog(doc);
+        dialog.editIndex = -1;
+        dialog.show();
+        Child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
+        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "FRED");
+        click(dialog, "OKBut");
+        QCOMPARE(doc.elements[7][ElementField::HoldRule], "SAG");
+        dialog.show();
+        QVERIFY(Child<QCheckBox>(dialog, "SAGCheck")->isChecked());
+    }
+    void editElementAssignments()
+    {
+        ScheduleDocument &doc = small();
+        TfrmAddElement dialog(doc);
+        dialog.editIndex = 1; // ANNA, in scene 2
+        dialog.show();
+        auto *list = Child<QListWidget>(dialog, "AssignList");
+        QCOMPARE(list->count(), 3);
+        QCOMPARE(list->item(1)->checkState(), Qt::Checked);
+        list->item(1)->setCheckState(Qt::Unchecked);
+        list->item(0)->setCheckState(Qt::Checked);
+        click(dialog, "OKBut");
+        QCOMPARE(doc.strips[1][StripField::Assignments], "1");
+        QCOMPARE(doc.strips[2][StripField::Assignments], "4");
+    }
+    void sortDialog()
+    {
+        ScheduleDocument &doc = *docp;
+        for (const char *loc : {"PIER", "BARN", "ATTIC"}) {
+            const int row = AddScene(doc, loc, "1");
+            doc.strips[row].set(StripField::Location, loc);
+        }
+        TfrmSort dialog(doc);
+        dialog.show();
+        QCOMPARE(Child<QComboBox>(dialog, "HighCombo")->currentText(), "Location");
+        QCOMPARE(Child<QComboBox>(dialog, "MidCombo")->currentText(), "Day / Night");
+        QCOMPARE(Child<QComboBox>(dialog, "LowCombo")->currentText(), "Int / Ext");
+        QCOMPARE(Child<QComboBox>(dialog, "MidCombo")->itemText(0), "(None)");
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(dialog, "UnSortBut")->isEnabled());
+        auto *grid = Child<QTableWidget>(dialog, "SortGrid");
+        QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
+        click(dialog, "SortBut");
+        QCOMPARE(column(grid, 2), QStringList({"ATTIC", "BARN", "PIER"}));
+        QCOMPARE(column(grid, 0), QStringList({"3", "2", "1"}));
+        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        click(dialog, "UnSortBut");
+        QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
+        QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        click(dialog, "SortBut");
+        click(dialog, "OKBut");
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(doc.strips[1][StripField::SceneNumber], "ATTIC");
+        QCOMPARE(doc.strips[3][StripField::SceneNumber], "PIER");
+    }
+    void sortAbortStillSorts()
+    {
+        ScheduleDocument &doc = *docp;
+        RememberingPrompter &prompter = *prompterp;
+        AddScene(doc, "10", "1");
+        AddDivider(doc);
+        AddScene(doc, "2", "1");
+        TfrmSort dialog(doc);
+        dialog.show();
+        Child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
+        click(dialog, "SortBut");
+        prompter.answers = {Answer::Abort};
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QCOMPARE(Kinds(doc), "1 1");
+        QCOMPARE(doc.strips[1][StripField::SceneNumber], "2");
+    }
+    void conformDialog()
+    {
+        ScheduleDocument &doc = small();
+        RememberingPrompter &prompter = *prompterp;
+        TfrmConform dialog(doc);
+        dialog.show();
+        auto *entry = Child<QLineEdit>(dialog, "ConformEdit");
+        for (const char *text : {"3", "+", "1", "*Travel", "7"}) {
+            entry->setText(text);
+            QTest::keyClick(entry, Qt::Key_Return);
+            QVERIFY(dialog.isVisible()); // Enter makes an entry, it does not close the dialog
+        }
+        QCOMPARE(entry->text(), "");
+        QCOMPARE(prompter.prompts.size(), 1); // "7" is no strip
+        auto *grid = Child<QTableWidget>(dialog, "ConformGrid");
+        QCOMPARE(grid->rowCount(), 5);
+        QVERIFY(grid->isColumnHidden(2));
+        QCOMPARE(grid->item(1, 1)->text(), "--- Divider ---");
+        QCOMPARE(grid->item(1, 0)->background().color(), QColor(Qt::black));
+        QCOMPARE(grid->item(3, 0)->background().color(), QColor(0xEF, 0x6F, 0x00));
+        QCOMPARE(grid->item(0, 0)->foreground().color(), QColor(Qt::black));
 
-    prompter.answers = {Answer::No};
-    click(dialog, "OKBut");
-    QVERIFY(dialog.isVisible());
-    prompter.answers = {Answer::Yes};
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(Kinds(doc), "1 1 4");
-    QCOMPARE(doc.strips[1][StripField::SceneNumber], "3");
-}
+        // Delete the empty line the refused entry left, then the divider.
+        grid->setFocus();
+        grid->setCurrentCell(4, 0);
+        QTest::keyClick(grid, Qt::Key_Delete);
+        grid->setCurrentCell(1, 0);
+        QTest::keyClick(grid, Qt::Key_Delete);
+        QCOMPARE(grid->rowCount(), 3);
 
-void TestBreakdownDialogs::productionDetails()
-{
-    ScheduleDocument &doc = *docp;
-    doc.values.PictureTitle = "Rain";
-    doc.values.CompanyAddress = "\"1 Quay St\",Islay";
-    doc.crew[2].set(CrewField::Name, "Lo");
-    const QString logo = TempPath("logo.jpg");
-    QImage picture(60, 30, QImage::Format_RGB32);
-    picture.fill(Qt::blue);
-    QVERIFY(picture.save(logo));
-    doc.values.LogoFile = logo;
+        prompter.answers = {Answer::No};
+        click(dialog, "OKBut");
+        QVERIFY(dialog.isVisible());
+        prompter.answers = {Answer::Yes};
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(Kinds(doc), "1 1 4");
+        QCOMPARE(doc.strips[1][StripField::SceneNumber], "3");
+    }
+    void productionDetails()
+    {
+        ScheduleDocument &doc = *docp;
+        doc.values.PictureTitle = "Rain";
+        doc.values.CompanyAddress = "\"1 Quay St\",Islay";
+        doc.crew[2].set(CrewField::Name, "Lo");
+        const QString logo = TempPath("logo.jpg");
+        QImage picture(60, 30, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        QVERIFY(picture.save(logo));
+        doc.values.LogoFile = logo;
 
-    TfrmProdInfo dialog(doc);
-    dialog.show();
-    QCOMPARE(child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
-    QCOMPARE(child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
-    QCOMPARE(child<QLineEdit>(dialog, "UnitEdit")->text(), "8:00 am");
-    QVERIFY(!child<QLabel>(dialog, "Image1")->pixmap().isNull());
-    auto *crew = child<QTableWidget>(dialog, "CrewGrid");
-    QCOMPARE(crew->rowCount(), 50);
-    QCOMPARE(crew->columnCount(), 3);
-    QCOMPARE(crew->horizontalHeaderItem(2)->text(), "Contact");
-    QCOMPARE(crew->item(1, 1)->text(), "Lo");
+        TfrmProdInfo dialog(doc);
+        dialog.show();
+        QCOMPARE(Child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
+        QCOMPARE(Child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
+        QCOMPARE(Child<QLineEdit>(dialog, "UnitEdit")->text(), "8:00 am");
+        QVERIFY(!Child<QLabel>(dialog, "Image1")->pixmap().isNull());
+        auto *crew = Child<QTableWidget>(dialog, "CrewGrid");
+        QCOMPARE(crew->rowCount(), 50);
+        QCOMPARE(crew->columnCount(), 3);
+        QCOMPARE(crew->horizontalHeaderItem(2)->text(), "Contact");
+        QCOMPARE(crew->item(1, 1)->text(), "Lo");
 
-    child<QLineEdit>(dialog, "TitleEdit")->setText("Storm");
-    child<QPlainTextEdit>(dialog, "MiscMemo")->setPlainText("a\nb, c\nd");
-    crew->item(49, 0)->setText("Runner");
-    crew->item(1, 1)->setText("");
-    click(dialog, "OKBut");
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.values.PictureTitle, "Storm");
-    QCOMPARE(doc.values.CompanyAddress, "a,\"b, c\",d");
-    QCOMPARE(doc.crew[50][CrewField::Position], "Runner");
-    QCOMPARE(doc.crew[2][CrewField::Name], "");
-    QCOMPARE(doc.values.LogoFile, logo);
-}
+        Child<QLineEdit>(dialog, "TitleEdit")->setText("Storm");
+        Child<QPlainTextEdit>(dialog, "MiscMemo")->setPlainText("a\nb, c\nd");
+        crew->item(49, 0)->setText("Runner");
+        crew->item(1, 1)->setText("");
+        click(dialog, "OKBut");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.values.PictureTitle, "Storm");
+        QCOMPARE(doc.values.CompanyAddress, "a,\"b, c\",d");
+        QCOMPARE(doc.crew[50][CrewField::Position], "Runner");
+        QCOMPARE(doc.crew[2][CrewField::Name], "");
+        QCOMPARE(doc.values.LogoFile, logo);
+    }
+    void productionDetailsBrokenLogo()
+    {
+        ScheduleDocument &doc = *docp;
+        RememberingPrompter &prompter = *prompterp;
+        doc.values.LogoFile = TempPath("gone.png");
+        doc.values.Company = "Brenholt";
+        TfrmProdInfo dialog(doc);
+        dialog.show();
+        QCOMPARE(prompter.prompts.size(), 1); // the broken link, worded in the core's tests
+        QCOMPARE(Child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
 
-void TestBreakdownDialogs::productionDetailsBrokenLogo()
-{
-    ScheduleDocument &doc = *docp;
-    RememberingPrompter &prompter = *prompterp;
-    doc.values.LogoFile = TempPath("gone.png");
-    doc.values.Company = "Brenholt";
-    TfrmProdInfo dialog(doc);
-    dialog.show();
-    QCOMPARE(prompter.prompts.size(), 1); // the broken link, worded in the core's tests
-    QCOMPARE(child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
-
-    // A chosen file that is no picture is still taken over by OK.
-    const QString text = TempPath("notes.jpg");
-    QFile f(text);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("not a picture");
-    f.close();
-    dialog.loadChosenLogo(text);
-    QCOMPARE(prompter.prompts.size(), 2);
-    click(dialog, "OKBut");
-    QCOMPARE(doc.values.LogoFile, text);
-}
+        // A chosen file that is no picture is still taken over by OK.
+        const QString text = TempPath("notes.jpg");
+        QVERIFY(WriteBytes(text, "not a picture"));
+        dialog.loadChosenLogo(text);
+        QCOMPARE(prompter.prompts.size(), 2);
+        click(dialog, "OKBut");
+        QCOMPARE(doc.values.LogoFile, text);
+    }
+};
 
 TB_TEST_MAIN(TestBreakdownDialogs)
 #include "tst_breakdowndialogs.moc"

@@ -1,6 +1,5 @@
 #include "ImportTestSupport.h"
 
-#include "document/DocumentOperations.h"
 #include "import/FdxImport.h"
 #include "import/FinalDraftImport.h"
 #include "ui/import/TfrmFDImport.h"
@@ -8,8 +7,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -19,7 +16,6 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -67,15 +63,6 @@ struct ScriptFolder
     QString path(const QString &name) const { return QDir(dir.path()).filePath(name); }
 };
 
-template <typename T>
-T *child(QWidget *parent, const char *name)
-{
-    T *w = parent->findChild<T *>(QString::fromLatin1(name));
-    if (!w)
-        qFatal("no child %s", name);
-    return w;
-}
-
 QStringList ListTexts(QListWidget *list)
 {
     QStringList texts;
@@ -86,14 +73,14 @@ QStringList ListTexts(QListWidget *list)
 
 void Click(QWidget *parent, const char *button)
 {
-    QAbstractButton *b = child<QAbstractButton>(parent, button);
+    QAbstractButton *b = Child<QAbstractButton>(parent, button);
     QVERIFY2(b->isEnabled(), button);
     QTest::mouseClick(b, Qt::LeftButton);
 }
 
 void SelectFile(TfrmImportScript &wizard, const QString &name)
 {
-    QListWidget *files = child<QListWidget>(&wizard, "FileListBox1");
+    QListWidget *files = Child<QListWidget>(&wizard, "FileListBox1");
     const QList<QListWidgetItem *> found = files->findItems(name, Qt::MatchExactly);
     QVERIFY(!found.isEmpty());
     QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, files->visualItemRect(found.first()).center());
@@ -105,11 +92,10 @@ struct Wizard
 {
     ScriptFolder folder;
     ScheduleDocument doc;
-    ScriptedPrompter prompter;
+    ScriptedPrompter prompter{doc};
     TfrmImportScript wizard{doc};
     Wizard()
     {
-        doc.setPrompter(&prompter);
         wizard.setDirectory(folder.dir.path());
         wizard.show();
     }
@@ -132,13 +118,12 @@ private Q_SLOTS:
     {
         Wizard w;
         TfrmImportScript &wizard = w.wizard;
-        auto *next = child<QPushButton>(&wizard, "NextBut");
-        auto *back = child<QPushButton>(&wizard, "BackBut");
-        QCOMPARE(wizard.windowTitle(), "Script import (TXT file)");
+        auto *next = Child<QPushButton>(&wizard, "NextBut");
+        auto *back = Child<QPushButton>(&wizard, "BackBut");
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(!back->isEnabled());
         QCOMPARE(next->text(), "Next >");
-        QCOMPARE(child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
+        QCOMPARE(Child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
 
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 1);
@@ -153,11 +138,11 @@ private Q_SLOTS:
         SelectFile(wizard, "kitchen.txt");
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 2);
-        auto *view = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        auto *view = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QVERIFY(view->toPlainText().startsWith("FADE IN:\n\nINT. KITCHEN - NIGHT\n"));
         QCOMPARE(view->textCursor().selectedText().size(), view->toPlainText().size()); // all selected
         QCOMPARE(wizard.scriptLines().size(), 13);
-        QCOMPARE(child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
+        QCOMPARE(Child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
 
         // Next becomes Import! on the last page only.
         for (const char *button : {"NextBut", "NextBut", "BackBut"}) {
@@ -178,13 +163,13 @@ private Q_SLOTS:
         wizard.show();
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(view->toPlainText().isEmpty());
-        QCOMPARE(child<QProgressBar>(&wizard, "PBar")->value(), 0);
+        QCOMPARE(Child<QProgressBar>(&wizard, "PBar")->value(), 0);
     }
 
     void wizardFileList()
     {
         Wizard w;
-        auto *files = child<QListWidget>(&w.wizard, "FileListBox1");
+        auto *files = Child<QListWidget>(&w.wizard, "FileListBox1");
         // Text, Fountain and Final Draft files only, whatever the case of the extension.
         QCOMPARE(ListTexts(files),
                  (QStringList{"B-SIDE.TXT", "bad.fdx", "heist.fdx", "heist.fountain", "junk.txt", "kitchen.txt"}));
@@ -193,7 +178,7 @@ private Q_SLOTS:
         // Choosing a folder in the tree lists its files.
         w.wizard.setDirectory(w.folder.path("drafts"));
         QCOMPARE(ListTexts(files), QStringList{});
-        auto *tree = child<QTreeView>(&w.wizard, "DirectoryListBox1");
+        auto *tree = Child<QTreeView>(&w.wizard, "DirectoryListBox1");
         QCOMPARE(tree->currentIndex().data().toString(), "drafts");
         tree->setCurrentIndex(tree->currentIndex().parent());
         QCOMPARE(w.wizard.directory(), w.folder.dir.path());
@@ -204,15 +189,13 @@ private Q_SLOTS:
     // the file page; Cancel later leaves the open schedule as it was.
     void wizardRefusesFile_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("message");
+        Columns<QString, QString>("file", "message");
         Row("unreadable", "B-SIDE.TXT", "Error with import procedure.\r\r");
         Row("not an fdx", "bad.fdx", QString::fromLatin1(FdxReadErrorText));
     }
     void wizardRefusesFile()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, message);
+        auto [file, message] = Fetch<QString, QString>("file", "message");
         Wizard w;
         AddScene(w.doc, "99", "3");
         w.choose(file);
@@ -236,8 +219,8 @@ private Q_SLOTS:
     {
         ScheduleDocument doc;
         TfrmImportScript wizard(doc);
-        auto *button = child<QPushButton>(&wizard, "FontBut");
-        auto *edit = child<QPlainTextEdit>(&wizard, "ImportEdit");
+        auto *button = Child<QPushButton>(&wizard, "FontBut");
+        auto *edit = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QCOMPARE(button->text(), "Courier 12pt");
         QCOMPARE(edit->font().family(), "Courier New");
 
@@ -265,15 +248,15 @@ private Q_SLOTS:
         ScheduleDocument doc;
         TfrmImportScript wizard(doc);
         wizard.show();
-        child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
-        auto *day = child<QListWidget>(&wizard, "DayList");
-        auto *night = child<QListWidget>(&wizard, "NightList");
+        Child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
+        auto *day = Child<QListWidget>(&wizard, "DayList");
+        auto *night = Child<QListWidget>(&wizard, "NightList");
         QCOMPARE(ListTexts(day), DefaultDayWords());
         QCOMPARE(ListTexts(night), DefaultNightWords());
-        QCOMPARE(ListTexts(child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
-        QCOMPARE(child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
-        QCOMPARE(child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
-        QCOMPARE(child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
+        QCOMPARE(ListTexts(Child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
+        QCOMPARE(Child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
+        QCOMPARE(Child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
+        QCOMPARE(Child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
 
         QStringList captions;
         std::optional<QString> answer;
@@ -283,7 +266,7 @@ private Q_SLOTS:
         };
         auto click = [&](const char *button, std::optional<QString> typed) {
             answer = typed;
-            QTest::mouseClick(child<QToolButton>(&wizard, button), Qt::LeftButton);
+            QTest::mouseClick(Child<QToolButton>(&wizard, button), Qt::LeftButton);
         };
         click("NightAddBut", "  twilight ");
         QCOMPARE(ListTexts(night).last(), "twilight");
@@ -324,30 +307,28 @@ private Q_SLOTS:
 
     void wizardScreenplayFiles_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("markedFountain");
+        Columns<QString, bool>("file", "markedFountain");
         Row("Fountain", "heist.fountain", false);
         Row("Final Draft", "heist.fdx", false);
         Row("txt marked as Fountain", "heist.txt", true);
     }
     void wizardScreenplayFiles()
     {
-        QFETCH(QString, file);
-        QFETCH(bool, markedFountain);
+        auto [file, markedFountain] = Fetch<QString, bool>("file", "markedFountain");
         Wizard w;
         QFile::copy(w.folder.path("heist.fountain"), w.folder.path("heist.txt"));
         w.wizard.setDirectory(w.folder.path("drafts")); // and back: the list is read again
         w.wizard.setDirectory(w.folder.dir.path());
         w.choose(file);
-        child<QCheckBox>(&w.wizard, "FountainCheck")->setChecked(markedFountain);
+        Child<QCheckBox>(&w.wizard, "FountainCheck")->setChecked(markedFountain);
 
         // The line and font pages are skipped both ways.
         for (const char *button : {"NextBut", "BackBut", "NextBut"}) {
             Click(&w.wizard, button);
             QCOMPARE(w.wizard.currentStep(), *button == 'N' ? 4 : 1);
         }
-        QCOMPARE(child<QPushButton>(&w.wizard, "NextBut")->text(), "Import!");
-        QVERIFY(child<QPlainTextEdit>(&w.wizard, "ImportEdit")->toPlainText().contains("VAULT"));
+        QCOMPARE(Child<QPushButton>(&w.wizard, "NextBut")->text(), "Import!");
+        QVERIFY(Child<QPlainTextEdit>(&w.wizard, "ImportEdit")->toPlainText().contains("VAULT"));
 
         Click(&w.wizard, "NextBut");
         QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
@@ -363,10 +344,7 @@ private Q_SLOTS:
 
     void wizardReview_data()
     {
-        QTest::addColumn<QString>("finish");
-        QTest::addColumn<QStringList>("cast");
-        QTest::addColumn<QStringList>("assignments");
-        QTest::addColumn<QString>("dropped");
+        Columns<QString, QStringList, QStringList, QString>("finish", "cast", "assignments", "dropped");
         // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
         const QStringList all{"Mary", "2.", "A river.", "John", "3."};
         Row("Import! removes the unticked", "NextBut", QStringList{"Mary", "John"}, QStringList{"1", "2,1"},
@@ -378,19 +356,16 @@ private Q_SLOTS:
     }
     void wizardReview()
     {
-        QFETCH(QString, finish);
-        QFETCH(QStringList, cast);
-        QFETCH(QStringList, assignments);
-        QFETCH(QString, dropped);
+        auto [finish, cast, dropped] = Fetch<QString, QStringList, QString>("finish", "cast", "dropped");
         Wizard w;
         w.choose("junk.txt");
         for (int k = 0; k < 4; ++k)
             Click(&w.wizard, "NextBut");
         QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
-        QVERIFY(!child<QPushButton>(&w.wizard, "BackBut")->isEnabled());
-        QVERIFY(!child<QPushButton>(&w.wizard, "CancelBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(&w.wizard, "BackBut")->isEnabled());
+        QVERIFY(!Child<QPushButton>(&w.wizard, "CancelBut")->isEnabled());
 
-        auto *list = child<QTreeWidget>(&w.wizard, "CharacterList");
+        auto *list = Child<QTreeWidget>(&w.wizard, "CharacterList");
         QStringList shown;
         for (int k = 0; k < list->topLevelItemCount(); ++k) {
             const QTreeWidgetItem *item = list->topLevelItem(k);
@@ -413,7 +388,7 @@ private Q_SLOTS:
         QVERIFY(!w.wizard.isVisible());
         QCOMPARE(w.wizard.result(), int(QDialog::Accepted));
         QCOMPARE(Cast(w.doc), cast);
-        QCOMPARE(StripColumn(w.doc, StripField::Assignments), assignments);
+        QTEST(StripColumn(w.doc, StripField::Assignments), "assignments");
         QCOMPARE(w.prompter.prompts.size(), 1);
         const QString summary = w.prompter.texts().first();
         QVERIFY(summary.startsWith(QStringLiteral("Imported 2 scenes, %1 character").arg(cast.size())));
@@ -424,12 +399,11 @@ private Q_SLOTS:
     void finalDraftDialog()
     {
         ScheduleDocument doc;
-        ScriptedPrompter prompter;
-        doc.setPrompter(&prompter);
+        ScriptedPrompter prompter{doc};
         TfrmFDImport dialog(doc);
-        auto *scene = child<QLineEdit>(&dialog, "SceneEdit");
-        auto *script = child<QLineEdit>(&dialog, "ScriptEdit");
-        auto *import = child<QPushButton>(&dialog, "ImportBut");
+        auto *scene = Child<QLineEdit>(&dialog, "SceneEdit");
+        auto *script = Child<QLineEdit>(&dialog, "ScriptEdit");
+        auto *import = Child<QPushButton>(&dialog, "ImportBut");
         scene->setText("left over");
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Final Draft import");
@@ -466,7 +440,7 @@ private Q_SLOTS:
         };
         auto browse = [&](const char *button, const QString &chosen) {
             answer = chosen;
-            QTest::mouseClick(child<QPushButton>(&dialog, button), Qt::LeftButton);
+            QTest::mouseClick(Child<QPushButton>(&dialog, button), Qt::LeftButton);
         };
         browse("SceneBrowse", "/reports/scenes.txt");
         browse("ScriptBrowse", "/reports/script.txt");
@@ -475,7 +449,7 @@ private Q_SLOTS:
         QCOMPARE(scene->text(), "/reports/scenes.txt");
         QCOMPARE(script->text(), "/reports/script.txt");
         QVERIFY(import->isEnabled());
-        QTest::mouseClick(child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
+        QTest::mouseClick(Child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
         QVERIFY(!dialog.isVisible());
     }
 };

@@ -18,12 +18,10 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
@@ -57,10 +55,7 @@ void fillPreview(TfrmPreview &preview, ScheduleDocument &doc, int *count)
 
 int pdfPages(const QString &path)
 {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray data = f.readAll();
+    const QByteArray data = ReadFileBytes(path);
     return int(data.count("/Type /Page\n") + data.count("/Type /Page\r") + data.count("/Type /Page>>") +
                data.count("/Type /Page ") - data.count("/Type /Pages "));
 }
@@ -72,20 +67,309 @@ class TestReportDialogs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void previewNavigation();
-    void previewZoomBox_data();
-    void previewZoomBox();
-    void previewMouseZoomSteps();
-    void previewKeysAndClosing();
-    void previewPrintsRecordedPages();
-    void scheduleDialogShowAndSpins();
-    void scheduleDialogPrintsToPdfAndPreviews();
-    void breakdownDialogSpecificSheets();
-    void elementSummaryDialogCategories();
-    void progressWindow();
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        m_doc.setPrompter(&m_prompter);
+        QVERIFY(OpenDocument(m_doc, Example).ok());
+    }
+    void init()
+    {
+        m_preview = std::make_unique<TfrmPreview>();
+        fillPreview(*m_preview, m_doc, &m_pages);
+    }
+    void cleanup() { m_preview.reset(); }
+    void previewNavigation()
+    {
+        TfrmPreview &preview = *m_preview;
+        const int count = m_pages;
+        QVERIFY(count >= 3);
+        const QString last = QString::number(count);
+        QCOMPARE(preview.windowTitle(), QStringLiteral("Torvanbridge - Print preview"));
+        QCOMPARE(preview.counterText(), "1/" + last);
+        QList<QToolButton *> buttons; // first, previous, next, last
+        for (const auto &[name, hint] : {std::pair{"spbfirst", "First page"}, std::pair{"spbPrev", "Previous page"},
+                                         std::pair{"spbNext", "Next page"}, std::pair{"spbLast", "Last page"}}) {
+            buttons.append(preview.findChild<QToolButton *>(name));
+            QCOMPARE(buttons.last()->toolTip(), QString::fromLatin1(hint));
+        }
+        QToolButton *first = buttons[0], *prev = buttons[1], *next = buttons[2], *lastButton = buttons[3];
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        QTest::mouseClick(prev, Qt::LeftButton); // nothing before the first page
+        QCOMPARE(preview.counterText(), "1/" + last);
+        QTest::mouseClick(next, Qt::LeftButton);
+        QCOMPARE(preview.counterText(), "2/" + last);
+        QTest::mouseClick(lastButton, Qt::LeftButton);
+        QCOMPARE(preview.counterText(), last + u'/' + last);
+        keepScreenshot(preview, QStringLiteral("preview"));
+        QTest::mouseClick(next, Qt::LeftButton); // nothing after the last page
+        QCOMPARE(preview.counterText(), last + u'/' + last);
+        QTest::mouseClick(first, Qt::LeftButton);
+        QCOMPARE(preview.counterText(), "1/" + last);
+        QVERIFY(!preview.Previewer()->setCurrentPage(0));
+        QVERIFY(!preview.Previewer()->setCurrentPage(count + 1));
+    }
+    void previewZoomBox_data()
+    {
+        Columns<QString, int>("typed", "zoom");
+        Row("letters", "abc", 100);
+        Row("too large", "300", 75);
+        Row("too small", "10", 75);
+        Row("in range", "60", 60);
+    }
+    void previewZoomBox()
+    {
+        auto [typed, zoom] = Fetch<QString, int>("typed", "zoom");
+        TfrmPreview &preview = *m_preview;
+        auto *box = preview.findChild<QComboBox *>("cbxScale");
+        QCOMPARE(box->currentText(), QStringLiteral("100"));
+        QCOMPARE(box->toolTip(), QStringLiteral("Zoom percentage"));
+        QCOMPARE(box->count(), 5);
+        preview.Previewer()->setZoom(75);
+        box->lineEdit()->setText(typed); // as if pasted: one change
+
+        QCOMPARE(preview.Previewer()->zoom(), zoom);
+    }
+    void previewMouseZoomSteps()
+    {
+        TfrmPreview &preview = *m_preview;
+        preview.resize(900, 700);
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        tAlPreview *view = preview.Previewer();
+        const QPoint onPage = view->pageRect().center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, onPage);
+        QCOMPARE(view->zoom(), 150);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
+        QCOMPARE(view->zoom(), 200);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
+        QCOMPARE(view->zoom(), 200);
+        for (int expected : {150, 100, 75, 50, 50}) {
+            QTest::mouseClick(view->viewport(), Qt::RightButton, {}, view->pageRect().center());
+            QCOMPARE(view->zoom(), expected);
+        }
+        QCOMPARE(preview.findChild<QComboBox *>("cbxScale")->currentText(), QStringLiteral("50"));
+        view->setZoom(60); // between the steps: a click leaves it
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
+        QCOMPARE(view->zoom(), 60);
+    }
+    void previewKeysAndClosing()
+    {
+        TfrmPreview &preview = *m_preview;
+        const int count = m_pages;
+        preview.resize(700, 500);
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        const QString last = QString::number(count);
+        QTest::keyClick(preview.Previewer(), Qt::Key_PageDown);
+        QCOMPARE(preview.counterText(), "2/" + last);
+        QTest::keyClick(preview.Previewer(), Qt::Key_End);
+        QCOMPARE(preview.counterText(), last + u'/' + last);
+        QTest::keyClick(preview.Previewer(), Qt::Key_PageUp);
+        QCOMPARE(preview.counterText(), QString::number(count - 1) + u'/' + last);
+        // The window sees the keys first, even while the zoom box has the focus.
+        auto *box = preview.findChild<QComboBox *>("cbxScale");
+        box->setFocus();
+        QTest::keyClick(box->lineEdit(), Qt::Key_Home);
+        QCOMPARE(preview.counterText(), "1/" + last);
+
+        preview.Previewer()->setZoom(200);
+        QScrollBar *h = preview.Previewer()->horizontalScrollBar();
+        QScrollBar *v = preview.Previewer()->verticalScrollBar();
+        QVERIFY(h->maximum() > 20 && v->maximum() > 20);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Right);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Right);
+        QCOMPARE(h->value(), 20);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Down);
+        QCOMPARE(v->value(), 10);
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(preview.Previewer(), Qt::Key_Left);
+        QCOMPARE(h->value(), 0);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Up);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Up);
+        QCOMPARE(v->value(), 0);
+        h->setValue(h->maximum() - 5);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Right);
+        QCOMPARE(h->value(), h->maximum());
+        // While printing, neither Escape nor closing closes the window.
+        preview.Previewer()->setBusy(true);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Escape);
+        QVERIFY(!preview.close());
+        QVERIFY(preview.isVisible());
+        preview.Previewer()->setBusy(false);
+        QTest::keyClick(preview.Previewer(), Qt::Key_Escape);
+        QVERIFY(!preview.isVisible());
+    }
+    void previewPrintsRecordedPages()
+    {
+        TfrmPreview &preview = *m_preview;
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        const QString path = TempPath("printed-preview.pdf");
+        printer.setOutputFileName(path);
+        printer.setCopyCount(2);
+        QVERIFY(preview.PrintPages(printer, 2, 3));
+        QVERIFY(!preview.Previewer()->busy());
+        QCOMPARE(printer.docName(), QStringLiteral("Torvanbridge - Print preview"));
+        QCOMPARE(pdfPages(path), 2);
+    }
+    void scheduleDialogShowAndSpins()
+    {
+        TfrmShootSch dialog(m_doc);
+        Ui::TfrmShootSch &ui = dialog.form();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(ui.DayLab->text(), QStringLiteral("(19 production days)"));
+        QCOMPARE(ui.FromSpin->maximum(), 19);
+        QCOMPARE(ui.ToSpin->maximum(), 19);
+        QVERIFY(ui.AllRadio->isChecked());
+        QVERIFY(ui.FullRadio->isChecked());
+        QVERIFY(ui.ShootCheck->isChecked());
+        QCOMPARE(ui.CopiesSpin->value(), 1);
+        QCOMPARE(ui.PrinterCombo->itemText(ui.PrinterCombo->count() - 1), PdfFileChoiceText());
+        keepScreenshot(dialog, QStringLiteral("TfrmShootSch"));
+        // From past To moves To; To before From moves From; either chooses "Day".
+        ui.FromSpin->setValue(5);
+        QCOMPARE(ui.ToSpin->value(), 5);
+        QVERIFY(ui.RangeRadio->isChecked());
+        ui.AllRadio->setChecked(true);
+        ui.ToSpin->setValue(3);
+        QCOMPARE(ui.FromSpin->value(), 3);
+        QVERIFY(ui.RangeRadio->isChecked());
+        ui.OnelineRadio->setChecked(true);
+        ui.ShootCheck->setChecked(false);
+        const ScheduleReportOptions options = dialog.options();
+        QVERIFY(options.oneLine && !options.allDays && !options.shootingDaysOnly);
+        QCOMPARE(options.fromDay, 3);
+        QCOMPARE(options.toDay, 3);
+        // Shown again, the dialog opens on "All".
+        dialog.hide();
+        dialog.show();
+        QVERIFY(ui.AllRadio->isChecked());
+    }
+    void scheduleDialogPrintsToPdfAndPreviews()
+    {
+        TfrmShootSch dialog(m_doc);
+        Ui::TfrmShootSch &ui = dialog.form();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
+        QVERIFY(dialog.printerChoice().toPdfFile());
+
+        int previewPages = 0;
+        QString counter;
+        PreviewWindowHook = [&](TfrmPreview &preview) {
+            previewPages = preview.Previewer()->pageCount();
+            counter = preview.counterText();
+            return false;
+        };
+        QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
+        PreviewWindowHook = nullptr;
+        QVERIFY(previewPages > 3);
+        QCOMPARE(counter, "1/" + QString::number(previewPages));
+        QVERIFY(dialog.isVisible());
+        QVERIFY(!SharedPrintingProgress().isVisible());
+
+        const QString path = TempPath("dialog-schedule.pdf");
+        dialog.printerChoice().choosePdfFile = [&](QWidget *, const QString &suggested) {
+            return suggested == QLatin1String("shooting-schedule.pdf") ? path : QString();
+        };
+        QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.isVisible());
+        // The same layout on the same paper: the PDF has the preview's pages.
+        QCOMPARE(pdfPages(path), previewPages);
+    }
+    void breakdownDialogSpecificSheets()
+    {
+        TfrmPrintBS dialog(m_doc);
+        Ui::TfrmPrintBS &ui = dialog.form();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(ui.SceneList->count(), 60);
+        const StripRecord &first = m_doc.strips[ui.SceneList->item(0)->data(Qt::UserRole).toInt()];
+        QCOMPARE(ui.SceneList->item(0)->text(),
+                 first[StripField::StripId] + " - " + first[StripField::Location] + "  " + first[StripField::Synopsis]);
+        QVERIFY(ui.AllRadio->isChecked());
+        keepScreenshot(dialog, QStringLiteral("TfrmPrintBS"));
+
+        // "Specific:" with nothing chosen prints nothing.
+        m_prompter.prompts.clear();
+        ui.SpecificRadio->setChecked(true);
+        QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
+        QCOMPARE(m_prompter.texts(), QStringList{"No scene is chosen: there is nothing to print."});
+        QVERIFY(dialog.isVisible());
+
+        ui.SceneList->item(4)->setSelected(true);
+        ui.SceneList->item(1)->setSelected(true);
+        const BreakdownReportOptions options = dialog.options();
+        QVERIFY(!options.all);
+        QCOMPARE(options.rows, QList<int>({ui.SceneList->item(1)->data(Qt::UserRole).toInt(),
+                                           ui.SceneList->item(4)->data(Qt::UserRole).toInt()}));
+        int pages = 0;
+        PreviewWindowHook = [&](TfrmPreview &preview) {
+            pages = preview.Previewer()->pageCount();
+            return false;
+        };
+        QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
+        PreviewWindowHook = nullptr;
+        QCOMPARE(pages, 2); // one sheet per scene
+    }
+    void elementSummaryDialogCategories()
+    {
+        TfrmElUse dialog(m_doc);
+        Ui::TfrmElUse &ui = dialog.form();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(ui.FilterList->count(), 15);
+        QCOMPARE(ui.FilterList->item(0)->text(), QStringLiteral("Cast"));
+        QCOMPARE(ui.FilterList->item(0)->checkState(), Qt::Checked);
+        QCOMPARE(ui.FilterList->item(1)->checkState(), Qt::Unchecked);
+        keepScreenshot(dialog, QStringLiteral("TfrmElUse"));
+        ui.FilterList->item(3)->setCheckState(Qt::Checked);
+        QCOMPARE(dialog.options().categories, QSet<int>({1, 4}));
+        // The preview shows the title and the company, which are the first texts on the
+        // page and black: dark pixels where they stand, left of the director's name.
+        int darkPixels = -1;
+        PreviewWindowHook = [&](TfrmPreview &preview) {
+            preview.resize(900, 700);
+            preview.show();
+            QWidget *view = preview.Previewer()->viewport();
+            QImage image(view->size(), QImage::Format_RGB32);
+            view->render(&image);
+            darkPixels = 0;
+            for (int y = 20 + 28; y < 20 + 80; ++y)
+                for (int x = 0; x < 400; ++x)
+                    darkPixels += qGray(image.pixel(x, y)) < 80 ? 1 : 0;
+            return false;
+        };
+        QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
+        PreviewWindowHook = nullptr;
+        QVERIFY2(darkPixels > 200, qPrintable(QString::number(darkPixels)));
+        const QString path = TempPath("dialog-elements.pdf");
+        ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
+        dialog.printerChoice().choosePdfFile = [&](QWidget *, const QString &) { return path; };
+        ui.CopiesSpin->setValue(3); // a file holds one copy
+        QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(pdfPages(path), 1);
+    }
+    void progressWindow()
+    {
+        TfrmPrintingIt &window = SharedPrintingProgress();
+        QCOMPARE(window.size(), QSize(298, 70));
+        QVERIFY(window.windowFlags() & Qt::WindowStaysOnTopHint);
+        QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
+        window.setText(QStringLiteral("Creating breakdown sheets..."));
+        window.setMaximum(80);
+        window.setPosition(40);
+        window.showProgress();
+        keepScreenshot(window, QStringLiteral("TfrmPrintingIt"));
+        QCOMPARE(window.PrintGuage()->value(), 40);
+        window.hideProgress();
+        QVERIFY(!window.isVisible());
+    }
 
 private:
     ScheduleDocument m_doc;
@@ -93,331 +377,6 @@ private:
     std::unique_ptr<TfrmPreview> m_preview; // filled afresh for every test
     int m_pages = 0;
 };
-
-void TestReportDialogs::initTestCase()
-{
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    m_doc.setPrompter(&m_prompter);
-    QVERIFY(OpenDocument(m_doc, Example).ok());
-}
-
-void TestReportDialogs::init()
-{
-    m_preview = std::make_unique<TfrmPreview>();
-    fillPreview(*m_preview, m_doc, &m_pages);
-}
-
-void TestReportDialogs::cleanup()
-{
-    m_preview.reset();
-}
-
-void TestReportDialogs::previewNavigation()
-{
-    TfrmPreview &preview = *m_preview;
-    const int count = m_pages;
-    QVERIFY(count >= 3);
-    const QString last = QString::number(count);
-    QCOMPARE(preview.windowTitle(), QStringLiteral("Torvanbridge - Print preview"));
-    QCOMPARE(preview.counterText(), "1/" + last);
-    QList<QToolButton *> buttons; // first, previous, next, last
-    for (const auto &[name, hint] : {std::pair{"spbfirst", "First page"}, std::pair{"spbPrev", "Previous page"},
-                                     std::pair{"spbNext", "Next page"}, std::pair{"spbLast", "Last page"}}) {
-        buttons.append(preview.findChild<QToolButton *>(name));
-        QCOMPARE(buttons.last()->toolTip(), QString::fromLatin1(hint));
-    }
-    QToolButton *first = buttons[0], *prev = buttons[1], *next = buttons[2], *lastButton = buttons[3];
-    preview.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&preview));
-    QTest::mouseClick(prev, Qt::LeftButton); // nothing before the first page
-    QCOMPARE(preview.counterText(), "1/" + last);
-    QTest::mouseClick(next, Qt::LeftButton);
-    QCOMPARE(preview.counterText(), "2/" + last);
-    QTest::mouseClick(lastButton, Qt::LeftButton);
-    QCOMPARE(preview.counterText(), last + u'/' + last);
-    keepScreenshot(preview, QStringLiteral("preview"));
-    QTest::mouseClick(next, Qt::LeftButton); // nothing after the last page
-    QCOMPARE(preview.counterText(), last + u'/' + last);
-    QTest::mouseClick(first, Qt::LeftButton);
-    QCOMPARE(preview.counterText(), "1/" + last);
-    QVERIFY(!preview.Previewer()->setCurrentPage(0));
-    QVERIFY(!preview.Previewer()->setCurrentPage(count + 1));
-}
-
-void TestReportDialogs::previewZoomBox_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("zoom");
-    QTest::newRow("letters") << "abc" << 100;
-    QTest::newRow("too large") << "300" << 75;
-    QTest::newRow("too small") << "10" << 75;
-    QTest::newRow("in range") << "60" << 60;
-}
-
-void TestReportDialogs::previewZoomBox()
-{
-    QFETCH(QString, typed);
-    QFETCH(int, zoom);
-    TfrmPreview &preview = *m_preview;
-    auto *box = preview.findChild<QComboBox *>("cbxScale");
-    QCOMPARE(box->currentText(), QStringLiteral("100"));
-    QCOMPARE(box->toolTip(), QStringLiteral("Zoom percentage"));
-    QCOMPARE(box->count(), 5);
-    preview.Previewer()->setZoom(75);
-    box->lineEdit()->setText(typed); // as if pasted: one change
-
-    QCOMPARE(preview.Previewer()->zoom(), zoom);
-}
-
-void TestReportDialogs::previewMouseZoomSteps()
-{
-    TfrmPreview &preview = *m_preview;
-    preview.resize(900, 700);
-    preview.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&preview));
-    tAlPreview *view = preview.Previewer();
-    const QPoint onPage = view->pageRect().center();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, onPage);
-    QCOMPARE(view->zoom(), 150);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
-    QCOMPARE(view->zoom(), 200);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
-    QCOMPARE(view->zoom(), 200);
-    for (int expected : {150, 100, 75, 50, 50}) {
-        QTest::mouseClick(view->viewport(), Qt::RightButton, {}, view->pageRect().center());
-        QCOMPARE(view->zoom(), expected);
-    }
-    QCOMPARE(preview.findChild<QComboBox *>("cbxScale")->currentText(), QStringLiteral("50"));
-    view->setZoom(60); // between the steps: a click leaves it
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
-    QCOMPARE(view->zoom(), 60);
-}
-
-void TestReportDialogs::previewKeysAndClosing()
-{
-    TfrmPreview &preview = *m_preview;
-    const int count = m_pages;
-    preview.resize(700, 500);
-    preview.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&preview));
-    const QString last = QString::number(count);
-    QTest::keyClick(preview.Previewer(), Qt::Key_PageDown);
-    QCOMPARE(preview.counterText(), "2/" + last);
-    QTest::keyClick(preview.Previewer(), Qt::Key_End);
-    QCOMPARE(preview.counterText(), last + u'/' + last);
-    QTest::keyClick(preview.Previewer(), Qt::Key_PageUp);
-    QCOMPARE(preview.counterText(), QString::number(count - 1) + u'/' + last);
-    // The window sees the keys first, even while the zoom box has the focus.
-    auto *box = preview.findChild<QComboBox *>("cbxScale");
-    box->setFocus();
-    QTest::keyClick(box->lineEdit(), Qt::Key_Home);
-    QCOMPARE(preview.counterText(), "1/" + last);
-
-    preview.Previewer()->setZoom(200);
-    QScrollBar *h = preview.Previewer()->horizontalScrollBar();
-    QScrollBar *v = preview.Previewer()->verticalScrollBar();
-    QVERIFY(h->maximum() > 20 && v->maximum() > 20);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Right);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Right);
-    QCOMPARE(h->value(), 20);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Down);
-    QCOMPARE(v->value(), 10);
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(preview.Previewer(), Qt::Key_Left);
-    QCOMPARE(h->value(), 0);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Up);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Up);
-    QCOMPARE(v->value(), 0);
-    h->setValue(h->maximum() - 5);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Right);
-    QCOMPARE(h->value(), h->maximum());
-    // While printing, neither Escape nor closing closes the window.
-    preview.Previewer()->setBusy(true);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Escape);
-    QVERIFY(!preview.close());
-    QVERIFY(preview.isVisible());
-    preview.Previewer()->setBusy(false);
-    QTest::keyClick(preview.Previewer(), Qt::Key_Escape);
-    QVERIFY(!preview.isVisible());
-}
-
-void TestReportDialogs::previewPrintsRecordedPages()
-{
-    TfrmPreview &preview = *m_preview;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    const QString path = TempPath("printed-preview.pdf");
-    printer.setOutputFileName(path);
-    printer.setCopyCount(2);
-    QVERIFY(preview.PrintPages(printer, 2, 3));
-    QVERIFY(!preview.Previewer()->busy());
-    QCOMPARE(printer.docName(), QStringLiteral("Torvanbridge - Print preview"));
-    QCOMPARE(pdfPages(path), 2);
-}
-
-void TestReportDialogs::scheduleDialogShowAndSpins()
-{
-    TfrmShootSch dialog(m_doc);
-    Ui::TfrmShootSch &ui = dialog.form();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Print schedule"));
-    QCOMPARE(ui.DayLab->text(), QStringLiteral("(19 production days)"));
-    QCOMPARE(ui.FromSpin->maximum(), 19);
-    QCOMPARE(ui.ToSpin->maximum(), 19);
-    QVERIFY(ui.AllRadio->isChecked());
-    QVERIFY(ui.FullRadio->isChecked());
-    QVERIFY(ui.ShootCheck->isChecked());
-    QCOMPARE(ui.CopiesSpin->value(), 1);
-    QCOMPARE(ui.PrinterCombo->itemText(ui.PrinterCombo->count() - 1), PdfFileChoiceText());
-    keepScreenshot(dialog, QStringLiteral("TfrmShootSch"));
-    // From past To moves To; To before From moves From; either chooses "Day".
-    ui.FromSpin->setValue(5);
-    QCOMPARE(ui.ToSpin->value(), 5);
-    QVERIFY(ui.RangeRadio->isChecked());
-    ui.AllRadio->setChecked(true);
-    ui.ToSpin->setValue(3);
-    QCOMPARE(ui.FromSpin->value(), 3);
-    QVERIFY(ui.RangeRadio->isChecked());
-    ui.OnelineRadio->setChecked(true);
-    ui.ShootCheck->setChecked(false);
-    const ScheduleReportOptions options = dialog.options();
-    QVERIFY(options.oneLine && !options.allDays && !options.shootingDaysOnly);
-    QCOMPARE(options.fromDay, 3);
-    QCOMPARE(options.toDay, 3);
-    // Shown again, the dialog opens on "All".
-    dialog.hide();
-    dialog.show();
-    QVERIFY(ui.AllRadio->isChecked());
-}
-
-void TestReportDialogs::scheduleDialogPrintsToPdfAndPreviews()
-{
-    TfrmShootSch dialog(m_doc);
-    Ui::TfrmShootSch &ui = dialog.form();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
-    QVERIFY(dialog.printerChoice().toPdfFile());
-
-    int previewPages = 0;
-    QString counter;
-    PreviewWindowHook = [&](TfrmPreview &preview) {
-        previewPages = preview.Previewer()->pageCount();
-        counter = preview.counterText();
-        return false;
-    };
-    QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
-    PreviewWindowHook = nullptr;
-    QVERIFY(previewPages > 3);
-    QCOMPARE(counter, "1/" + QString::number(previewPages));
-    QVERIFY(dialog.isVisible());
-    QVERIFY(!SharedPrintingProgress().isVisible());
-
-    const QString path = TempPath("dialog-schedule.pdf");
-    dialog.printerChoice().choosePdfFile = [&](QWidget *, const QString &suggested) {
-        return suggested == QLatin1String("shooting-schedule.pdf") ? path : QString();
-    };
-    QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QVERIFY(!dialog.isVisible());
-    // The same layout on the same paper: the PDF has the preview's pages.
-    QCOMPARE(pdfPages(path), previewPages);
-}
-
-void TestReportDialogs::breakdownDialogSpecificSheets()
-{
-    TfrmPrintBS dialog(m_doc);
-    Ui::TfrmPrintBS &ui = dialog.form();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Print script breakdown sheets"));
-    QCOMPARE(ui.SceneList->count(), 60);
-    const StripRecord &first = m_doc.strips[ui.SceneList->item(0)->data(Qt::UserRole).toInt()];
-    QCOMPARE(ui.SceneList->item(0)->text(),
-             first[StripField::StripId] + " - " + first[StripField::Location] + "  " + first[StripField::Synopsis]);
-    QVERIFY(ui.AllRadio->isChecked());
-    keepScreenshot(dialog, QStringLiteral("TfrmPrintBS"));
-
-    // "Specific:" with nothing chosen prints nothing.
-    m_prompter.prompts.clear();
-    ui.SpecificRadio->setChecked(true);
-    QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
-    QCOMPARE(m_prompter.texts(), QStringList{"No scene is chosen: there is nothing to print."});
-    QVERIFY(dialog.isVisible());
-
-    ui.SceneList->item(4)->setSelected(true);
-    ui.SceneList->item(1)->setSelected(true);
-    const BreakdownReportOptions options = dialog.options();
-    QVERIFY(!options.all);
-    QCOMPARE(options.rows, QList<int>({ui.SceneList->item(1)->data(Qt::UserRole).toInt(),
-                                       ui.SceneList->item(4)->data(Qt::UserRole).toInt()}));
-    int pages = 0;
-    PreviewWindowHook = [&](TfrmPreview &preview) {
-        pages = preview.Previewer()->pageCount();
-        return false;
-    };
-    QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
-    PreviewWindowHook = nullptr;
-    QCOMPARE(pages, 2); // one sheet per scene
-}
-
-void TestReportDialogs::elementSummaryDialogCategories()
-{
-    TfrmElUse dialog(m_doc);
-    Ui::TfrmElUse &ui = dialog.form();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Print element summary"));
-    QCOMPARE(ui.FilterList->count(), 15);
-    QCOMPARE(ui.FilterList->item(0)->text(), QStringLiteral("Cast"));
-    QCOMPARE(ui.FilterList->item(0)->checkState(), Qt::Checked);
-    QCOMPARE(ui.FilterList->item(1)->checkState(), Qt::Unchecked);
-    keepScreenshot(dialog, QStringLiteral("TfrmElUse"));
-    ui.FilterList->item(3)->setCheckState(Qt::Checked);
-    QCOMPARE(dialog.options().categories, QSet<int>({1, 4}));
-    // The preview shows the title and the company, which are the first texts on the
-    // page and black: dark pixels where they stand, left of the director's name.
-    int darkPixels = -1;
-    PreviewWindowHook = [&](TfrmPreview &preview) {
-        preview.resize(900, 700);
-        preview.show();
-        QWidget *view = preview.Previewer()->viewport();
-        QImage image(view->size(), QImage::Format_RGB32);
-        view->render(&image);
-        darkPixels = 0;
-        for (int y = 20 + 28; y < 20 + 80; ++y)
-            for (int x = 0; x < 400; ++x)
-                darkPixels += qGray(image.pixel(x, y)) < 80 ? 1 : 0;
-        return false;
-    };
-    QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
-    PreviewWindowHook = nullptr;
-    QVERIFY2(darkPixels > 200, qPrintable(QString::number(darkPixels)));
-    const QString path = TempPath("dialog-elements.pdf");
-    ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
-    dialog.printerChoice().choosePdfFile = [&](QWidget *, const QString &) { return path; };
-    ui.CopiesSpin->setValue(3); // a file holds one copy
-    QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(pdfPages(path), 1);
-}
-
-void TestReportDialogs::progressWindow()
-{
-    TfrmPrintingIt &window = SharedPrintingProgress();
-    QCOMPARE(window.size(), QSize(298, 70));
-    QVERIFY(window.windowFlags() & Qt::WindowStaysOnTopHint);
-    QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
-    window.setText(QStringLiteral("Creating breakdown sheets..."));
-    window.setMaximum(80);
-    window.setPosition(40);
-    window.showProgress();
-    keepScreenshot(window, QStringLiteral("TfrmPrintingIt"));
-    QCOMPARE(window.PrintGuage()->value(), 40);
-    window.hideProgress();
-    QVERIFY(!window.isVisible());
-}
 
 TB_TEST_MAIN(TestReportDialogs)
 #include "tst_reportdialogs.moc"

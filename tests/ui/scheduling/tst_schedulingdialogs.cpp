@@ -1,6 +1,5 @@
 #include "SchedulingTestView.h"
 
-#include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
 #include "scheduling/EndOfDay.h"
 #include "ui/scheduling/TfrmAutoPages.h"
@@ -25,22 +24,12 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <QTimer>
 
 using namespace tb;
 using namespace tb::test;
 
 namespace {
-
-template <typename T>
-T *child(QWidget *dialog, const char *name)
-{
-    T *widget = dialog->findChild<T *>(QLatin1String(name));
-    if (!widget)
-        qFatal("no %s", name);
-    return widget;
-}
 
 // Clicks a button of whatever modal dialog is open once the event loop runs.
 void clickInModal(const char *button, std::function<void(QWidget *)> before = {})
@@ -50,7 +39,7 @@ void clickInModal(const char *button, std::function<void(QWidget *)> before = {}
         QVERIFY(modal);
         if (before)
             before(modal);
-        child<QPushButton>(modal, button)->click();
+        Child<QPushButton>(modal, button)->click();
     });
 }
 
@@ -62,346 +51,316 @@ class TestSchedulingDialogs : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void autoPages();
-    void bannerNew();
-    void bannerEdit();
-    void bannerPalette();
-    void startDate();
-    void calenderCaptions();
-    void calenderWithoutStartDate();
-    void holdDays();
-    void lock();
-    void inertDialogs();
-    void endOfDay();
-};
+    void autoPages()
+    {
+        ScheduleDocument doc;
+        Build(doc, {"12", "|"});
+        TfrmAutoPages dialog(doc);
+        dialog.show();
+        auto *spin = Child<QSpinBox>(&dialog, "PagesSpin");
+        auto *heading = Child<QLabel>(&dialog, "Label4");
+        QCOMPARE(spin->value(), 5);
+        QCOMPARE(spin->maximum(), 20);
+        QCOMPARE(heading->text(), "If a scene is longer than X pages...");
+        QVERIFY(Child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
+        QVERIFY(Child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
+        QCOMPARE(Child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
+                 "Assumes you will need to shoot the scene over more than one day");
+        spin->setFocus();
+        QTest::keyClick(spin, Qt::Key_Up);
+        QCOMPARE(heading->text(), "If a single scene is longer than 6 pages...");
+        spin->setValue(20);
+        QCOMPARE(heading->text(), "If a single scene is longer than 20 pages...");
 
-void TestSchedulingDialogs::autoPages()
-{
-    ScheduleDocument doc;
-    Build(doc, {"12", "|"});
-    TfrmAutoPages dialog(doc);
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Automatic day dividers");
-    auto *spin = child<QSpinBox>(&dialog, "PagesSpin");
-    auto *heading = child<QLabel>(&dialog, "Label4");
-    QCOMPARE(spin->value(), 5);
-    QCOMPARE(spin->maximum(), 20);
-    QCOMPARE(heading->text(), "If a scene is longer than X pages...");
-    QVERIFY(child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
-    QVERIFY(child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
-    QCOMPARE(child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
-             "Assumes you will need to shoot the scene over more than one day");
-    spin->setFocus();
-    QTest::keyClick(spin, Qt::Key_Up);
-    QCOMPARE(heading->text(), "If a single scene is longer than 6 pages...");
-    spin->setValue(20);
-    QCOMPARE(heading->text(), "If a single scene is longer than 20 pages...");
+        spin->setValue(5);
+        Child<QRadioButton>(&dialog, "SplitCheck")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(Kinds(doc), "1 2 2");
 
-    spin->setValue(5);
-    child<QRadioButton>(&dialog, "SplitCheck")->click();
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(Kinds(doc), "1 2 2");
+        // Cancel changes nothing.
+        dialog.show();
+        Child<QCheckBox>(&dialog, "RemoveCheck")->click();
+        Child<QPushButton>(&dialog, "CancelBut")->click();
+        QCOMPARE(Kinds(doc), "1 2 2");
+    }
+    void bannerNew()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        TfrmBanner dialog(doc);
+        dialog.setDefaultColours({"clYellow", "clNavy"});
+        dialog.setMode(BannerAddAtEnd);
+        dialog.show();
+        auto *text = Child<QLineEdit>(&dialog, "BannerTextEdit");
+        auto *dayCheck = Child<QCheckBox>(&dialog, "DayCheck");
+        auto *daySpin = Child<QSpinBox>(&dialog, "DaySpin");
+        QVERIFY(!daySpin->isEnabled());
+        QCOMPARE(daySpin->maximum(), 365);
+        QCOMPARE(Child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
+        QCOMPARE(Child<ColourButton>(&dialog, "TextColorBut")->colourName(), "clNavy");
 
-    // Cancel changes nothing.
-    dialog.show();
-    child<QCheckBox>(&dialog, "RemoveCheck")->click();
-    child<QPushButton>(&dialog, "CancelBut")->click();
-    QCOMPARE(Kinds(doc), "1 2 2");
-}
+        dayCheck->click();
+        QVERIFY(daySpin->isEnabled());
+        daySpin->setValue(2);
+        QTest::keyClicks(text, "Travel day");
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(Kinds(doc), "1 4");
+        QCOMPARE(doc.strips[2][StripField::Synopsis], "Travel day");
+        QCOMPARE(doc.strips[2][StripField::StripColour], "clYellow,clNavy");
+        QCOMPARE(doc.strips[2][StripField::DayCount], "2");
 
-void TestSchedulingDialogs::bannerNew()
-{
-    ScheduleDocument doc;
-    AddScene(doc, "1", "1");
-    TfrmBanner dialog(doc);
-    dialog.setDefaultColours({"clYellow", "clNavy"});
-    dialog.setMode(BannerAddAtEnd);
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Banner");
-    auto *text = child<QLineEdit>(&dialog, "BannerTextEdit");
-    auto *dayCheck = child<QCheckBox>(&dialog, "DayCheck");
-    auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
-    QVERIFY(!daySpin->isEnabled());
-    QCOMPARE(daySpin->maximum(), 365);
-    QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
-    QCOMPARE(child<ColourButton>(&dialog, "TextColorBut")->colourName(), "clNavy");
+        // Shown again: the text is empty and the day change unticked, whatever was typed before.
+        dialog.show();
+        QCOMPARE(text->text(), "");
+        QVERIFY(!dayCheck->isChecked());
+        QVERIFY(!daySpin->isEnabled());
+    }
+    void bannerEdit()
+    {
+        ScheduleDocument doc;
+        AddScene(doc, "1", "1");
+        const int row = AddBanner(doc, "Holiday", 3);
+        doc.strips[row].set(StripField::StripColour, "clRed,$00C0FFEE");
+        doc.SelStart = doc.SelEnd = row;
+        TfrmBanner dialog(doc);
+        dialog.setMode(BannerEdit);
+        dialog.show();
+        auto *daySpin = Child<QSpinBox>(&dialog, "DaySpin");
+        QCOMPARE(Child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "Holiday");
+        QCOMPARE(Child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clRed");
+        QCOMPARE(Child<ColourButton>(&dialog, "TextColorBut")->colourName(), "$00C0FFEE");
+        QVERIFY(Child<QCheckBox>(&dialog, "DayCheck")->isChecked());
+        QVERIFY(daySpin->isEnabled());
+        QCOMPARE(daySpin->value(), 3);
 
-    dayCheck->click();
-    QVERIFY(daySpin->isEnabled());
-    daySpin->setValue(2);
-    QTest::keyClicks(text, "Travel day");
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(Kinds(doc), "1 4");
-    QCOMPARE(doc.strips[2][StripField::Synopsis], "Travel day");
-    QCOMPARE(doc.strips[2][StripField::StripColour], "clYellow,clNavy");
-    QCOMPARE(doc.strips[2][StripField::DayCount], "2");
+        Child<QCheckBox>(&dialog, "DayCheck")->click();
+        QVERIFY(!daySpin->isEnabled());
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(Kinds(doc), "1 4");
+        QCOMPARE(doc.strips[row][StripField::StripColour], "clRed,$00C0FFEE"); // names kept as stored
+        QCOMPARE(doc.strips[row][StripField::DayCount], "0");
+    }
+    void bannerPalette()
+    {
+        ColourButton button;
+        QStringList entries;
+        for (QAction *action : button.palette()->actions())
+            if (!action->isSeparator())
+                entries.append(action->text());
+        QCOMPARE(entries.size(), 17);
+        QCOMPARE(entries.first(), "Black");
+        QCOMPARE(entries.last(), "&Other");
+        QSignalSpy changed(&button, &ColourButton::colourChanged);
+        button.palette()->actions().at(10)->trigger(); // Lime
+        QCOMPARE(button.colourName(), "clLime");
+        QCOMPARE(changed.count(), 1);
+    }
+    void startDate()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter{doc};
+        doc.values.StartDate = FridayMarch6;
+        doc.values.AutoRestDayRule = "D67";
+        TfrmStartDate1 dialog(doc);
+        dialog.show();
+        auto *picker = Child<QDateEdit>(&dialog, "StartPicker");
+        auto *tick = Child<QCheckBox>(&dialog, "StartCheck");
+        auto *ok = Child<QPushButton>(&dialog, "OKBut");
+        QCOMPARE(picker->date(), QDate(2026, 3, 6));
+        QVERIFY(tick->isChecked());
+        QVERIFY(picker->calendarPopup());
 
-    // Shown again: the text is empty and the day change unticked, whatever was typed before.
-    dialog.show();
-    QCOMPARE(text->text(), "");
-    QVERIFY(!dayCheck->isChecked());
-    QVERIFY(!daySpin->isEnabled());
-}
-
-void TestSchedulingDialogs::bannerEdit()
-{
-    ScheduleDocument doc;
-    AddScene(doc, "1", "1");
-    const int row = AddBanner(doc, "Holiday", 3);
-    doc.strips[row].set(StripField::StripColour, "clRed,$00C0FFEE");
-    doc.SelStart = doc.SelEnd = row;
-    TfrmBanner dialog(doc);
-    dialog.setMode(BannerEdit);
-    dialog.show();
-    auto *daySpin = child<QSpinBox>(&dialog, "DaySpin");
-    QCOMPARE(child<QLineEdit>(&dialog, "BannerTextEdit")->text(), "Holiday");
-    QCOMPARE(child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clRed");
-    QCOMPARE(child<ColourButton>(&dialog, "TextColorBut")->colourName(), "$00C0FFEE");
-    QVERIFY(child<QCheckBox>(&dialog, "DayCheck")->isChecked());
-    QVERIFY(daySpin->isEnabled());
-    QCOMPARE(daySpin->value(), 3);
-
-    child<QCheckBox>(&dialog, "DayCheck")->click();
-    QVERIFY(!daySpin->isEnabled());
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(Kinds(doc), "1 4");
-    QCOMPARE(doc.strips[row][StripField::StripColour], "clRed,$00C0FFEE"); // names kept as stored
-    QCOMPARE(doc.strips[row][StripField::DayCount], "0");
-}
-
-void TestSchedulingDialogs::bannerPalette()
-{
-    ColourButton button;
-    QStringList entries;
-    for (QAction *action : button.palette()->actions())
-        if (!action->isSeparator())
-            entries.append(action->text());
-    QCOMPARE(entries.size(), 17);
-    QCOMPARE(entries.first(), "Black");
-    QCOMPARE(entries.last(), "&Other");
-    QSignalSpy changed(&button, &ColourButton::colourChanged);
-    button.palette()->actions().at(10)->trigger(); // Lime
-    QCOMPARE(button.colourName(), "clLime");
-    QCOMPARE(changed.count(), 1);
-}
-
-void TestSchedulingDialogs::startDate()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    doc.values.StartDate = FridayMarch6;
-    doc.values.AutoRestDayRule = "D67";
-    TfrmStartDate1 dialog(doc);
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Start date");
-    auto *picker = child<QDateEdit>(&dialog, "StartPicker");
-    auto *tick = child<QCheckBox>(&dialog, "StartCheck");
-    auto *ok = child<QPushButton>(&dialog, "OKBut");
-    QCOMPARE(picker->date(), QDate(2026, 3, 6));
-    QVERIFY(tick->isChecked());
-    QVERIFY(picker->calendarPopup());
-
-    // Unticked: the rest-day question; No keeps the dialog open and the schedule as it was.
-    tick->click();
-    QVERIFY(!picker->isEnabled());
-    prompter.answers = {Answer::No};
-    ok->click();
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Warning);
-    QCOMPARE(doc.values.StartDate, "46087");
-    ok->click(); // Yes this time
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.values.StartDate, "");
-    QCOMPARE(doc.values.AutoRestDayRule, "");
-
-    // Without a start date the picker offers today, ticked.
-    dialog.show();
-    QCOMPARE(picker->date(), QDate::currentDate());
-    QVERIFY(tick->isChecked());
-    QVERIFY(picker->isEnabled());
-
-    // A date before today: asked, and No keeps the dialog open.
-    dialog.setToday(QDate(2026, 3, 7));
-    picker->setDate(QDate(2026, 3, 6));
-    prompter.answers = {Answer::No};
-    ok->click();
-    QVERIFY(dialog.isVisible());
-    QVERIFY(prompter.texts().last().endsWith("Are you sure you want to use a start date of Fri, March 6, 2026?"));
-    QCOMPARE(doc.values.StartDate, "");
-    ok->click();
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(doc.values.StartDate, "46087");
-}
-
-void TestSchedulingDialogs::calenderCaptions()
-{
-    ScheduleDocument doc;
-    doc.values.StartDate = FridayMarch6;
-    doc.values.AutoRestDayRule = "D67";
-    TfrmCalender dialog(doc);
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Defualt rest days");
-    auto *dayRadio = child<QRadioButton>(&dialog, "DayRadio");
-    auto *firstRadio = child<QRadioButton>(&dialog, "FirstRadio");
-    auto *hint = child<QLabel>(&dialog, "HintLab");
-    auto *check7 = child<QCheckBox>(&dialog, "Check7");
-    QVERIFY(dayRadio->isEnabled());
-    QVERIFY(dayRadio->isChecked());
-    QCOMPARE(child<QCheckBox>(&dialog, "Check1")->text(), "Mon");
-    QCOMPARE(check7->text(), "Sun");
-    QVERIFY(check7->isVisible());
-    QVERIFY(child<QCheckBox>(&dialog, "Check6")->isChecked());
-    QVERIFY(check7->isChecked());
-    QVERIFY(!child<QCheckBox>(&dialog, "Check5")->isChecked());
-    QCOMPARE(hint->text(), "Eg; Selecting \"Sun\" will designate all Sundays to be rest days. ");
-    QCOMPARE(child<QLabel>(&dialog, "DayLab")->text(), "First day of production is currently a Friday.");
-
-    firstRadio->click();
-    for (int k = 1; k <= 6; ++k)
-        QCOMPARE(child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), QString::number(k + 1));
-    QVERIFY(!check7->isVisible());
-    QCOMPARE(hint->text(),
-             "Eg; Selecting \" 7 \" will make every 7th day a rest day, begining from the first day of production");
-
-    dayRadio->click();
-    QCOMPARE(child<QCheckBox>(&dialog, "Check6")->text(), "Sat");
-    QVERIFY(check7->isVisible());
-
-    // From the start day, the hidden but ticked seventh box still writes its digit.
-    firstRadio->click();
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(doc.values.AutoRestDayRule, "S67");
-}
-
-void TestSchedulingDialogs::calenderWithoutStartDate()
-{
-    ScheduleDocument doc;
-    doc.values.AutoRestDayRule = "D7";
-    TfrmCalender dialog(doc);
-    dialog.show();
-    QVERIFY(!child<QRadioButton>(&dialog, "DayRadio")->isEnabled());
-    QVERIFY(child<QRadioButton>(&dialog, "FirstRadio")->isChecked());
-    QCOMPARE(child<QCheckBox>(&dialog, "Check1")->text(), "2");
-    QVERIFY(!child<QCheckBox>(&dialog, "Check7")->isVisible());
-    QVERIFY(child<QCheckBox>(&dialog, "Check7")->isChecked());
-    child<QCheckBox>(&dialog, "Check5")->click();
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(doc.values.AutoRestDayRule, "S57");
-}
-
-void TestSchedulingDialogs::holdDays()
-{
-    ScheduleDocument doc;
-    doc.values.HoldDays = 25;
-    TfrmHold dialog(doc);
-    dialog.show();
-    QCOMPARE(dialog.windowTitle(), "Hold days");
-    auto *spin = child<QSpinBox>(&dialog, "DropSpin");
-    QCOMPARE(spin->value(), 25);
-    QCOMPARE(spin->maximum(), 999);
-    spin->setValue(40);
-    child<QPushButton>(&dialog, "OKBut")->click();
-    QCOMPARE(doc.values.HoldDays, 40);
-    QVERIFY(!doc.Modified);
-
-    // The threshold survives closing and reopening; Cancel keeps it.
-    dialog.show();
-    QCOMPARE(spin->value(), 40);
-    spin->setValue(3);
-    child<QPushButton>(&dialog, "CancelBut")->click();
-    QCOMPARE(doc.values.HoldDays, 40);
-}
-
-void TestSchedulingDialogs::lock()
-{
-    ScheduleDocument doc;
-    ScriptedPrompter prompter;
-    doc.setPrompter(&prompter);
-    Build(doc, {"1", "1"});
-    doc.SelStart = doc.SelEnd = 2;
-    TfrmLockStrip dialog(doc);
-    // Without a start date it refuses before it opens.
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QCOMPARE(prompter.prompts.size(), 1);
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Information);
-    prompter.prompts.clear();
-
-    doc.values.StartDate = FridayMarch6;
-    doc.strips[2].set(StripField::LockDate, "3/20/2026");
-    clickInModal("OKBut", [](QWidget *modal) {
-        auto *picker = child<QDateEdit>(modal, "DTPick");
-        // The picker starts at the selected strip's lock date.
-        QCOMPARE(picker->date(), QDate(2026, 3, 20));
-        QCOMPARE(picker->toolTip(), "Click arrow to drop down callender");
-        child<QRadioButton>(modal, "Unlockradio")->click();
+        // Unticked: the rest-day question; No keeps the dialog open and the schedule as it was.
+        tick->click();
         QVERIFY(!picker->isEnabled());
-        child<QRadioButton>(modal, "LockRadio")->click();
+        prompter.answers = {Answer::No};
+        ok->click();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Warning);
+        QCOMPARE(doc.values.StartDate, "46087");
+        ok->click(); // Yes this time
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.values.StartDate, "");
+        QCOMPARE(doc.values.AutoRestDayRule, "");
+
+        // Without a start date the picker offers today, ticked.
+        dialog.show();
+        QCOMPARE(picker->date(), QDate::currentDate());
+        QVERIFY(tick->isChecked());
         QVERIFY(picker->isEnabled());
-        picker->setDate(QDate(2026, 3, 1)); // before the start date
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QCOMPARE(dialog.windowTitle(), "Lock / un-lock to date");
-    QCOMPARE(doc.strips[2][StripField::LockDate], "3/1/2026");
-    QCOMPARE(prompter.prompts.size(), 1); // the warning; locked all the same
-    QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
 
-    clickInModal("OKBut", [](QWidget *modal) { child<QRadioButton>(modal, "Unlockradio")->click(); });
-    dialog.exec();
-    QCOMPARE(doc.strips[2][StripField::LockDate], "");
-}
+        // A date before today: asked, and No keeps the dialog open.
+        dialog.setToday(QDate(2026, 3, 7));
+        picker->setDate(QDate(2026, 3, 6));
+        prompter.answers = {Answer::No};
+        ok->click();
+        QVERIFY(dialog.isVisible());
+        QVERIFY(prompter.texts().last().endsWith("Are you sure you want to use a start date of Fri, March 6, 2026?"));
+        QCOMPARE(doc.values.StartDate, "");
+        ok->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.values.StartDate, "46087");
+    }
+    void calenderCaptions()
+    {
+        ScheduleDocument doc;
+        doc.values.StartDate = FridayMarch6;
+        doc.values.AutoRestDayRule = "D67";
+        TfrmCalender dialog(doc);
+        dialog.show();
+        auto *dayRadio = Child<QRadioButton>(&dialog, "DayRadio");
+        auto *firstRadio = Child<QRadioButton>(&dialog, "FirstRadio");
+        auto *hint = Child<QLabel>(&dialog, "HintLab");
+        auto *check7 = Child<QCheckBox>(&dialog, "Check7");
+        QVERIFY(dayRadio->isEnabled());
+        QVERIFY(dayRadio->isChecked());
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check1")->text(), "Mon");
+        QCOMPARE(check7->text(), "Sun");
+        QVERIFY(check7->isVisible());
+        QVERIFY(Child<QCheckBox>(&dialog, "Check6")->isChecked());
+        QVERIFY(check7->isChecked());
+        QVERIFY(!Child<QCheckBox>(&dialog, "Check5")->isChecked());
+        QCOMPARE(hint->text(), "Eg; Selecting \"Sun\" will designate all Sundays to be rest days. ");
+        QCOMPARE(Child<QLabel>(&dialog, "DayLab")->text(), "First day of production is currently a Friday.");
 
-void TestSchedulingDialogs::inertDialogs()
-{
-    ScheduleDocument doc;
-    TfrmDate dates(doc);
-    dates.show();
-    QCOMPARE(dates.windowTitle(), "Dates");
-    QVERIFY(child<QRadioButton>(&dates, "AddDatesRadio")->isChecked());
-    QCOMPARE(child<QPushButton>(&dates, "Button1")->text(), "GO!");
-    child<QPushButton>(&dates, "Button1")->click();
-    QVERIFY(dates.isVisible()); // does nothing
-    child<QPushButton>(&dates, "Button2")->click();
-    QVERIFY(!dates.isVisible());
-}
+        firstRadio->click();
+        for (int k = 1; k <= 6; ++k)
+            QCOMPARE(Child<QCheckBox>(&dialog, qPrintable(QString("Check%1").arg(k)))->text(), QString::number(k + 1));
+        QVERIFY(!check7->isVisible());
+        QCOMPARE(hint->text(),
+                 "Eg; Selecting \" 7 \" will make every 7th day a rest day, begining from the first day of production");
 
-void TestSchedulingDialogs::endOfDay()
-{
-    const QDate start(2027, 4, 5);
-    ScheduleDocument doc;
-    doc.values.StartDate = legacy::FloatToText(legacy::DateToSerial(start));
-    Build(doc, {"1", "1", "|", "1"});
-    doc.strips[2].set(StripField::Reserved12, "46482");
-    ClearModified(doc);
-    TfrmEOD eod(doc);
-    eod.today = [start] { return start; };
-    eod.show();
-    QCOMPARE(eod.windowTitle(), "End of day");
-    QCOMPARE(child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
-    auto *list = child<QListWidget>(&eod, "CheckListBox1");
-    auto *picker = child<QDateEdit>(&eod, "DatePicker");
-    QCOMPARE(picker->date(), start);
-    QCOMPARE(list->count(), 2);
-    QCOMPARE(list->item(1)->checkState(), Qt::Checked); // already marked
-    picker->setDate(start.addDays(1));                  // another day lists its own scenes
-    QCOMPARE(list->count(), 1);
-    picker->setDate(start);
+        dayRadio->click();
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check6")->text(), "Sat");
+        QVERIFY(check7->isVisible());
 
-    list->item(0)->setCheckState(Qt::Checked);
-    list->item(1)->setCheckState(Qt::Unchecked);
-    child<QPushButton>(&eod, "CancelBut")->click();
-    QVERIFY(!doc.Modified);
-    eod.show();
-    list->item(0)->setCheckState(Qt::Checked);
-    list->item(1)->setCheckState(Qt::Unchecked);
-    child<QPushButton>(&eod, "OKBut")->click();
-    QVERIFY(!eod.isVisible());
-    QCOMPARE(ShotDate(doc.strips[1]), start);
-    QVERIFY(!IsShot(doc.strips[2]));
-    QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo end of day");
-}
+        // From the start day, the hidden but ticked seventh box still writes its digit.
+        firstRadio->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(doc.values.AutoRestDayRule, "S67");
+    }
+    void calenderWithoutStartDate()
+    {
+        ScheduleDocument doc;
+        doc.values.AutoRestDayRule = "D7";
+        TfrmCalender dialog(doc);
+        dialog.show();
+        QVERIFY(!Child<QRadioButton>(&dialog, "DayRadio")->isEnabled());
+        QVERIFY(Child<QRadioButton>(&dialog, "FirstRadio")->isChecked());
+        QCOMPARE(Child<QCheckBox>(&dialog, "Check1")->text(), "2");
+        QVERIFY(!Child<QCheckBox>(&dialog, "Check7")->isVisible());
+        QVERIFY(Child<QCheckBox>(&dialog, "Check7")->isChecked());
+        Child<QCheckBox>(&dialog, "Check5")->click();
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(doc.values.AutoRestDayRule, "S57");
+    }
+    void holdDays()
+    {
+        ScheduleDocument doc;
+        doc.values.HoldDays = 25;
+        TfrmHold dialog(doc);
+        dialog.show();
+        auto *spin = Child<QSpinBox>(&dialog, "DropSpin");
+        QCOMPARE(spin->value(), 25);
+        QCOMPARE(spin->maximum(), 999);
+        spin->setValue(40);
+        Child<QPushButton>(&dialog, "OKBut")->click();
+        QCOMPARE(doc.values.HoldDays, 40);
+        QVERIFY(!doc.Modified);
+
+        // The threshold survives closing and reopening; Cancel keeps it.
+        dialog.show();
+        QCOMPARE(spin->value(), 40);
+        spin->setValue(3);
+        Child<QPushButton>(&dialog, "CancelBut")->click();
+        QCOMPARE(doc.values.HoldDays, 40);
+    }
+    void lock()
+    {
+        ScheduleDocument doc;
+        ScriptedPrompter prompter{doc};
+        Build(doc, {"1", "1"});
+        doc.SelStart = doc.SelEnd = 2;
+        TfrmLockStrip dialog(doc);
+        // Without a start date it refuses before it opens.
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Information);
+        prompter.prompts.clear();
+
+        doc.values.StartDate = FridayMarch6;
+        doc.strips[2].set(StripField::LockDate, "3/20/2026");
+        clickInModal("OKBut", [](QWidget *modal) {
+            auto *picker = Child<QDateEdit>(modal, "DTPick");
+            // The picker starts at the selected strip's lock date.
+            QCOMPARE(picker->date(), QDate(2026, 3, 20));
+            QCOMPARE(picker->toolTip(), "Click arrow to drop down callender");
+            Child<QRadioButton>(modal, "Unlockradio")->click();
+            QVERIFY(!picker->isEnabled());
+            Child<QRadioButton>(modal, "LockRadio")->click();
+            QVERIFY(picker->isEnabled());
+            picker->setDate(QDate(2026, 3, 1)); // before the start date
+        });
+        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+        QCOMPARE(dialog.windowTitle(), "Lock / un-lock to date");
+        QCOMPARE(doc.strips[2][StripField::LockDate], "3/1/2026");
+        QCOMPARE(prompter.prompts.size(), 1); // the warning; locked all the same
+        QCOMPARE(prompter.prompts.first().kind, MessageKind::Error);
+
+        clickInModal("OKBut", [](QWidget *modal) { Child<QRadioButton>(modal, "Unlockradio")->click(); });
+        dialog.exec();
+        QCOMPARE(doc.strips[2][StripField::LockDate], "");
+    }
+    void inertDialogs()
+    {
+        ScheduleDocument doc;
+        TfrmDate dates(doc);
+        dates.show();
+        QCOMPARE(dates.windowTitle(), "Dates");
+        QVERIFY(Child<QRadioButton>(&dates, "AddDatesRadio")->isChecked());
+        QCOMPARE(Child<QPushButton>(&dates, "Button1")->text(), "GO!");
+        Child<QPushButton>(&dates, "Button1")->click();
+        QVERIFY(dates.isVisible()); // does nothing
+        Child<QPushButton>(&dates, "Button2")->click();
+        QVERIFY(!dates.isVisible());
+    }
+    void endOfDay()
+    {
+        const QDate start(2027, 4, 5);
+        ScheduleDocument doc;
+        doc.values.StartDate = legacy::FloatToText(legacy::DateToSerial(start));
+        Build(doc, {"1", "1", "|", "1"});
+        doc.strips[2].set(StripField::Reserved12, "46482");
+        ClearModified(doc);
+        TfrmEOD eod(doc);
+        eod.today = [start] { return start; };
+        eod.show();
+        QCOMPARE(Child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
+        auto *list = Child<QListWidget>(&eod, "CheckListBox1");
+        auto *picker = Child<QDateEdit>(&eod, "DatePicker");
+        QCOMPARE(picker->date(), start);
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->item(1)->checkState(), Qt::Checked); // already marked
+        picker->setDate(start.addDays(1));                  // another day lists its own scenes
+        QCOMPARE(list->count(), 1);
+        picker->setDate(start);
+
+        list->item(0)->setCheckState(Qt::Checked);
+        list->item(1)->setCheckState(Qt::Unchecked);
+        Child<QPushButton>(&eod, "CancelBut")->click();
+        QVERIFY(!doc.Modified);
+        eod.show();
+        list->item(0)->setCheckState(Qt::Checked);
+        list->item(1)->setCheckState(Qt::Unchecked);
+        Child<QPushButton>(&eod, "OKBut")->click();
+        QVERIFY(!eod.isVisible());
+        QCOMPARE(ShotDate(doc.strips[1]), start);
+        QVERIFY(!IsShot(doc.strips[2]));
+        QCOMPARE(UndoCommands(doc.undo).undoCaption, "Undo end of day");
+    }
+};
 
 TB_TEST_MAIN(TestSchedulingDialogs)
 #include "tst_schedulingdialogs.moc"

@@ -6,14 +6,15 @@
 
 #include <QAction>
 #include <QDialog>
-#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tb;
+using tb::test::Columns;
+using tb::test::Fetch;
+using tb::test::Row;
 
 namespace {
 
@@ -101,8 +102,8 @@ private slots:
     void helpKeyInDialog_data()
     {
         QTest::addColumn<QString>("page");
-        QTest::newRow("page") << "board.html";
-        QTest::newRow("none") << "";
+        Row("page", "board.html");
+        Row("none", "");
     }
 
     void helpKeyInDialog()
