@@ -84,19 +84,6 @@ private Q_SLOTS:
         QTEST(w, "whole");
         QTEST(e, "eighths");
     }
-    void spinsToLength_data()
-    {
-        Columns<int, int, QString>("whole", "eighths", "text");
-        Row("eighth", 0, 1, "0.125");
-        Row("mixed", 1, 3, "1.375");
-        Row("whole", 2, 0, "2");
-        Row("half", 0, 4, "0.5");
-    }
-    void spinsToLength()
-    {
-        auto [whole, eighths] = Fetch<int, int>("whole", "eighths");
-        QTEST(SpinsToLength(whole, eighths), "text");
-    }
     void pageFromStrip()
     {
         ScheduleDocument doc;

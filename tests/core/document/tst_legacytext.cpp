@@ -316,9 +316,7 @@ private slots:
     {
         Columns<quint32, QString>("value", "text");
         Row("clBlack", 0x000000u, "clBlack"), Row("clRed", 0x0000FFu, "clRed"),
-            Row("clMoneyGreen", 0xC0DCC0u, "clMoneyGreen"), Row("clMedGray", 0xA4A0A0u, "clMedGray"),
-            Row("clScrollBar", 0xFF000000u, "clScrollBar"), Row("clBtnFace", 0xFF00000Fu, "clBtnFace"),
-            Row("clInfoBk", 0xFF000018u, "clInfoBk"), Row("clNone", 0x1FFFFFFFu, "clNone"),
+            Row("clBtnFace", 0xFF00000Fu, "clBtnFace"), Row("clNone", 0x1FFFFFFFu, "clNone"),
             Row("clDefault", 0x20000000u, "clDefault"), Row("unnamed colour", 0x00123456u, "$00123456"),
             Row("unnamed small", 0x0000000Au, "$0000000A"), Row("unnamed system colour", 0xFF00001Au, "$FF00001A");
     }
@@ -367,11 +365,8 @@ private slots:
     void stringToColor_data()
     {
         Columns<QString, QColor>("text", "color");
-        Row("clRed", "clRed", QColor(255, 0, 0)), Row("clSkyBlue", "clSkyBlue", QColor(166, 202, 240)),
-            Row("hex in BGR order", "$00563412", QColor(0x12, 0x34, 0x56)),
+        Row("clRed", "clRed", QColor(255, 0, 0)), Row("hex in BGR order", "$00563412", QColor(0x12, 0x34, 0x56)),
             Row("decimal blue", "16711680", QColor(0, 0, 255)), Row("clBtnFace", "clBtnFace", QColor(212, 208, 200)),
-            Row("clHighlight", "clHighlight", QColor(10, 36, 106)), Row("clInfoBk", "clInfoBk", QColor(255, 255, 225)),
-            Row("cl3DDkShadow", "cl3DDkShadow", QColor(64, 64, 64)),
             Row("system colour by number", "$FF000001", QColor(58, 110, 165)),
             Row("clNone", "clNone", QColor(0, 0, 0, 0)), Row("clDefault", "clDefault", QColor(0, 0, 0)),
             Row("garbage", "garbage", QColor());
@@ -388,10 +383,8 @@ private slots:
     void windows1252Bytes_data()
     {
         Columns<int, int>("byte", "character");
-        Row("euro", 0x80, 0x20AC), Row("undefined 0x81", 0x81, 0x81), Row("undefined 0x8D", 0x8D, 0x8D),
-            Row("right single quote", 0x92, 0x2019), Row("em dash", 0x97, 0x2014), Row("undefined 0x9D", 0x9D, 0x9D),
-            Row("Y diaeresis", 0x9F, 0x178), Row("no-break space", 0xA0, 0xA0), Row("e acute", 0xE9, 0xE9),
-            Row("y diaeresis", 0xFF, 0xFF);
+        Row("euro", 0x80, 0x20AC), Row("undefined 0x81", 0x81, 0x81), Row("right single quote", 0x92, 0x2019),
+            Row("no-break space", 0xA0, 0xA0), Row("y diaeresis", 0xFF, 0xFF);
     }
 
     void windows1252Bytes()
