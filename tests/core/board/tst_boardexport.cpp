@@ -103,10 +103,8 @@ private Q_SLOTS:
         const QList<QStringList> rows = parseCsv(QString::fromUtf8(bytes));
         QCOMPARE(rows.size(), 1 + doc.strips.count());
         const QStringList header = rows.at(0);
-        QCOMPARE(header.mid(0, 16).join(u'|'), "Kind|Day|Shooting day|Date|Scene|INT/EXT|D/N|Set|Location|Synopsis|"
-                                               "Pages|Eighths|Script page|Sheet|Lock date|Notes");
+        // The column titles are pinned by golden_outputs: sixteen columns, then one a category.
         QCOMPARE(header.size(), 16 + 15);
-        QCOMPARE(header.at(16), "Cast");
         for (const QStringList &row : rows)
             QCOMPARE(row.size(), header.size());
         // The cells of one row under the named columns, joined by "|".
