@@ -88,11 +88,6 @@ private Q_SLOTS:
         QCOMPARE(board->horizontalBar()->maximum(), 0);
         QCOMPARE(board->horizontalScroll(), 0);
         QCOMPARE(board->verticalScroll(), 0);
-        // The parts are laid out as the main window expects them.
-        QCOMPARE(board->paintBox()->geometry().topLeft(), QPoint(0, 0));
-        QCOMPARE(board->horizontalBar()->geometry().bottom(), board->height() - 1);
-        QCOMPARE(board->verticalBar()->geometry().right(), board->width() - 1);
-        QCOMPARE(board->displayBuffer().size(), board->paintBox()->size());
     }
     void clickSelectsAStrip()
     {
@@ -282,7 +277,6 @@ private Q_SLOTS:
         QTest::mouseMove(box, QPoint(g.colW - 10, 400));
         QVERIFY(board->leftTimer()->isActive());
         QVERIFY(!board->rightTimer()->isActive());
-        QCOMPARE(board->leftTimer()->interval(), 100);
         QTRY_COMPARE_WITH_TIMEOUT(board->horizontalScroll(), 1, 2000);
         QTest::mouseMove(box, QPoint(box->width() - 5, 400));
         QVERIFY(!board->leftTimer()->isActive());

@@ -56,9 +56,6 @@ private Q_SLOTS:
         const DayOutOfDaysGrid &grid = ui.DODGrid->grid();
         QCOMPARE(grid.rowCount(), 3 + castCount(doc));
         QVERIFY(grid.dayColumns > 0);
-        // The layout follows the window: the grid leaves 85 at the right and 30 below.
-        QCOMPARE(ui.DODGrid->geometry(), QRect(4, 4, 1100 - 85, 520 - 30));
-        QCOMPARE(ui.PrintBut->x(), 4 + 1100 - 85 + 5);
 
         // Find a work cell; colour paints it green.
         QPoint work(-1, -1);
@@ -141,11 +138,8 @@ private Q_SLOTS:
         dialog.printerChoice().choosePdfFile = [out](QWidget *, const QString &) { return out; };
         dialog.show();
         Ui::TfrmPrintIt &ui = dialog.form();
-        QCOMPARE(ui.ScaleSpin->value(), 100);
         QCOMPARE(ui.FromCombo->count(), doc.strips.count());
         QCOMPARE(ui.ToCombo->currentIndex(), doc.strips.count() - 1);
-        QVERIFY(ui.LandRadio->isChecked());
-        QVERIFY(ui.AllRadio->isChecked());
         ui.PrinterCombo->setCurrentIndex(ui.PrinterCombo->count() - 1); // the PDF file
         QVERIFY(dialog.printerChoice().toPdfFile());
         ui.ScaleSpin->setValue(150);
