@@ -1,4 +1,4 @@
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/Settings.h"
 #include "ui/breakdown/TfrmAddElement.h"
@@ -27,19 +27,6 @@ using namespace tb;
 using namespace tb::test;
 
 namespace {
-
-// Answers like ScriptedPrompter, and ticks the "remember" box when told to.
-class RememberingPrompter : public ScriptedPrompter
-{
-public:
-    PromptReply ask(const Prompt &prompt) override
-    {
-        PromptReply reply = ScriptedPrompter::ask(prompt);
-        reply.checkBoxChecked = tickRemember;
-        return reply;
-    }
-    bool tickRemember = false;
-};
 
 void click(QWidget &parent, const char *button)
 {
@@ -112,7 +99,7 @@ class TestBreakdownDialogs : public QObject
 
     // Every test starts from a fresh document answered by a fresh prompter.
     std::unique_ptr<ScheduleDocument> docp;
-    std::unique_ptr<RememberingPrompter> prompterp;
+    std::unique_ptr<RememberingPrompter> prompter;
     std::unique_ptr<Settings> settingsp;
     std::unique_ptr<TfrmStrip> sceneDialog;
 
@@ -136,8 +123,8 @@ private Q_SLOTS:
     void init()
     {
         docp = std::make_unique<ScheduleDocument>();
-        prompterp = std::make_unique<RememberingPrompter>();
-        docp->setPrompter(prompterp.get());
+        prompter = std::make_unique<RememberingPrompter>();
+        docp->setPrompter(prompter.get());
         QFile::remove(TempPath("breakdown.ini"));
         settingsp = std::make_unique<Settings>(TempPath("breakdown.ini"));
     }
@@ -166,7 +153,6 @@ private Q_SLOTS:
     void popupToggleIsLostOnNext()
     {
         ScheduleDocument &doc = small();
-        RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
 
         QMenu *menu = openPopup(dialog, 0);
@@ -179,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.isChanged());
 
         click(dialog, "NextBut");
-        QVERIFY(prompter.prompts.isEmpty());
+        QVERIFY(prompter->prompts.isEmpty());
         QCOMPARE(dialog.currentStrip, 3);
         QCOMPARE(doc.strips[2][StripField::Assignments], "1,4");
         click(dialog, "PrevBut");
@@ -231,18 +217,17 @@ private Q_SLOTS:
     {
         auto [answer, remember] = Fetch<Answer, bool>("answer", "remember");
         ScheduleDocument &doc = small();
-        RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
         QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Changed");
         QVERIFY(dialog.isChanged());
-        prompter.answers = {answer};
-        prompter.tickRemember = remember;
+        prompter->answers = {answer};
+        prompter->tickRemember = remember;
         click(dialog, "NextBut");
-        QCOMPARE(prompter.prompts.size(), 1);
-        QCOMPARE(prompter.prompts[0].text,
+        QCOMPARE(prompter->prompts.size(), 1);
+        QCOMPARE(prompter->prompts[0].text,
                  "You have made changes to this scene. Do you wish to save them before you proceed?");
-        QCOMPARE(prompter.prompts[0].checkBoxText, "&Remember my choice and don't ask again.");
-        QCOMPARE(prompter.prompts[0].buttons, Buttons::YesNo);
+        QCOMPARE(prompter->prompts[0].checkBoxText, "&Remember my choice and don't ask again.");
+        QCOMPARE(prompter->prompts[0].buttons, Buttons::YesNo);
         QTEST(doc.strips[1][StripField::Synopsis], "synopsis");
         QCOMPARE(dialog.currentStrip, 2);
         QVERIFY(!dialog.isChanged());
@@ -250,7 +235,7 @@ private Q_SLOTS:
         if (remember) {
             QTest::keyClicks(Child<QLineEdit>(dialog, "DescEdit"), "Two");
             click(dialog, "NextBut");
-            QCOMPARE(prompter.prompts.size(), 1);
+            QCOMPARE(prompter->prompts.size(), 1);
             QCOMPARE(doc.strips[2][StripField::Synopsis], "Two");
         }
     }
@@ -307,14 +292,13 @@ private Q_SLOTS:
     void zeroLengthKeepsTheDialogOpen()
     {
         ScheduleDocument &doc = small();
-        RememberingPrompter &prompter = *prompterp;
         TfrmStrip &dialog = openScene(SceneMode::Add, 0);
         Child<QLineEdit>(dialog, "SceneEdit")->setText("77");
         Child<QSpinBox>(dialog, "EightsSpin")->setValue(0);
         click(dialog, "OKBut");
         QVERIFY(dialog.isVisible());
         QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
-        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(prompter->prompts.size(), 1);
         QCOMPARE(doc.strips.count(), 4);
         click(dialog, "AddContBut"); // Apply refuses the same way
         QVERIFY(dialog.isVisible());
@@ -399,18 +383,17 @@ private Q_SLOTS:
     void duplicateIdDeclinedKeepsTheDialogOpen()
     {
         ScheduleDocument &doc = small();
-        RememberingPrompter &prompter = *prompterp;
         TfrmAddElement dialog(doc);
         dialog.editIndex = 5; // VASE, a prop
         dialog.show();
         auto *id = Child<QLineEdit>(dialog, "IDEdit");
         id->setText("3");
-        prompter.answers = {Answer::No};
+        prompter->answers = {Answer::No};
         click(dialog, "OKBut");
         QVERIFY(dialog.isVisible());
-        QCOMPARE(prompter.prompts.size(), 1);
+        QCOMPARE(prompter->prompts.size(), 1);
         QCOMPARE(doc.elements[5][ElementField::BoardId], "Prp");
-        prompter.answers = {Answer::Yes};
+        prompter->answers = {Answer::Yes};
         click(dialog, "OKBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(doc.elements[5][ElementField::BoardId], "3");
@@ -472,7 +455,6 @@ private Q_SLOTS:
     void sortAbortStillSorts()
     {
         ScheduleDocument &doc = *docp;
-        RememberingPrompter &prompter = *prompterp;
         AddScene(doc, "10", "1");
         AddDivider(doc);
         AddScene(doc, "2", "1");
@@ -480,7 +462,7 @@ private Q_SLOTS:
         dialog.show();
         Child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
         click(dialog, "SortBut");
-        prompter.answers = {Answer::Abort};
+        prompter->answers = {Answer::Abort};
         click(dialog, "OKBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
@@ -490,7 +472,6 @@ private Q_SLOTS:
     void conformDialog()
     {
         ScheduleDocument &doc = small();
-        RememberingPrompter &prompter = *prompterp;
         TfrmConform dialog(doc);
         dialog.show();
         auto *entry = Child<QLineEdit>(dialog, "ConformEdit");
@@ -500,7 +481,7 @@ private Q_SLOTS:
             QVERIFY(dialog.isVisible()); // Enter makes an entry, it does not close the dialog
         }
         QCOMPARE(entry->text(), "");
-        QCOMPARE(prompter.prompts.size(), 1); // "7" is no strip
+        QCOMPARE(prompter->prompts.size(), 1); // "7" is no strip
         auto *grid = Child<QTableWidget>(dialog, "ConformGrid");
         QCOMPARE(grid->rowCount(), 5);
         QVERIFY(grid->isColumnHidden(2));
@@ -517,10 +498,10 @@ private Q_SLOTS:
         QTest::keyClick(grid, Qt::Key_Delete);
         QCOMPARE(grid->rowCount(), 3);
 
-        prompter.answers = {Answer::No};
+        prompter->answers = {Answer::No};
         click(dialog, "OKBut");
         QVERIFY(dialog.isVisible());
-        prompter.answers = {Answer::Yes};
+        prompter->answers = {Answer::Yes};
         click(dialog, "OKBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(Kinds(doc), "1 1 4");
@@ -563,19 +544,18 @@ private Q_SLOTS:
     void productionDetailsBrokenLogo()
     {
         ScheduleDocument &doc = *docp;
-        RememberingPrompter &prompter = *prompterp;
         doc.values.LogoFile = TempPath("gone.png");
         doc.values.Company = "Brenholt";
         TfrmProdInfo dialog(doc);
         dialog.show();
-        QCOMPARE(prompter.prompts.size(), 1); // the broken link, worded in the core's tests
+        QCOMPARE(prompter->prompts.size(), 1); // the broken link, worded in the core's tests
         QCOMPARE(Child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
 
         // A chosen file that is no picture is still taken over by OK.
         const QString text = TempPath("notes.jpg");
         QVERIFY(WriteBytes(text, "not a picture"));
         dialog.loadChosenLogo(text);
-        QCOMPARE(prompter.prompts.size(), 2);
+        QCOMPARE(prompter->prompts.size(), 2);
         click(dialog, "OKBut");
         QCOMPARE(doc.values.LogoFile, text);
     }

@@ -1,6 +1,6 @@
 // The day out of days window and the board print dialogs, driven through their widgets.
 
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
@@ -20,16 +20,6 @@ using namespace tb::test;
 
 namespace {
 
-const QString Example = QStringLiteral(TB_SOURCE_DIR) + QStringLiteral("/examples/harbour-lights.tbf");
-
-// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
-void keepScreenshot(QWidget &widget, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
-}
-
 int castCount(const ScheduleDocument &doc)
 {
     int n = 0;
@@ -48,7 +38,7 @@ private Q_SLOTS:
     void dayOutOfDaysWindow()
     {
         ScheduleDocument doc;
-        QVERIFY(OpenDocument(doc, Example));
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
         TfrmDOD dialog(doc);
         dialog.resize(1100, 520);
         dialog.show();
@@ -131,7 +121,7 @@ private Q_SLOTS:
     {
         auto [perforated, oneStrip] = Fetch<bool, bool>("perforated", "oneStrip");
         ScheduleDocument doc;
-        QVERIFY(OpenDocument(doc, Example));
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
         Settings settings(TempPath(QStringLiteral("print.ini")));
         TfrmPrintIt dialog(doc, settings);
         const QString out = TempPath(QStringLiteral("board-%1.pdf").arg(QTest::currentDataTag()));

@@ -1,6 +1,6 @@
 // The call sheet dialog driven through its widgets.
 
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/DayCalculation.h"
 #include "document/LegacyText.h"
@@ -24,14 +24,6 @@ void clickCell(QTableWidget *grid, int row, Qt::MouseButton button = Qt::LeftBut
 {
     const QRect cell = grid->visualRect(grid->model()->index(row, 0));
     QTest::mouseClick(grid->viewport(), button, {}, cell.center());
-}
-
-// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
-void keepScreenshot(QWidget &widget, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
 }
 
 QStringList rowOf(QTableWidget *grid, int row)

@@ -1,6 +1,6 @@
 // The preview window and the report dialogs, driven through their widgets.
 
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/ScheduleFile.h"
 #include "reports/AlPrinter.h"
@@ -29,16 +29,6 @@ using namespace tb;
 using namespace tb::test;
 
 namespace {
-
-const QString Example = QStringLiteral(TB_SOURCE_DIR) + QStringLiteral("/examples/harbour-lights.tbf");
-
-// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
-void keepScreenshot(QWidget &widget, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
-}
 
 // Preview pages of the one-line schedule of the example.
 void fillPreview(TfrmPreview &preview, ScheduleDocument &doc, int *count)
@@ -71,7 +61,7 @@ private Q_SLOTS:
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         m_doc.setPrompter(&m_prompter);
-        QVERIFY(OpenDocument(m_doc, Example).ok());
+        QVERIFY(OpenDocument(m_doc, ExampleSchedule).ok());
     }
     void init()
     {
