@@ -4,7 +4,12 @@
 
 #include "TestSupport.h"
 
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
 #include <QWidget>
+
+#include <functional>
 
 namespace tb::test {
 
@@ -22,6 +27,19 @@ public:
     }
     bool tickRemember = false;
 };
+
+// Clicks a button of whatever modal dialog is open once the event loop runs, after
+// running `before` on that dialog.
+inline void clickInModal(const char *button, std::function<void(QWidget *)> before = {})
+{
+    QTimer::singleShot(0, [button, before] {
+        QWidget *modal = QApplication::activeModalWidget();
+        QVERIFY(modal);
+        if (before)
+            before(modal);
+        Child<QPushButton>(modal, button)->click();
+    });
+}
 
 // A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
 inline void keepScreenshot(QWidget &widget, const QString &name)

@@ -53,16 +53,6 @@ QCheckBox *popupItem(QMenu *menu, const QString &text)
     return nullptr;
 }
 
-// Presses a button of the next modal dialog as soon as it shows.
-void pressInNextModal(const char *button)
-{
-    QTimer::singleShot(0, [button] {
-        QWidget *modal = QApplication::activeModalWidget();
-        QVERIFY(modal);
-        click(*modal, button);
-    });
-}
-
 // Scenes 1..3 with a divider after the last, and six elements: three cast, two props,
 // one extra. Scene 2 holds cast 1 and the first prop.
 void SmallSchedule(ScheduleDocument &doc)
@@ -316,7 +306,7 @@ private Q_SLOTS:
         ScheduleDocument &doc = small();
         TfrmStrip &dialog = openScene(SceneMode::Edit, 1);
         QMenu *menu = openPopup(dialog, 0); // the cast column
-        pressInNextModal("CancelBut");
+        clickInModal("CancelBut");
         QTest::mouseClick(menu->findChild<QPushButton *>("ElPopupAddNew"), Qt::LeftButton);
         QCOMPARE(doc.elements.count(), 6);
         // The table's last element, CROWD, is now flagged for this strip.

@@ -1,3 +1,4 @@
+#include "DialogTestSupport.h"
 #include "SchedulingTestView.h"
 
 #include "document/LegacyText.h"
@@ -28,22 +29,6 @@
 
 using namespace tb;
 using namespace tb::test;
-
-namespace {
-
-// Clicks a button of whatever modal dialog is open once the event loop runs.
-void clickInModal(const char *button, std::function<void(QWidget *)> before = {})
-{
-    QTimer::singleShot(0, [button, before] {
-        QWidget *modal = QApplication::activeModalWidget();
-        QVERIFY(modal);
-        if (before)
-            before(modal);
-        Child<QPushButton>(modal, button)->click();
-    });
-}
-
-} // namespace
 
 class TestSchedulingDialogs : public QObject
 {
