@@ -1,6 +1,5 @@
 #include "MainWindowTestSupport.h"
 
-#include "app/TfrmAbout.h"
 #include "app/TfrmMain.h"
 #include "document/DayCalculation.h"
 #include "document/LegacyText.h"
@@ -610,29 +609,28 @@ private slots:
     {
         Harness h("pref.ini");
         QVERIFY(h.start());
-        bool seen = false;
-        QTimer::singleShot(0, [&] {
-            auto *pref = qobject_cast<TfrmPref *>(QApplication::activeModalWidget());
-            QVERIFY(pref);
-            seen = true;
-            QCOMPARE(Child<QSpinBox>(pref, "AutoSaveSpin")->value(), 0);
-            QVERIFY(Child<QCheckBox>(pref, "AutoRestCheck")->isChecked());
-            QCOMPARE(Child<QComboBox>(pref, "DescLine1Combo")->currentText(), "Location");
-            Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(2);
-            Child<QCheckBox>(pref, "AutoRestCheck")->setChecked(false);
-            Child<QComboBox>(pref, "DescLine1Combo")->setCurrentIndex(4); // Notes
-            Child<QCheckBox>(pref, "ScHintsCheck")->setChecked(false);
-            pref->chooseColour = [](const QColor &, const QString &) { return QColor(Qt::green); };
-            Child<QPushButton>(pref, "SlotBut7")->click();
-            QCOMPARE(pref->selectedSlot(), 7);
-            Child<QPushButton>(pref, "BackColorBut")->click();
-            pref->chooseFont = [](const QString &) { return std::optional<QString>("Courier"); };
-            Child<QPushButton>(pref, "FontBut")->click();
-            QCOMPARE(Child<QLabel>(pref, "FontLabel")->text(), "Courier");
-            QTest::mouseClick(Child<QPushButton>(pref, "OKBut"), Qt::LeftButton);
-        });
-        h.entry(actions::Preferences1)->trigger();
-        QVERIFY(seen);
+        QString caption =
+            h.dialogOf([&] { h.entry(actions::Preferences1)->trigger(); },
+                       [&](QDialog *dialog) {
+                           auto *pref = qobject_cast<TfrmPref *>(dialog);
+                           QVERIFY(pref);
+                           QCOMPARE(Child<QSpinBox>(pref, "AutoSaveSpin")->value(), 0);
+                           QVERIFY(Child<QCheckBox>(pref, "AutoRestCheck")->isChecked());
+                           QCOMPARE(Child<QComboBox>(pref, "DescLine1Combo")->currentText(), "Location");
+                           Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(2);
+                           Child<QCheckBox>(pref, "AutoRestCheck")->setChecked(false);
+                           Child<QComboBox>(pref, "DescLine1Combo")->setCurrentIndex(4); // Notes
+                           Child<QCheckBox>(pref, "ScHintsCheck")->setChecked(false);
+                           pref->chooseColour = [](const QColor &, const QString &) { return QColor(Qt::green); };
+                           Child<QPushButton>(pref, "SlotBut7")->click();
+                           QCOMPARE(pref->selectedSlot(), 7);
+                           Child<QPushButton>(pref, "BackColorBut")->click();
+                           pref->chooseFont = [](const QString &) { return std::optional<QString>("Courier"); };
+                           Child<QPushButton>(pref, "FontBut")->click();
+                           QCOMPARE(Child<QLabel>(pref, "FontLabel")->text(), "Courier");
+                           QTest::mouseClick(Child<QPushButton>(pref, "OKBut"), Qt::LeftButton);
+                       });
+        QVERIFY(!caption.isEmpty());
         QCOMPARE(h.main->autosaveTimer().interval(), 2 * 60000);
         QVERIFY(h.main->autosaveTimer().isActive());
         QCOMPARE(h.settings.descLine1, 19);
@@ -707,16 +705,10 @@ private slots:
     void aboutDialog()
     {
         Harness h;
-        bool seen = false;
-        QTimer::singleShot(0, [&] {
-            auto *about = qobject_cast<TfrmAbout *>(QApplication::activeModalWidget());
-            QVERIFY(about);
-            seen = true;
-            QCOMPARE(Child<QLabel>(about, "VersionLabel")->text(), "Version " TB_VERSION);
-            QTest::mouseClick(Child<QPushButton>(about, "OKBut"), Qt::LeftButton);
-        });
-        h.entry(actions::About1)->trigger();
-        QVERIFY(seen);
+        QString version;
+        h.dialogOf([&] { h.entry(actions::About1)->trigger(); },
+                   [&](QDialog *about) { version = Child<QLabel>(about, "VersionLabel")->text(); });
+        QCOMPARE(version, "Version " TB_VERSION);
     }
 
     // ---- Shell commands without the window ------------------------------------------------
