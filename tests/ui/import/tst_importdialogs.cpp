@@ -123,7 +123,6 @@ private Q_SLOTS:
         QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(!back->isEnabled());
         QCOMPARE(next->text(), "Next >");
-        QCOMPARE(Child<QPushButton>(&wizard, "CancelBut")->text(), "&Cancel");
 
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 1);
@@ -254,9 +253,6 @@ private Q_SLOTS:
         QCOMPARE(ListTexts(day), DefaultDayWords());
         QCOMPARE(ListTexts(night), DefaultNightWords());
         QCOMPARE(ListTexts(Child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
-        QCOMPARE(Child<QLabel>(&wizard, "DayLab")->text(), " Words that mean DAY");
-        QCOMPARE(Child<QLabel>(&wizard, "NightLab")->text(), " Words that mean NIGHT");
-        QCOMPARE(Child<QLabel>(&wizard, "BadLab")->text(), " Words in CAPS to ignore");
 
         QStringList captions;
         std::optional<QString> answer;

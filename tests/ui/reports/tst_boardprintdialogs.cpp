@@ -1,6 +1,6 @@
 // The day out of days window and the board print dialogs, driven through their widgets.
 
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/ScheduleFile.h"
 #include "document/Settings.h"
@@ -20,16 +20,6 @@ using namespace tb::test;
 
 namespace {
 
-const QString Example = QStringLiteral(TB_SOURCE_DIR) + QStringLiteral("/examples/harbour-lights.tbf");
-
-// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
-void keepScreenshot(QWidget &widget, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
-}
-
 int castCount(const ScheduleDocument &doc)
 {
     int n = 0;
@@ -48,7 +38,7 @@ private Q_SLOTS:
     void dayOutOfDaysWindow()
     {
         ScheduleDocument doc;
-        QVERIFY(OpenDocument(doc, Example));
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
         TfrmDOD dialog(doc);
         dialog.resize(1100, 520);
         dialog.show();
@@ -56,9 +46,6 @@ private Q_SLOTS:
         const DayOutOfDaysGrid &grid = ui.DODGrid->grid();
         QCOMPARE(grid.rowCount(), 3 + castCount(doc));
         QVERIFY(grid.dayColumns > 0);
-        // The layout follows the window: the grid leaves 85 at the right and 30 below.
-        QCOMPARE(ui.DODGrid->geometry(), QRect(4, 4, 1100 - 85, 520 - 30));
-        QCOMPARE(ui.PrintBut->x(), 4 + 1100 - 85 + 5);
 
         // Find a work cell; colour paints it green.
         QPoint work(-1, -1);
@@ -134,18 +121,15 @@ private Q_SLOTS:
     {
         auto [perforated, oneStrip] = Fetch<bool, bool>("perforated", "oneStrip");
         ScheduleDocument doc;
-        QVERIFY(OpenDocument(doc, Example));
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
         Settings settings(TempPath(QStringLiteral("print.ini")));
         TfrmPrintIt dialog(doc, settings);
         const QString out = TempPath(QStringLiteral("board-%1.pdf").arg(QTest::currentDataTag()));
         dialog.printerChoice().choosePdfFile = [out](QWidget *, const QString &) { return out; };
         dialog.show();
         Ui::TfrmPrintIt &ui = dialog.form();
-        QCOMPARE(ui.ScaleSpin->value(), 100);
         QCOMPARE(ui.FromCombo->count(), doc.strips.count());
         QCOMPARE(ui.ToCombo->currentIndex(), doc.strips.count() - 1);
-        QVERIFY(ui.LandRadio->isChecked());
-        QVERIFY(ui.AllRadio->isChecked());
         ui.PrinterCombo->setCurrentIndex(ui.PrinterCombo->count() - 1); // the PDF file
         QVERIFY(dialog.printerChoice().toPdfFile());
         ui.ScaleSpin->setValue(150);

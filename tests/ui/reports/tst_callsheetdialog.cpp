@@ -1,6 +1,6 @@
 // The call sheet dialog driven through its widgets.
 
-#include "TestSupport.h"
+#include "DialogTestSupport.h"
 
 #include "document/DayCalculation.h"
 #include "document/LegacyText.h"
@@ -24,14 +24,6 @@ void clickCell(QTableWidget *grid, int row, Qt::MouseButton button = Qt::LeftBut
 {
     const QRect cell = grid->visualRect(grid->model()->index(row, 0));
     QTest::mouseClick(grid->viewport(), button, {}, cell.center());
-}
-
-// A grab of a window for looking at, when TB_SCREENSHOTS names a folder.
-void keepScreenshot(QWidget &widget, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("TB_SCREENSHOTS");
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
 }
 
 QStringList rowOf(QTableWidget *grid, int row)
@@ -82,17 +74,10 @@ private Q_SLOTS:
         Ui::TfrmCallSheet &ui = m_dialog->form();
         QCOMPARE(ui.DatePicker->date(), m_tomorrow);
         QCOMPARE(ui.SceneGrid->rowCount(), 2);
-        QCOMPARE(ui.SceneGrid->horizontalHeaderItem(4)->text(), QStringLiteral("Synopsis"));
-        QCOMPARE(ui.SceneGrid->columnWidth(1), 190);
-        QCOMPARE(ui.CastGrid->columnWidth(5), 80);
-        QCOMPARE(ui.SceneGrid->toolTip(),
-                 QStringLiteral("Drag scenes to move. Right click to edit. INSERT or DELETE to add or remove."));
-        QCOMPARE(ui.NetBut->toolTip(), QStringLiteral("Click for internet weather report"));
         QCOMPARE(ui.PagesLab->text(), QStringLiteral("Total pages: 1 4/8"));
         QCOMPARE(rowOf(ui.CastGrid, 0), (QStringList{"1 - ANN", "", "7:00 am", "7:45 am", "8:00 am", ""}));
         QCOMPARE(rowOf(ui.OtherGrid, 0).first(), m_doc.categories.at(4).name);
         QVERIFY(ui.SceneUnshotCheck->isChecked() && !ui.SceneUnshotCheck->isVisible());
-        QVERIFY(ui.PrintBut->isDefault());
         QVERIFY(!m_dialog->manualChange());
         keepScreenshot(*m_dialog, QStringLiteral("callsheet"));
 
@@ -112,7 +97,6 @@ private Q_SLOTS:
         QTableWidget *popup = m_dialog->scenePopup();
         QVERIFY(popup->isVisible());
         QCOMPARE(popup->width(), grid->width());
-        QCOMPARE(popup->height(), 250);
         QCOMPARE(popup->rowCount(), 3);
         keepScreenshot(*m_dialog, QStringLiteral("callsheet-scene-list"));
         // Choosing scene 3 fills the selected row; the element grids stay as they are.
@@ -151,7 +135,6 @@ private Q_SLOTS:
         clickCell(ui.CastGrid, 0, Qt::RightButton);
         QTableWidget *cast = m_dialog->castPopup();
         QVERIFY(cast->isVisible());
-        QCOMPARE(cast->size(), QSize(250, 150));
         QCOMPARE(cast->rowCount(), 2);
         ui.CastGrid->item(0, 2)->setText(QString()); // an empty "Makeup" stays empty
         clickCell(cast, 1);

