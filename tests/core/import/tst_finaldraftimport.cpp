@@ -128,8 +128,6 @@ private Q_SLOTS:
         Row("I/E", "I/E. PORCH - AFTERNOON", "I/E", "D", "PORCH");
         Row("night tests come after day tests", "EXT. ROAD - DAY INTO NIGHT", "E", "N", "ROAD");
         Row("dawn comes last", "EXT. ROAD - DUSK TO DAWN", "E", "DWN", "ROAD");
-        Row("dark", "EXT. FIELD - DARK", "E", "N", "FIELD");
-        Row("midday", "EXT. SQUARE - MIDDAY", "E", "D", "SQUARE");
         Row("digits stop the location", "INT. ROOM 12 - DAY", "I", "D", "ROOM");
         Row("no INT or EXT", "MONTAGE - NIGHT", "", "D", "");
         Row("letter case counts", "int. kitchen - night", "", "D", "");

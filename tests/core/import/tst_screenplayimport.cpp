@@ -309,14 +309,12 @@ private Q_SLOTS:
     {
         Columns<QString, QString>("name", "doubt");
         Row("page number", "12.", "no letters");
-        Row("bare number", "2", "no letters");
         Row("page with a letter", "12a.", "a page number");
         Row("page word", "Page 3", "a page number");
         Row("line of action", "A river.", "ends with a full stop");
         Row("exclamation", "BOOM!", "ends like a sentence");
         Row("long line", "Grabbing the snake and running", "more than three words");
         Row("transition", "Cut to black", "a transition");
-        Row("continued", "Continued", "a transition");
         Row("name", "John smith", "");
         Row("name with a number", "Fisherman #1", "");
         Row("initials", "J.J.", "ends with a full stop");

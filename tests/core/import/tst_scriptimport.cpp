@@ -114,10 +114,8 @@ private Q_SLOTS:
         Row("a page number", "12.", "12.");
         Row("extension in parentheses", "MARY (CONT'D)", "");
         Row("exclamation", "YIP YUP!", "");
-        Row("question", "WHO?", "");
         Row("colon", "SUPER: LONDON", "");
         Row("END lies inside THE END", "END", "");
-        Row("CUT lies inside CUT TO", "CUT", "");
         Row("IN lies inside FADE IN", "IN", "");
         Row("THE lies inside THE END", "THE", "");
         Row("a longer line holding an ignore word", "FADE IN ON MARY", "Fade in on mary");
