@@ -203,11 +203,6 @@ private slots:
                           "[Added]|K=v|")));
         QVERIFY(ini.save().ok());
         QCOMPARE(readText(path), ini.text());
-
-        IniFile missing(TempPath("keep/missing.ini"));
-        QVERIFY(!missing.load());
-        missing.writeBool("General", "ScenePopups", true);
-        QCOMPARE(missing.text(), "[General]\r\nScenePopups=1\r\n");
     }
 
     void applyPreferences()
@@ -352,8 +347,6 @@ private slots:
         QVERIFY(readText(path).contains("[PBDialog]\r\nAutoRestClick=1\r\n"));
         QVERIFY(!AskUnlessRemembered(ticking, s, RememberedWarning::AutoRestClick, warning).has_value());
         QCOMPARE(ticking.prompts.size(), 1);
-        // The others are separate.
-        QVERIFY(AskUnlessRemembered(prompter, s, RememberedWarning::SceneChange, warning).has_value());
     }
 };
 
