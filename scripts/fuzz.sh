@@ -12,7 +12,7 @@ seconds=${1:-60}
 shift || true
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
-    targets=(fuzz_schedule fuzz_textimport fuzz_finaldraft fuzz_fountain fuzz_fdx fuzz_template fuzz_settings)
+    targets=(fuzz_schedule fuzz_textimport fuzz_finaldraft fuzz_fountain fuzz_fdx fuzz_template fuzz_settings fuzz_callsheet)
 fi
 
 # clang and its fuzzer runtime.
@@ -58,6 +58,7 @@ for target in "${targets[@]}"; do
         { cat tests/core/import/data/fd-scene-report.txt; printf '\f'; cat tests/core/import/data/fd-script-report.txt; } \
             >build-fuzz/seeds/$target/reports.txt ;;
     fuzz_template) seed "$target" templates/*.dfm tests/malformed/template ;;
+    fuzz_callsheet) seed "$target" ;; # a saved sheet is kept in tests/fuzz/fuzz_callsheet
     fuzz_settings)
         seed "$target" tests/malformed/settings
         printf '[Files]\r\nAutosavetime=5\r\n[Strips]\r\nCB1=clRed\r\nCT1=$00FF00FF\r\nDescLine1=12\r\nFont=Arial\r\n[Printing]\r\nPerfMargin=5,4\r\n' \
