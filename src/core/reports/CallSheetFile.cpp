@@ -63,6 +63,18 @@ ResultOf<QString> readText(const QString &path)
     return legacy::DecodeFileText(bytes);
 }
 
+// The first two lines of every call sheet file: the header, then the date.
+ResultOf<double> readHeaderAndDate(LineSource &in)
+{
+    if (in.next() != QLatin1String(CallSheetFileHeader))
+        return Result::failure(QString::fromLatin1(CallSheetFileBadHeader));
+    bool ok = false;
+    const double date = legacy::FloatFromText(in.next(), &ok);
+    if (!ok)
+        return Result::failure(QString::fromLatin1(CallSheetFileError));
+    return date;
+}
+
 } // namespace
 
 QStringList CallSheetFileLines(const CallSheet &sheet)
@@ -100,13 +112,10 @@ Result ReadCallSheetFile(CallSheet &sheet, const QString &path)
     if (!text)
         return Result::failure(text.message());
     LineSource in(*text);
-    if (in.next() != QLatin1String(CallSheetFileHeader))
-        return Result::failure(QString::fromLatin1(CallSheetFileBadHeader));
-    bool ok = false;
-    const double date = legacy::FloatFromText(in.next(), &ok);
-    if (!ok)
-        return Result::failure(QString::fromLatin1(CallSheetFileError));
-    sheet.date = date;
+    const ResultOf<double> date = readHeaderAndDate(in);
+    if (!date)
+        return Result::failure(date.message());
+    sheet.date = *date;
     sheet.weather = in.next();
     sheet.unitCall = in.next();
     sheet.costumeCall = in.next();
@@ -127,13 +136,7 @@ ResultOf<double> CallSheetFileDate(const QString &path)
     if (!text)
         return Result::failure(text.message());
     LineSource in(*text);
-    if (in.next() != QLatin1String(CallSheetFileHeader))
-        return Result::failure(QString::fromLatin1(CallSheetFileBadHeader));
-    bool ok = false;
-    const double date = legacy::FloatFromText(in.next(), &ok);
-    if (!ok)
-        return Result::failure(QString::fromLatin1(CallSheetFileError));
-    return date;
+    return readHeaderAndDate(in);
 }
 
 } // namespace tb
