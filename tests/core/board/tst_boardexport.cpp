@@ -5,45 +5,28 @@
 #include "board/BoardExport.h"
 
 #include <QImage>
+#include <QRegularExpression>
 
 using namespace tb;
 using namespace tb::test;
 
 namespace {
 
-// Splits CSV text into rows of fields the way RFC 4180 reads it.
+// Splits CSV text into rows of fields the way RFC 4180 reads it: each field, quoted or not,
+// ends in a comma or a CR LF.
 QList<QStringList> parseCsv(const QString &text)
 {
-    QList<QStringList> rows;
-    QStringList row;
-    QString field;
-    bool quoted = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (quoted) {
-            if (c == u'"' && i + 1 < text.size() && text.at(i + 1) == u'"') {
-                field += u'"';
-                ++i;
-            } else if (c == u'"') {
-                quoted = false;
-            } else {
-                field += c;
-            }
-        } else if (c == u'"') {
-            quoted = true;
-        } else if (c == u',') {
-            row.append(field);
-            field.clear();
-        } else if (c == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n') {
-            row.append(field);
-            rows.append(row);
-            row.clear();
-            field.clear();
-            ++i;
-        } else {
-            field += c;
-        }
+    static const QRegularExpression field(QStringLiteral(R"re(("(?:[^"]|"")*"|[^",\r\n]*)(,|\r\n))re"));
+    QList<QStringList> rows{{}};
+    for (const QRegularExpressionMatch &m : field.globalMatch(text)) {
+        QString value = m.captured(1);
+        if (value.startsWith(u'"'))
+            value = value.mid(1, value.size() - 2).replace(QStringLiteral("\"\""), QStringLiteral("\""));
+        rows.last().append(value);
+        if (m.captured(2) == QStringLiteral("\r\n"))
+            rows.append(QStringList());
     }
+    rows.removeLast();
     return rows;
 }
 

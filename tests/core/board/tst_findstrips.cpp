@@ -58,24 +58,21 @@ private Q_SLOTS:
 
     void nextAndPreviousGoRound_data()
     {
-        Columns<int, bool, int>("from", "forward", "found");
-        Row("from nothing forward", 0, true, 2);
-        Row("from nothing backward", 0, false, 7);
-        Row("forward past the end", 7, true, 2);
-        Row("forward", 2, true, 7);
-        Row("backward past the start", 2, false, 7);
-        Row("out of range forward", 99, true, 2);
+        // found: 0 none
+        Columns<QString, int, bool, int>("text", "from", "forward", "found");
+        Row("from nothing forward", "mara", 0, true, 2);
+        Row("from nothing backward", "mara", 0, false, 7);
+        Row("forward past the end", "mara", 7, true, 2);
+        Row("forward", "mara", 2, true, 7);
+        Row("backward past the start", "mara", 2, false, 7);
+        Row("out of range forward", "mara", 99, true, 2);
+        Row("single match is found again", "storm", 6, true, 6);
+        Row("no match", "desert", 1, true, 0);
     }
     void nextAndPreviousGoRound()
     {
-        auto [from, forward] = Fetch<int, bool>("from", "forward");
-        QTEST(FindStrip(doc, QStringLiteral("mara"), from, forward), "found");
-    }
-
-    void singleMatchIsFoundAgain()
-    {
-        QCOMPARE(FindStrip(doc, QStringLiteral("storm"), 6, true), 6);
-        QCOMPARE(FindStrip(doc, QStringLiteral("desert"), 1, true), 0);
+        auto [text, from, forward] = Fetch<QString, int, bool>("text", "from", "forward");
+        QTEST(FindStrip(doc, text, from, forward), "found");
     }
 };
 

@@ -161,89 +161,115 @@ private Q_SLOTS:
     void bandsOnPages_data()
     {
         // pages: the bands of each page by name
-        Columns<QString, QString, int, QString>("bands", "values", "height", "pages");
+        // texts: what the control ("band.control") shows in each of the band's rows, "-" where
+        // the row lacks it
+        // places: the top-left corners of the first bands of the last page
+        Columns<QString, QString, int, QString, QString, QStringList, QList<QPoint>>(
+            "bands", "values", "height", "pages", "control", "texts", "places");
         const QString detail = band("D", 0, 20, "alr_Detail", {}, fieldOn("N"));
-        Row("detail without values prints once", detail, "", 10000, "D");
-        // Room for the header, the column titles, three rows and the footer, exactly.
-        Row("page breaks repeat detail headers", pagedBands(), "N*10", H20 + H10 + 3 * H30 + H10 + 1,
-            "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot");
+        Row("detail without values prints once", detail, "", 10000, "D", "D.N", QStringList{""}, QList<QPoint>{});
+        // A detail row repeats while any field has a value.
+        Row("detail rows take their values", band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)),
+            "A*2;B*4", 10000, "D D D D", "D.A", QStringList{"1", "2", "", ""},
+            QList<QPoint>{{0, 0}, {0, H20}, {0, 2 * H20}, {0, 3 * H20}});
+        // Room for the header, the column titles, three rows and the footer, exactly; the
+        // footer sits at the usable bottom.
+        const int paged = H20 + H10 + 3 * H30 + H10 + 1;
+        Row("page breaks repeat detail headers", pagedBands(), "N*10", paged,
+            "Head Col D D D Foot | Head Col D D D Foot | Head Col D D D Foot | Head Col D Foot", "D.N",
+            QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"},
+            QList<QPoint>{{0, 0}, {0, H20}, {0, H20 + H10}, {0, paged - 1 - H10}});
         Row("title and footer only", band("Title", 0, 20, "alr_Title") + band("Foot", 40, 10, "alr_PageFooter"), "",
-            5000, "Title Foot");
-        Row("footers alone make a page", band("Foot", 40, 10, "alr_PageFooter"), "", 5000, "Foot");
+            5000, "Title Foot", "", QStringList{}, QList<QPoint>{});
+        // Footers stack upward from the usable bottom.
+        Row("footers stack", detail + band("Foot1", 40, 10, "alr_PageFooter") + band("Foot2", 50, 20, "alr_PageFooter"),
+            "N*1", 5000, "D Foot1 Foot2", "", QStringList{},
+            QList<QPoint>{{0, 0}, {0, 5000 - 1 - H10 - H20}, {0, 5000 - 1 - H20}});
+        Row("footers alone make a page", band("Foot", 40, 10, "alr_PageFooter"), "", 5000, "Foot", "", QStringList{},
+            QList<QPoint>{});
         Row("first and later page headers",
             band("First", 0, 10, "alr_PageHeader", "    FirstPageHeaderOnly = True\n") +
                 band("Later", 10, 10, "alr_PageHeader", "    NotFirstPageHeader = True\n") +
                 band("Every", 20, 10, "alr_PageHeader") +
                 band("Off", 25, 10, "alr_PageHeader", "    Enabled = False\n") +
                 band("D", 30, 30, "alr_Detail", {}, fieldOn("N")),
-            "N*3", 2 * H10 + 2 * H30 + 1, "First Every D D | Later Every D");
+            "N*3", 2 * H10 + 2 * H30 + 1, "First Every D D | Later Every D", "", QStringList{}, QList<QPoint>{});
         Row("new page band",
             band("Title", 0, 10, "alr_Title") + band("Break", 10, 10, "alr_NewPage") +
                 band("D", 20, 10, "alr_Detail", {}, fieldOn("N")) + band("Foot", 40, 10, "alr_PageFooter") +
                 band("Closing", 30, 10, "alr_ReportFooter"),
-            "N*2", 5000, "Title Foot | D D Closing Foot");
+            "N*2", 5000, "Title Foot | D D Closing Foot", "", QStringList{}, QList<QPoint>{});
         // Each row is taller than what is left below the header: it starts a new page and is
         // drawn there anyway, once, rather than asking for pages for ever.
         Row("too tall band still prints",
             band("Head", 0, 20, "alr_PageHeader") + band("D", 20, 30, "alr_Detail", {}, fieldOn("N")), "N*2",
-            H20 + H30 / 2, "Head D | Head D");
-        Row("group breaks through a detail link", groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3", 10000,
-            "Col GH D D GF GH D GF GH D D GF");
-        // Column titles, the group header and two rows per page.
+            H20 + H30 / 2, "Head D | Head D", "", QStringList{}, QList<QPoint>{});
+        // Detail rows fill the columns left to right; another band type draws the same
+        // content in each column, at one height.
+        const int step = MillimetresToDots(20, 1200);
+        Row("columns fill left to right",
+            band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
+                band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
+            "N*4", 5000, "D D D D Foot Foot", "", QStringList{},
+            QList<QPoint>{{0, 0}, {step, 0}, {2 * step, 0}, {0, H20}, {0, 2 * H20}, {step, 2 * H20}});
+        // The group bands show the row that opens or closes the group.
+        const QString days = "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3;DayEnd=E1,E1,E2,E3,E3";
+        Row("group breaks through a detail link", groupBands(true), days, 10000, "Col GH D D GF GH D GF GH D D GF",
+            "GH.Day", QStringList{"Day 1", "Day 2", "Day 3"},
+            QList<QPoint>{{0, 0}, {0, H10}, {0, 2 * H10}, {0, 2 * H10 + H30}, {0, 2 * H10 + 2 * H30}});
+        Row("group footers show the closing row", groupBands(true), days, 10000, "Col GH D D GF GH D GF GH D D GF",
+            "GF.DayEnd", QStringList{"E1", "E2", "E3"}, QList<QPoint>{});
+        // Column titles, the group header and two rows per page; the repeated group header
+        // shows the group's row again.
         Row("group header repeats on a new page", groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2",
-            2 * H10 + 2 * H30 + 1, "Col GH D D | Col GH D D | Col GH D");
+            2 * H10 + 2 * H30 + 1, "Col GH D D | Col GH D D | Col GH D", "GH.Day",
+            QStringList{"Day 1", "Day 1", "Day 2"}, QList<QPoint>{});
         // Room for two rows but not for the footer after the second: the second row goes to
         // the next page with its footer, rather than leave a footer alone there.
         Row("last row keeps its group footer", groupBands(true), "N*2;Day=Day 1,Day 1", 2 * H10 + 2 * H30 + 1,
-            "Col GH D | Col GH D GF");
+            "Col GH D | Col GH D GF", "", QStringList{}, QList<QPoint>{});
+        // Two rows a page: three pages, each knowing the total.
+        Row("page of pages",
+            detail + band("Foot", 40, 20, "alr_PageFooter", {},
+                          "    object P: TAlSysField\n      DataType = alr_PageOfPages\n    end\n"),
+            "N*5", H20 * 3 + 1, "D D Foot | D D Foot | D Foot", "Foot.P",
+            QStringList{"Page 1 of 3", "Page 2 of 3", "Page 3 of 3"}, QList<QPoint>{});
+        Row("labels for blank fields are left out",
+            band("D", 0, 20, "alr_Detail", {},
+                 fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
+                                       "      LabelFor = Dir\n    end\n"),
+            "Dir=Ann, ,Bo", 10000, "D D D", "D.DirLabel", QStringList{"Director", "-", "Director"}, QList<QPoint>{});
     }
     void bandsOnPages()
     {
-        auto [bands, values, height, pages] =
-            Fetch<QString, QString, int, QString>("bands", "values", "height", "pages");
+        auto [bands, values, height, pages, control, places] =
+            Fetch<QString, QString, int, QString, QString, QList<QPoint>>("bands", "values", "height", "pages",
+                                                                          "control", "places");
         const Laid laid = layOut(bands, values, height);
         QVERIFY(laid.form);
         QCOMPARE(bandNames(laid.layout), pages);
+        QStringList texts;
+        int detailRows = 0;
+        for (const LaidOutPage &page : laid.layout.pages) {
+            for (const PlacedBand &b : page.bands) {
+                if (b.band->BandType == tAlBandType::alr_Detail)
+                    QCOMPARE(b.row, detailRows++); // detail rows are numbered from 0
+                if (b.band->Name == control.section(u'.', 0, 0)) {
+                    const PlacedControl *c = controlOf(b, control.section(u'.', 1));
+                    texts.append(c ? c->text : QStringLiteral("-"));
+                    if (c && c->text.isEmpty())
+                        QVERIFY(c->lines.isEmpty());
+                }
+            }
+        }
+        if (!control.isEmpty())
+            QTEST(texts, "texts");
+        QList<QPoint> corners;
+        for (const PlacedBand &b : laid.layout.pages.last().bands.mid(0, places.size()))
+            corners.append(b.rect.topLeft());
+        QCOMPARE(corners, places);
         // A second run starts again from the first values.
         QCOMPARE(bandNames(LayOutReport(*laid.form->report, pageOf(height))), pages);
-    }
-    void detailRowsTakeTheirValues()
-    {
-        const Laid empty = layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("Name")), "", 10000);
-        QCOMPARE(controlOf(empty.layout.pages[0].bands[0], "Name")->text, QString());
-        QVERIFY(controlOf(empty.layout.pages[0].bands[0], "Name")->lines.isEmpty());
-
-        const Laid laid =
-            layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("A") + fieldOn("B", 200)), "A*2;B*4", 10000);
-        // A detail row repeats while any field has a value.
-        QCOMPARE(bandNames(laid.layout), "D D D D");
-        const auto &bands = laid.layout.pages[0].bands;
-        QCOMPARE(controlOf(bands[1], "A")->text, QStringLiteral("2"));
-        QCOMPARE(controlOf(bands[3], "A")->text, QString());
-        QCOMPARE(controlOf(bands[3], "B")->text, QStringLiteral("4"));
-        for (int i = 0; i < 4; ++i) {
-            QCOMPARE(bands[i].rect.top(), i * H20);
-            QCOMPARE(bands[i].row, i);
-        }
-    }
-    void repeatedHeadersAndFootersPlacement()
-    {
-        const int height = H20 + H10 + 3 * H30 + H10 + 1;
-        const Laid laid = layOut(pagedBands(), "N*10", height);
-        const auto &second = laid.layout.pages[1].bands;
-        QCOMPARE(second[1].rect.top(), H20);
-        QCOMPARE(second[2].rect.top(), H20 + H10);
-        QCOMPARE(controlOf(second[2], "N")->text, QStringLiteral("4"));
-        QCOMPARE(second[5].rect.top(), height - 1 - H10); // the footer at the usable bottom
-
-        // Footers stack upward from the usable bottom.
-        const Laid footers =
-            layOut(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) + band("Foot1", 40, 10, "alr_PageFooter") +
-                       band("Foot2", 50, 20, "alr_PageFooter"),
-                   "N*1", 5000);
-        const int usableBottom = 5000 - 1 - H10 - H20;
-        QCOMPARE(footers.layout.pages[0].bands[1].rect.top(), usableBottom);
-        QCOMPARE(footers.layout.pages[0].bands[2].rect.top(), usableBottom + H10);
     }
     void sameNameFieldsOnlyFirstReceives()
     {
@@ -261,39 +287,6 @@ private Q_SLOTS:
         const auto fields = form->fields();
         QCOMPARE(fields[0]->values, QStringList{"first"});
         QVERIFY(fields[1]->values.isEmpty());
-    }
-    void columnsFillLeftToRight()
-    {
-        const Laid laid =
-            layOut(band("D", 0, 20, "alr_Detail", "    Columns = 3\n    ColWidthMM = 20\n", fieldOn("N")) +
-                       band("Foot", 40, 10, "alr_ReportFooter", "    Columns = 2\n    ColWidthMM = 20\n"),
-                   "N*4", 5000);
-        QCOMPARE(bandNames(laid.layout), "D D D D Foot Foot");
-        const auto &b = laid.layout.pages[0].bands;
-        const int step = MillimetresToDots(20, 1200);
-        QCOMPARE(b[0].rect.topLeft(), QPoint(0, 0));
-        QCOMPARE(b[1].rect.topLeft(), QPoint(step, 0));
-        QCOMPARE(b[2].rect.topLeft(), QPoint(2 * step, 0));
-        QCOMPARE(b[3].rect.topLeft(), QPoint(0, H20));
-        // Another band type draws the same content in each column, at one height.
-        QCOMPARE(b[4].rect.topLeft(), QPoint(0, 2 * H20));
-        QCOMPARE(b[5].rect.topLeft(), QPoint(step, 2 * H20));
-    }
-    void groupBandsShowTheirRow()
-    {
-        // The group bands show the row that opens or closes the group.
-        const Laid laid =
-            layOut(groupBands(true), "N*5;Day=Day 1,Day 1,Day 2,Day 3,Day 3;DayEnd=E1,E1,E2,E3,E3", 10000);
-        const auto &b = laid.layout.pages[0].bands; // Col GH D D GF GH D GF GH D D GF
-        QCOMPARE(controlOf(b[1], "Day")->text, QStringLiteral("Day 1"));
-        QCOMPARE(controlOf(b[4], "DayEnd")->text, QStringLiteral("E1"));
-        QCOMPARE(controlOf(b[5], "Day")->text, QStringLiteral("Day 2"));
-        QCOMPARE(controlOf(b[11], "DayEnd")->text, QStringLiteral("E3"));
-        QCOMPARE(b[2].rect.top(), 2 * H10);
-        // A group header repeated on a new page shows the group's row again.
-        const Laid paged = layOut(groupBands(false), "N*5;Day=Day 1,Day 1,Day 1,Day 1,Day 2", 2 * H10 + 2 * H30 + 1);
-        QCOMPARE(controlOf(paged.layout.pages[1].bands[1], "Day")->text, QStringLiteral("Day 1"));
-        QCOMPARE(controlOf(paged.layout.pages[2].bands[1], "Day")->text, QStringLiteral("Day 2"));
     }
     void marginsAndPrinterOffsets()
     {
@@ -385,21 +378,6 @@ private Q_SLOTS:
                  legacy::FormatDate(QDate(2027, 4, 5), QString::fromLatin1(legacy::ShortDatePattern)));
         QCOMPARE(controlOf(foot, "Salr_Formname")->text, QStringLiteral("test.dfm"));
     }
-    void pageOfPages()
-    {
-        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")) +
-                             band("Foot", 40, 20, "alr_PageFooter", {},
-                                  "    object P: TAlSysField\n      DataType = alr_PageOfPages\n    end\n"));
-        QVERIFY(form);
-        pushValues(*form->report, "N*5");
-        // Two rows a page: three pages, each knowing the total.
-        const ReportLayout layout = LayOutReport(*form->report, pageOf(H20 * 3 + 1));
-        QCOMPARE(layout.pages.size(), 3);
-        QStringList texts;
-        for (const LaidOutPage &page : layout.pages)
-            texts.append(controlOf(page.bands.last(), "P")->text);
-        QCOMPARE(texts, QStringList({"Page 1 of 3", "Page 2 of 3", "Page 3 of 3"}));
-    }
     void grownTextPushesDownWhatIsBelow()
     {
         const QString wrap = QStringLiteral("      AutoSize = False\n      WordWrap = True\n");
@@ -419,19 +397,6 @@ private Q_SLOTS:
         QCOMPARE(controlOf(b, "Below")->rect.top(), ScaleToOutput(18, 1200, 96) + grown);
         QCOMPARE(controlOf(b, "Beside")->rect.top(), ScaleToOutput(18, 1200, 96));
         QCOMPARE(b.rect.height(), ScaleToOutput(40, 1200, 96) + grown);
-    }
-    void labelsForBlankFieldsAreLeftOut()
-    {
-        auto form = makeForm(band("D", 0, 20, "alr_Detail", {},
-                                  fieldOn("Dir", 100) + "    object DirLabel: TAlLabel\n      Caption = 'Director'\n"
-                                                        "      LabelFor = Dir\n    end\n"));
-        QVERIFY(form);
-        pushValues(*form->report, "Dir=Ann, ,Bo");
-        const ReportLayout layout = LayOutReport(*form->report, pageOf(10000));
-        QStringList shown;
-        for (const PlacedBand &b : layout.pages[0].bands)
-            shown.append(controlOf(b, "DirLabel") ? "label" : "none");
-        QCOMPARE(shown, QStringList({"label", "none", "label"}));
     }
     void printingFamilyHasABoldFace_data()
     {

@@ -220,13 +220,7 @@ private Q_SLOTS:
     {
         auto [content, why] = Fetch<QByteArray, QString>("content", "why");
         const QString path = TempPath(QString::fromLatin1(QTest::currentDataTag()) + "/t.dfm");
-        QDir().mkpath(QFileInfo(path).path());
-        QFile f(path);
-        if (!content.isNull()) {
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write(content);
-            f.close();
-        }
+        QVERIFY(content.isNull() || WriteBytes(path, content));
         QStringList trace;
         auto loaded = LoadTemplate(path, [&](const QString &line) { trace.append(line); });
         QVERIFY(!loaded.ok());
