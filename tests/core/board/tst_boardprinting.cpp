@@ -81,9 +81,8 @@ private Q_SLOTS:
         options.lastStrip = to;
         options.perforated = perforated;
         options.headerOnEveryPage = everyHeader;
-        BoardPrintResult printed;
         Sheet sheet;
-        printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
+        const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
 
         const int last = to < 0 ? doc.strips.count() : to;
         QVERIFY(printed.problem.isEmpty());

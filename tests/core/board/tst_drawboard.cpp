@@ -133,9 +133,7 @@ private Q_SLOTS:
         QCOMPARE(BoardRound(3.5), 4);
         QCOMPARE(BoardRound(12.6), 13);
         QCOMPARE(BoardRound(-1.5), -2);
-    }
-    void fontHeights()
-    {
+        // Font heights follow the device's resolution, rounded the same way.
         QCOMPARE(BoardFontHeight(14, 1.0, 96, 96), 14);
         QCOMPARE(BoardFontHeight(15, 0.7, 96, 96), 10); // 10.5 rounds to even
         QCOMPARE(BoardFontHeight(14, 1.0, 600, 1200), 28);
@@ -462,12 +460,12 @@ private Q_SLOTS:
         const QRect lastRows(G.colW + G.margin, limitTop, 14, G.rowH);
         QVERIFY(inkIn(d.image, lastRows, Qt::white) > 0);
     }
-    void sameOnEveryResolution()
+    void sameOnEveryResolutionAndWithCachedTexts()
     {
-        // Fonts follow the device: an image that claims 300 dots per inch gets the same
-        // board as one of 96, and one whose axes differ gets taller text.
         ScheduleDocument doc;
         QVERIFY(OpenDocument(doc, ExamplePath()));
+        // Fonts follow the device: an image that claims 300 dots per inch gets the same
+        // board as one of 96, and one whose axes differ gets taller text.
         auto render = [&](int dpiX, int dpiY) {
             QImage image(900, 700, QImage::Format_RGB32);
             image.setDotsPerMeterX(qRound(dpiX / 0.0254));
@@ -479,11 +477,7 @@ private Q_SLOTS:
         const QImage screen = render(96, 96);
         QCOMPARE(render(300, 300), screen);
         QVERIFY(render(300, 600) != screen);
-    }
-    void textCacheDrawsTheSame()
-    {
-        ScheduleDocument doc;
-        QVERIFY(OpenDocument(doc, ExamplePath()));
+
         doc.SelStart = 3;
         doc.SelEnd = 4;
         doc.SelElement = 2;
