@@ -2,6 +2,7 @@
 
 #include "reports/AlReport.h"
 #include "reports/DfmParser.h"
+#include "reports/TemplateFields.h"
 
 #include <QBuffer>
 #include <QtEndian>
@@ -20,7 +21,9 @@ private Q_SLOTS:
                                             "  Single = 2.5s\n  Str = 'It''s'#13#10'two' +\n    ' lines'#$41\n"
                                             "  Ident = alr_Detail\n  Font.Style = [fsBold, fsItalic]\n  Empty = []\n"
                                             "  Lines.Strings = (\n    'a'\n    'b')\n  Data = {\n    0A0B\n    ff}\n"
-                                            "  Items = <\n    item\n      Width = 3\n    end>\nend\n");
+                                            "  Items = <\n    item\n      Width = 3\n    end>\n  object A: tAlBand\n"
+                                            "    object L: TAlLabel\n    end\n  end\n  inherited B: tAlBand\n  end\n"
+                                            "  object TAlReport\n  end\nend");
         ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
         QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
         const DfmObject &f = parsed.value();
@@ -42,20 +45,10 @@ private Q_SLOTS:
         QCOMPARE(value(9).bytes, QByteArray("\x0A\x0B\xFF"));
         QCOMPARE(value(10).collection.size(), 1);
         QCOMPARE(value(10).collection.first().properties.first().second.integer, 3);
-    }
-
-    void nestedObjectsInFileOrder()
-    {
-        ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n  object A: tAlBand\n"
-                                                                 "    object L: TAlLabel\n    end\n  end\n"
-                                                                 "  inherited B: tAlBand\n  end\n  object TAlReport\n"
-                                                                 "  end\nend"),
-                                                  QStringLiteral("t.dfm"));
-        QVERIFY2(parsed.ok(), qPrintable(parsed.message()));
-        const DfmObject &f = parsed.value();
+        // Objects nest in file order.
         QCOMPARE(f.children.size(), 3);
         QCOMPARE(f.children.at(0).children.at(0).name, QStringLiteral("L"));
-        QCOMPARE(f.children.at(0).children.at(0).line, 3);
+        QCOMPARE(f.children.at(0).children.at(0).line, 22);
         QCOMPARE(f.children.at(1).keyword, QStringLiteral("inherited"));
         QVERIFY(f.children.at(2).name.isEmpty());
         QCOMPARE(f.children.at(2).className, QStringLiteral("TAlReport"));
@@ -148,17 +141,26 @@ private Q_SLOTS:
         QCOMPARE(built.message(), message);
     }
 
-    void fontsFollowTheirParent()
+    void fontsFollowTheirParentAndPicturesLoad()
     {
-        ResultOf<DfmObject> parsed = ParseDfmText(QStringLiteral("object F: TForm\n  Font.Name = 'Courier New'\n"
-                                                                 "  Font.Height = -13\n  object B: tAlBand\n"
-                                                                 "    Font.Style = [fsItalic]\n"
-                                                                 "    object L1: TAlLabel\n    end\n"
-                                                                 "    object L2: TAlLabel\n      Font.Height = -20\n"
-                                                                 "    end\n    object L3: TAlLabel\n"
-                                                                 "      Font.Height = -20\n      ParentFont = True\n"
-                                                                 "    end\n  end\nend\n"),
-                                                  QStringLiteral("t.dfm"));
+        QImage image(4, 3, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        // Picture data: class name with its length byte, the stream's byte count, the stream.
+        QByteArray size(4, 0);
+        qToLittleEndian(quint32(png.size()), size.data());
+        const QByteArray data = QByteArray(1, char(9)) + "TPngImage" + size + png;
+        ResultOf<DfmObject> parsed = ParseDfmText(
+            QStringLiteral("object F: TForm\n  Font.Name = 'Courier New'\n  Font.Height = -13\n  object B: tAlBand\n"
+                           "    Font.Style = [fsItalic]\n    object L1: TAlLabel\n    end\n"
+                           "    object L2: TAlLabel\n      Font.Height = -20\n    end\n    object L3: TAlLabel\n"
+                           "      Font.Height = -20\n      ParentFont = True\n    end\n"
+                           "    object I: tAlImage\n      Picture.Data = {%1}\n    end\n  end\nend\n")
+                .arg(QString::fromLatin1(data.toHex())),
+            QStringLiteral("t.dfm"));
         QVERIFY(parsed.ok());
         auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
         QVERIFY2(built.ok(), qPrintable(built.message()));
@@ -174,31 +176,7 @@ private Q_SLOTS:
         QCOMPARE(label("L3")->Font.height, -13);
         // Output fonts are in dots of the layout resolution: 13 design pixels at 96 ppi.
         QCOMPARE(label("L1")->outputFont.pixelSize(), qRound(13 * 1200 / 96.0));
-    }
-
-    void embeddedPicture()
-    {
-        QImage image(4, 3, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QByteArray png;
-        {
-            QBuffer buffer(&png);
-            buffer.open(QIODevice::WriteOnly);
-            image.save(&buffer, "PNG");
-        }
-        // Picture data: class name with its length byte, the stream's byte count, the stream.
-        QByteArray size(4, 0);
-        qToLittleEndian(quint32(png.size()), size.data());
-        const QByteArray data = QByteArray(1, char(9)) + "TPngImage" + size + png;
-        const QString text = QStringLiteral("object F: TForm\n  object B: tAlBand\n    object I: tAlImage\n"
-                                            "      Picture.Data = {%1}\n    end\n  end\nend\n")
-                                 .arg(QString::fromLatin1(data.toHex()));
-        ResultOf<DfmObject> parsed = ParseDfmText(text, QStringLiteral("t.dfm"));
-        QVERIFY(parsed.ok());
-        auto built = BuildReportForm(parsed.value(), QStringLiteral("t.dfm"));
-        QVERIFY2(built.ok(), qPrintable(built.message()));
-        const auto *img = static_cast<tAlImage *>(built.value()->find(QStringLiteral("I")));
-        QCOMPARE(img->Picture.size(), QSize(4, 3));
+        QCOMPARE(static_cast<tAlImage *>(form.find(QStringLiteral("I")))->Picture.size(), QSize(4, 3));
     }
 
     void loadTemplateReportsWhyNot_data()
@@ -231,32 +209,28 @@ private Q_SLOTS:
 
     void shippedTemplatesLoad_data()
     {
-        Columns<QString, QString>("file", "fields");
-        const QString header = QStringLiteral("PictureField AddressField CompanyField ");
+        // lacking: the fields its report fills that the template leaves out
+        // holds: fields the template must hold besides
+        Columns<QString, QString, QString>("file", "lacking", "holds");
         Row("shooting schedule", "ShootSch1.dfm",
-            "PictureField CompanyField DayField GroupEndField SceneField PageField "
-            "PagesField LocationField SynopsisField CatagoryField1 CatagoryField2 "
-            "CatagoryField3 GrandTotal DayPagesField");
+            "CastField SceneNoField IntExtField SetLocField DNField LengthField ScriptPageField CastIdsField", "");
         Row("one-line", "Oneline1.dfm",
-            "PictureField CompanyField DayField GroupEndField SceneField PagesField "
-            "LocationField SynopsisField CastField GrandTotal");
-        Row("breakdown", "Breakdown1.dfm",
-            header + "RefField DirField ProdField BSField SceneField PageField PagesField "
-                     "DNField SetField SynopsisField NotesField NotesCat");
-        Row("element summary", "ElementSummary1.dfm",
-            "HeaderField CompanyField FirstField LastField TotalField UsedField "
-            "NameField DescField TypeField NotesField PBField HoldField");
-        Row("call sheet", "CallSheet1.dfm",
-            header + "DateField DirField ProdField ADField UPMField UnitField MakeupField CostumeField WeatherField "
-                     "WrapField SceneField LocationField PagesField DNField IEField SetField SynopsisField "
-                     "ACharacterField ANameField AMakeupField ACostumeField AOnsetField ATransportField ExtraField "
-                     "ExtraCallField OtherField OtherDescriptionField CrewField1 CrewCallField1 CrewField2 "
-                     "CrewCallField2 NotesField");
+            "PageField CatagoryField1 CatagoryField2 CatagoryField3 SetNameField NotesField", "");
+        Row("breakdown", "Breakdown1.dfm", "", "");
+        Row("element summary", "ElementSummary1.dfm", "PictureField AddressField", "");
+        Row("call sheet", "CallSheet1.dfm", "",
+            "PictureField AddressField CompanyField DateField DirField ProdField ADField UPMField UnitField "
+            "MakeupField "
+            "CostumeField WeatherField WrapField SceneField LocationField PagesField DNField IEField SetField "
+            "SynopsisField ACharacterField ANameField AMakeupField ACostumeField AOnsetField ATransportField "
+            "ExtraField "
+            "ExtraCallField OtherField OtherDescriptionField CrewField1 CrewCallField1 CrewField2 CrewCallField2 "
+            "NotesField");
     }
 
     void shippedTemplatesLoad()
     {
-        auto [file, fields] = Fetch<QString, QString>("file", "fields");
+        auto [file, lacking, holds] = Fetch<QString, QString, QString>("file", "lacking", "holds");
         auto loaded = LoadTemplate(QStringLiteral(TB_SOURCE_DIR) + "/templates/" + file);
         QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
         const ReportForm &form = *loaded.value();
@@ -264,10 +238,14 @@ private Q_SLOTS:
         QStringList names;
         for (const TAlField *field : form.fields())
             names.append(field->Name);
-        for (const QString &field : fields.split(u' ')) {
+        // Every field name appears once: only the first of a name would receive values.
+        QCOMPARE(names.removeDuplicates(), 0);
+        for (const QString &field : holds.split(u' ', Qt::SkipEmptyParts))
             QVERIFY2(names.contains(field), qPrintable(field));
-            // Every field name appears once: only the first of a name would receive values.
-            QCOMPARE(names.count(field), 1);
+        if (const std::optional<TemplateReport> report = TemplateReportOf(file)) {
+            const TemplateFieldCheck check = CheckTemplateFields(form, *report);
+            QCOMPARE(check.lacking.join(u' '), lacking);
+            QVERIFY2(check.unfilled.isEmpty(), qPrintable(check.unfilled.join(u' ')));
         }
     }
 };
