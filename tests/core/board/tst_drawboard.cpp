@@ -284,18 +284,27 @@ private Q_SLOTS:
         QTEST(StripHintText(strip), "hint");
     }
 
-    void drawsStripColours()
+    void drawsTheBoard()
     {
+        // A day exterior scene with a long location, a night interior scene, a divider and a
+        // banner with a long text; strips 2 and 3 and element row 2 selected.
         ScheduleDocument doc;
+        const QString longText = QStringLiteral("A VERY LONG LOCATION NAME THAT NEVER SEEMS TO END AT ALL");
         AddScene(doc, "1", "1", "D", "E");
+        doc.strips[1].set(StripField::Location, longText);
         AddScene(doc, "2", "1", "N", "I");
         AddDivider(doc);
-        AddBanner(doc, "MOVE", 1);
+        AddBanner(doc, longText, 1);
         doc.strips[4].set(StripField::StripColour, "clYellow,clRed");
         addElements(doc, 5);
+        doc.SelStart = 2;
+        doc.SelEnd = 3;
+        doc.SelElement = 2;
         const BoardStyle style = distinctStyle();
+        const QColor dayExt = style.backgroundOf(StripSlot::DayExt);
         const Drawn d = draw(doc, style, QSize(600, 500));
-        QCOMPARE(d.image.pixelColor(inStrip(1, 3)), style.backgroundOf(StripSlot::DayExt));
+        // Below the header every strip, selected or not, is in its own colour.
+        QCOMPARE(d.image.pixelColor(inStrip(1, 3)), dayExt);
         QCOMPARE(d.image.pixelColor(inStrip(2, 3)), style.backgroundOf(StripSlot::NightInt));
         QCOMPARE(d.image.pixelColor(inStrip(3, 3)), style.backgroundOf(StripSlot::DayDivider));
         QCOMPARE(d.image.pixelColor(inStrip(4, 3)), QColor(Qt::yellow));
@@ -308,31 +317,14 @@ private Q_SLOTS:
         QCOMPARE(d.image.pixelColor(G.colW + 4 * G.stripW + 10, 300), QColor(Qt::white));
         // Below the last element row everything is white again.
         QCOMPARE(d.image.pixelColor(inStrip(1, 7)), QColor(Qt::white));
-        // In black and white, only the dividers are black.
-        const Drawn plain = draw(doc, ClassicBoardStyle(), QSize(600, 500), {.inColour = false});
-        for (int i = 1; i <= 4; ++i)
-            QCOMPARE(plain.image.pixelColor(inStrip(i, 3)), QColor(i == 3 ? Qt::black : Qt::white));
-    }
-    void selectionIsRed()
-    {
-        ScheduleDocument doc;
-        for (int i = 1; i <= 4; ++i)
-            AddScene(doc, QString::number(i), "1", "D", "E");
-        addElements(doc, 5);
-        doc.SelStart = 2;
-        doc.SelEnd = 3;
-        doc.SelElement = 2;
-        const BoardStyle style = ClassicBoardStyle();
-        const Drawn d = draw(doc, style, QSize(600, 500));
+
+        // The selected strips' headers are red, their header lines white on red.
         const int y = 7 * G.rowH + 5; // in the header, above the description lines
         auto headerAt = [&](int i) { return d.image.pixelColor(G.colW + (i - 1) * G.stripW + G.stripW - 3, y); };
-        QCOMPARE(headerAt(1), style.backgroundOf(StripSlot::DayExt));
+        QCOMPARE(headerAt(1), dayExt);
         QCOMPARE(headerAt(2), QColor(255, 0, 0));
         QCOMPARE(headerAt(3), QColor(255, 0, 0));
-        QCOMPARE(headerAt(4), style.backgroundOf(StripSlot::DayExt));
-        // Below the header a selected strip keeps its own colour.
-        QCOMPARE(d.image.pixelColor(inStrip(2, 3)), style.backgroundOf(StripSlot::DayExt));
-        // The header lines of a selected strip are white on red.
+        QCOMPARE(headerAt(4), QColor(Qt::yellow));
         const QRect sceneCell(G.colW + G.stripW + 2, G.rowH + 2, G.stripW - 4, G.rowH - 3);
         QVERIFY(inkIn(d.image, sceneCell, QColor(255, 0, 0)) > 0);
         QVERIFY(anyPixel(d.image, sceneCell, [](QColor c) { return c == Qt::white; }));
@@ -341,6 +333,28 @@ private Q_SLOTS:
         QCOMPARE(d.image.pixelColor(1, rowTop + 1), QColor(255, 0, 0));
         QCOMPARE(d.image.pixelColor(150, rowTop + G.rowH - 3), QColor(255, 0, 0));
         QCOMPARE(d.image.pixelColor(150, rowTop + G.rowH + 4), QColor(Qt::white));
+
+        // A row line is the destination AND NOT silver: every channel keeps its low six bits.
+        auto darkened = [](QColor c) { return QColor(c.red() & 63, c.green() & 63, c.blue() & 63); };
+        const int line = G.headerH + 4 * G.rowH;
+        QCOMPARE(d.image.pixelColor(G.colW + 20, line), darkened(dayExt));
+        QCOMPARE(d.image.pixelColor(60, line), QColor(63, 63, 63));
+        QCOMPARE(d.image.pixelColor(G.colW + 2 * G.stripW + 20, line),
+                 darkened(style.backgroundOf(StripSlot::DayDivider)));
+
+        // Only scene lines are cut, at 9.5 rows; the cut leaves the strip clear between the
+        // header lines and the description. A banner's text runs on.
+        const int limitTop = G.headerH - G.margin - BoardRound(9.5 * G.rowH);
+        const QRect gap(G.colW + G.margin, 6 * G.rowH + 1, 14, limitTop - 6 * G.rowH - 1);
+        QCOMPARE(inkIn(d.image, gap, dayExt), 0);
+        QVERIFY(inkIn(d.image, gap.translated(3 * G.stripW, 0), Qt::yellow) > 0);
+        // The cut is just short of the limit: some ink lies in the last row before it.
+        QVERIFY(inkIn(d.image, QRect(G.colW + G.margin, limitTop, 14, G.rowH), dayExt) > 0);
+
+        // In black and white, only the dividers are black.
+        const Drawn plain = draw(doc, ClassicBoardStyle(), QSize(600, 500), {.inColour = false});
+        for (int i = 1; i <= 4; ++i)
+            QCOMPARE(plain.image.pixelColor(inStrip(i, 3)), QColor(i == 3 ? Qt::black : Qt::white));
         // The selection is the screen's: drawn for printing, it is cleared first.
         draw(doc, style, QSize(600, 500), {.forPrinting = true});
         QCOMPARE(doc.SelStart, 0);
@@ -424,41 +438,6 @@ private Q_SLOTS:
         QVERIFY(inkIn(printed.image, markCell(2), dayExt) > 0);
         QCOMPARE(inkIn(printed.image, markCell(3), dayExt), 0);
         QCOMPARE(printed.image.pixelColor(inStrip(1, 4)), QColor(Qt::white));
-    }
-    void gridDarkensWhatLiesBeneath()
-    {
-        ScheduleDocument doc;
-        AddScene(doc, "1", "1", "D", "E");
-        AddDivider(doc);
-        addElements(doc, 5);
-        const BoardStyle style = ClassicBoardStyle();
-        const Drawn d = draw(doc, style, QSize(600, 500));
-        // A row line is the destination AND NOT silver: every channel keeps its low six bits.
-        const QColor yellow = style.backgroundOf(StripSlot::DayExt);
-        const QColor expected(yellow.red() & 63, yellow.green() & 63, yellow.blue() & 63);
-        QCOMPARE(d.image.pixelColor(G.colW + 20, G.headerH + 2 * G.rowH), expected);
-        QCOMPARE(d.image.pixelColor(60, G.headerH + 2 * G.rowH), QColor(63, 63, 63));
-        QCOMPARE(d.image.pixelColor(G.colW + G.stripW + 20, G.headerH + 2 * G.rowH), QColor(Qt::black));
-    }
-    void sceneDescriptionsAreCut()
-    {
-        // Only scene lines are cut, at 9.5 rows; the cut leaves the strip clear between the
-        // header lines and the description. A banner's text runs on.
-        ScheduleDocument doc;
-        AddScene(doc, "1", "1", "D", "E");
-        AddBanner(doc, QString(), 1);
-        const QString longText = QStringLiteral("A VERY LONG LOCATION NAME THAT NEVER SEEMS TO END AT ALL");
-        doc.strips[1].set(StripField::Location, longText);
-        doc.strips[2].set(StripField::Synopsis, longText);
-        doc.strips[2].set(StripField::StripColour, "clWhite,clBlack");
-        const Drawn d = draw(doc, BoardStyle(), QSize(600, 500));
-        const int limitTop = G.headerH - G.margin - BoardRound(9.5 * G.rowH);
-        const QRect gap(G.colW + G.margin, 6 * G.rowH + 1, 14, limitTop - 6 * G.rowH - 1);
-        QCOMPARE(inkIn(d.image, gap, Qt::white), 0);
-        QVERIFY(inkIn(d.image, gap.translated(G.stripW, 0), Qt::white) > 0);
-        // The cut is just short of the limit: some ink lies in the last row before it.
-        const QRect lastRows(G.colW + G.margin, limitTop, 14, G.rowH);
-        QVERIFY(inkIn(d.image, lastRows, Qt::white) > 0);
     }
     void sameOnEveryResolutionAndWithCachedTexts()
     {
