@@ -245,8 +245,15 @@ private Q_SLOTS:
     }
     void rowValues()
     {
-        scene(*m_doc, "12A", "1.375");
-        scene(*m_doc, "13", "0.5");
+        // Five scenes of one day, each with its own INT/EXT and time of day.
+        const QStringList intExt{"I", "E", "I/E", "", "X"};
+        const QStringList dayNight{"D", "N", "DWN", "DSK", "Y"};
+        const QStringList numbers{"12A", "13", "14", "15", "16"};
+        for (int i = 0; i < 5; ++i) {
+            const int row = scene(*m_doc, numbers[i], i == 0 ? "1.375" : i == 1 ? "0.5" : "1");
+            m_doc->strips[row].set(StripField::IntExt, intExt[i]);
+            m_doc->strips[row].set(StripField::DayNight, dayNight[i]);
+        }
         layOut(*m_doc, "|");
         Pushes pushes;
         QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
@@ -254,30 +261,15 @@ private Q_SLOTS:
         for (const QString &name : ReportFieldNames(TemplateReport::Schedule))
             QVERIFY2(pushes.names.contains(name), qPrintable(name));
         QCOMPARE(pushes.names.mid(pushes.names.size() - 3), QStringList({"GrandTotal", "TotalsField", "TitleField"}));
-        QCOMPARE(
-            pushes.valuesOf({"TotalsField", "LengthField", "SceneField", "PageField", "PagesField", "DayPagesField"}),
-            QStringList({"1 shooting day, 2 scenes, 1 7/8 pages", "1 3/8|4/8", "Scene: 12A|Scene: 13",
-                         "Page: 12A|Page: 13", "Pages: 1 3/8|Pages: 4/8", "Total pages: 1 7/8|Total pages: 1 7/8"}));
-    }
-    void locationLine_data()
-    {
-        Columns<QStringList, QString>("intExtDayNight", "line");
-        Row("int day", QStringList{"I", "D"}, "INT - HARBOUR - DAY");
-        Row("ext night", QStringList{"E", "N"}, "EXT - HARBOUR - NIGHT");
-        Row("int/ext dawn", QStringList{"I/E", "DWN"}, "INT/EXT - HARBOUR - DAWN");
-        Row("dusk only", QStringList{"", "DSK"}, "HARBOUR - DUSK");
-        Row("neither", QStringList{"X", "Y"}, "HARBOUR");
-    }
-    void locationLine()
-    {
-        auto [intExtDayNight, line] = Fetch<QStringList, QString>("intExtDayNight", "line");
-        const int row = scene(*m_doc, "1");
-        m_doc->strips[row].set(StripField::IntExt, intExtDayNight[0]);
-        m_doc->strips[row].set(StripField::DayNight, intExtDayNight[1]);
-        RecalculateDays(*m_doc);
-        Pushes pushes;
-        QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-        QCOMPARE(pushes.values("LocationField"), QStringList{line});
+        QCOMPARE(pushes.valuesOf({"TotalsField", "LengthField", "SceneField", "PageField", "PagesField"}),
+                 QStringList({"1 shooting day, 5 scenes, 4 7/8 pages", "1 3/8|4/8|1|1|1",
+                              "Scene: 12A|Scene: 13|Scene: 14|Scene: 15|Scene: 16",
+                              "Page: 12A|Page: 13|Page: 14|Page: 15|Page: 16",
+                              "Pages: 1 3/8|Pages: 4/8|Pages: 1|Pages: 1|Pages: 1"}));
+        QCOMPARE(pushes.values("DayPagesField"), QStringList(5, "Total pages: 4 7/8"));
+        QCOMPARE(pushes.values("LocationField"),
+                 QStringList({"INT - HARBOUR - DAY", "EXT - HARBOUR - NIGHT", "INT/EXT - HARBOUR - DAWN",
+                              "HARBOUR - DUSK", "HARBOUR"}));
     }
     void dayFieldThatIsNoNumber()
     {
