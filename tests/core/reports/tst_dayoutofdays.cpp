@@ -79,16 +79,22 @@ private Q_SLOTS:
         QCOMPARE(grid.workDays.at(0), int(numbers(work).size()));
         QCOMPARE(grid.holdDays.at(0), int(expected.count(u'H')));
     }
-    void titleRowsAndDays()
+    void titleRowsDaysAndSpreadsheet()
     {
         ScheduleDocument doc;
         doc.values.StartDate = QStringLiteral("46087"); // Friday 6 March 2026
         buildBoard(doc, 3, {1}, false);
+        doc.elements[1].set(ElementField::Description, QStringLiteral("Bell, \"Annie\""));
         const DayOutOfDaysGrid grid = BuildDayOutOfDays(doc);
         QCOMPARE(grid.cells.at(0), (QStringList{" Shooting day:", "1", "2", "3"}));
         QCOMPARE(grid.cells.at(1), (QStringList{" Date:", "6/3", "7/3", "8/3"}));
         QCOMPARE(grid.cell(2, 0), QStringLiteral(" Day of week:"));
         QCOMPARE(grid.cell(2, 1), QLocale().dayName(5, QLocale::ShortFormat));
+        // The spreadsheet quotes what needs it; each row ends in a line break.
+        const QString csv = DayOutOfDaysCsv(grid);
+        QCOMPARE(csv.split(u'\n').at(3), QStringLiteral("\"AB - Bell, \"\"Annie\"\"\",SWF,,"));
+        QVERIFY(csv.endsWith(u'\n'));
+        QCOMPARE(csv.count(u'\n'), 4);
 
         // A board that does not end with a divider: its last day has no column.
         ScheduleDocument open;
@@ -117,16 +123,6 @@ private Q_SLOTS:
         QCOMPARE(grid.rowCount(), 4);
         QCOMPARE(grid.cell(3, 0), QStringLiteral("V1 - Red van"));
         QCOMPARE(grid.cells.at(3).mid(1), (QStringList{"", "SWF", "", "", "", "1", "0", "1"}));
-    }
-    void csvQuoting()
-    {
-        ScheduleDocument doc;
-        buildBoard(doc, 1, {1}, false);
-        doc.elements[1].set(ElementField::Description, QStringLiteral("Bell, \"Annie\""));
-        const QString csv = DayOutOfDaysCsv(BuildDayOutOfDays(doc));
-        QCOMPARE(csv.split(u'\n').at(3), QStringLiteral("\"AB - Bell, \"\"Annie\"\"\",SWF"));
-        QVERIFY(csv.endsWith(u'\n'));
-        QCOMPARE(csv.count(u'\n'), 4);
     }
     void printedSlices()
     {
