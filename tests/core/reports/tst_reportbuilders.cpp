@@ -191,30 +191,6 @@ private Q_SLOTS:
         QCOMPARE(shooting.values("DayField"),
                  QStringList({"SHOOTING DAY 1 : " + longDate(0), "SHOOTING DAY 3 : " + longDate(3)}));
     }
-    void elementColumns()
-    {
-        // A scene with no elements: a blank cast text and three blank columns.
-        scene(*m_doc, "1");
-        const int row = scene(*m_doc, "2");
-        QList<int> elements;
-        elements << AddElement(*m_doc, "ANN", 1, "1") << AddElement(*m_doc, "BOB", 1, "4")
-                 << AddElement(*m_doc, "CY", 1, "12") << AddElement(*m_doc, "VAN", 4) << AddElement(*m_doc, "LAMP", 5)
-                 << AddElement(*m_doc, "MAP", 5) << AddElement(*m_doc, "ROPE", 5) << AddElement(*m_doc, "RAIN", 10)
-                 << AddElement(*m_doc, "UNUSED", 2);
-        // Assigned out of order: each list follows the element table.
-        for (int e : {8, 3, 7, 1, 6, 4, 5, 2})
-            AddAssignment(*m_doc, row, elements[e - 1]);
-        RecalculateDays(*m_doc);
-        Pushes pushes;
-        QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
-        QCOMPARE(pushes.values("CastField"), QStringList({" ", "Cast:  1  4  12"}));
-        // 12 lines: a third is 4. A list is never split; the test comes before each list.
-        QCOMPARE(pushes.values("CatagoryField1"),
-                 QStringList({" ", "CAST\r\n    1 ANN\r\n    4 BOB\r\n    12 CY\r\n \r\n"}));
-        QCOMPARE(pushes.values("CatagoryField2"),
-                 QStringList({" ", "VEHICLES\r\n    VAN\r\n \r\nPROPS\r\n    LAMP\r\n    MAP\r\n    ROPE\r\n \r\n"}));
-        QCOMPARE(pushes.values("CatagoryField3"), QStringList({" ", "SPECIAL FX\r\n    RAIN\r\n \r\n"}));
-    }
     void breakdownBoxesContinueBelowTheSheet()
     {
         // 25 cast members and a location of 200 characters: more than the cast box and the
@@ -254,9 +230,23 @@ private Q_SLOTS:
             m_doc->strips[row].set(StripField::IntExt, intExt[i]);
             m_doc->strips[row].set(StripField::DayNight, dayNight[i]);
         }
+        // Scene 13's elements, assigned out of order: each list follows the element table.
+        QList<int> elements;
+        elements << AddElement(*m_doc, "ANN", 1, "1") << AddElement(*m_doc, "BOB", 1, "4")
+                 << AddElement(*m_doc, "CY", 1, "12") << AddElement(*m_doc, "VAN", 4) << AddElement(*m_doc, "LAMP", 5)
+                 << AddElement(*m_doc, "MAP", 5) << AddElement(*m_doc, "ROPE", 5) << AddElement(*m_doc, "RAIN", 10)
+                 << AddElement(*m_doc, "UNUSED", 2);
+        for (int e : {8, 3, 7, 1, 6, 4, 5, 2})
+            AddAssignment(*m_doc, 2, elements[e - 1]);
         layOut(*m_doc, "|");
         Pushes pushes;
         QVERIFY(CreateSchedulePages(*m_doc, {}, pushes.context()).ok());
+        // A scene without elements has a blank cast text and three blank columns. Scene 13 has
+        // 12 lines: a third is 4. A list is never split; the test comes before each list.
+        QCOMPARE(pushes.valuesOf({"CastField", "CatagoryField1", "CatagoryField2", "CatagoryField3"}),
+                 QStringList({" |Cast:  1  4  12| | | ", " |CAST\r\n    1 ANN\r\n    4 BOB\r\n    12 CY\r\n \r\n| | | ",
+                              " |VEHICLES\r\n    VAN\r\n \r\nPROPS\r\n    LAMP\r\n    MAP\r\n    ROPE\r\n \r\n| | | ",
+                              " |SPECIAL FX\r\n    RAIN\r\n \r\n| | | "}));
         // Every field the report is known to fill gets its values; the closing line last.
         for (const QString &name : ReportFieldNames(TemplateReport::Schedule))
             QVERIFY2(pushes.names.contains(name), qPrintable(name));
