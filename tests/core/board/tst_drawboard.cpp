@@ -475,7 +475,6 @@ private Q_SLOTS:
         addElements(doc, 2);
         BoardBuffer buffer;
         QVERIFY(buffer.SetBufferSize(400, 350).ok());
-        QCOMPARE(buffer.image().size(), QSize(400, 350));
         const BoardStyle style = ClassicBoardStyle();
         const BoardDrawResult drawn = buffer.paint(doc, style, 1, 1, 1.0, nullptr);
         QCOMPARE(drawn.lastDrawnText(), "  1  2");

@@ -339,23 +339,18 @@ private Q_SLOTS:
     void clipModes()
     {
         const QString field = fieldOn("Text", 0, 0, "      AutoSize = False\n      WordWrap = True\n");
-        auto clip = makeForm(band("D", 0, 20, "alr_Detail", {}, field));
-        auto over = makeForm(band("D", 0, 20, "alr_Detail", "    ClipMode = cm_Overwrite\n", field));
-        const QString longText =
-            QStringLiteral("a text much too long for a field one hundred pixels wide and one line high");
-        clip->report->AddNamedValue("Text", longText);
-        over->report->AddNamedValue("Text", longText);
-        const ReportLayout clipLayout = LayOutReport(*clip->report, pageOf(5000)); // c points into it
-        const PlacedControl *c = controlOf(clipLayout.pages[0].bands[0], "Text");
+        const QString text = "Text=a text much too long for a field one hundred pixels wide and one line high";
+        const Laid clip = layOut(band("D", 0, 20, "alr_Detail", {}, field), text, 5000);
+        const PlacedControl *c = controlOf(clip.layout.pages[0].bands[0], "Text");
         // Never cut silently: the line that fits ends in an ellipsis.
         QCOMPARE(c->lines.size(), 1);
         QVERIFY(c->cut);
         QVERIFY(c->lines.first().text.endsWith(QChar(0x2026)));
         QVERIFY(c->clipped);
         QCOMPARE(c->clip, c->rect);
-        const ReportLayout overLayout = LayOutReport(*over->report, pageOf(5000));
-        QVERIFY(!controlOf(overLayout.pages[0].bands[0], "Text")->clipped);
-        QCOMPARE(overLayout.pages[0].bands[0].rect.height(), H20); // the band keeps its height
+        const Laid over = layOut(band("D", 0, 20, "alr_Detail", "    ClipMode = cm_Overwrite\n", field), text, 5000);
+        QVERIFY(!controlOf(over.layout.pages[0].bands[0], "Text")->clipped);
+        QCOMPARE(over.layout.pages[0].bands[0].rect.height(), H20); // the band keeps its height
     }
     void systemFields()
     {
@@ -415,7 +410,7 @@ private Q_SLOTS:
         // Widths are given in characters of the fixed-pitch font.
         QTEST(BreakTextLines(text, font, width * metrics.horizontalAdvance(u'x')), "lines");
     }
-    void previewAndPrintBreakAlike()
+    void previewAndPrintBreakAlikeAndPdfsAreWhole()
     {
         auto form =
             makeForm(band("Head", 0, 40, "alr_PageHeader") + band("Col", 40, 12, "alr_DetailHeader") +
@@ -439,15 +434,11 @@ private Q_SLOTS:
         QVERIFY(qAbs(pages.first()->Height - qRound((297 - 6.4) / 25.4 * 96)) <= 1);
         QVERIFY(!pages.first()->picture().isNull());
         qDeleteAll(pages);
-    }
-    void pdfIsWrittenWholeOrNotAtAll()
-    {
-        auto form = makeForm(band("D", 0, 20, "alr_Detail", {}, fieldOn("N")));
-        QVERIFY(form);
-        pushValues(*form->report, "N*3");
-        const QString path = TempPath("report.pdf");
-        QVERIFY(WriteReportPdf(*form->report, path, tPapersize::alr_Letter).ok());
-        const QByteArray before = ReadFileBytes(path);
+
+        // A PDF file is written whole or not at all.
+        const QString pdf = TempPath("report.pdf");
+        QVERIFY(WriteReportPdf(*form->report, pdf, tPapersize::alr_Letter).ok());
+        const QByteArray before = ReadFileBytes(pdf);
         QVERIFY(before.startsWith("%PDF"));
         // A cancelled run leaves the earlier file as it was.
         class Cancelling : public ReportProgressBox
@@ -460,8 +451,8 @@ private Q_SLOTS:
             void close() override {}
         } box;
         form->report->progressBox = &box;
-        QVERIFY(!WriteReportPdf(*form->report, path).ok());
-        QCOMPARE(ReadFileBytes(path), before);
+        QVERIFY(!WriteReportPdf(*form->report, pdf).ok());
+        QCOMPARE(ReadFileBytes(pdf), before);
         QVERIFY(!WriteReportPdf(*form->report, TempPath("no/such/folder/x.pdf")).ok());
     }
 };
