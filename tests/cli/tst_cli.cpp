@@ -19,11 +19,9 @@ namespace {
 using L = QStringList;
 
 const QString Example = QStringLiteral(TB_SOURCE_DIR "/examples/harbour-lights.tbf");
-const QString DataDir = QStringLiteral(TB_IMPORT_DATA);
 
 // The arguments with their placeholders replaced: EX the example schedule, SMALL and
-// EMPTY the schedules made in initTestCase, OUT the output, @NAME a file written there
-// and DATA/NAME an import sample.
+// EMPTY the schedules made in initTestCase, OUT the output, @NAME a file written there.
 QStringList expand(QStringList args, const QString &out)
 {
     for (QString &arg : args) {
@@ -35,8 +33,6 @@ QStringList expand(QStringList args, const QString &out)
             arg = out;
         else if (arg.startsWith(u'@'))
             arg = TempPath(arg.mid(1));
-        else if (arg.startsWith("DATA/"))
-            arg = QDir(DataDir).filePath(arg.mid(5));
     }
     return args;
 }

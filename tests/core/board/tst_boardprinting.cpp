@@ -61,6 +61,7 @@ private Q_SLOTS:
     void pages_data()
     {
         Columns<int, int, bool, bool>("from", "to", "perforated", "everyHeader");
+        // Printed at an overall scale of 150 %: kept on plain paper, 100 % after perforated stock.
 
         Row("one strip", 7, 7, false, false);
         Row("all, plain", 1, -1, false, false);
@@ -81,6 +82,8 @@ private Q_SLOTS:
         options.lastStrip = to;
         options.perforated = perforated;
         options.headerOnEveryPage = everyHeader;
+        options.overallScale = 1.5;
+        options.perfWidth = 9.6;
         Sheet sheet;
         const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
 
@@ -103,28 +106,9 @@ private Q_SLOTS:
         // Every page is followed by a new one, the last included.
         QCOMPARE(sheet.pdfPages(), int(printed.pages.size()) + 1);
         QCOMPARE(doc.SelStart, 0);
-    }
-    void overallScale_data()
-    {
-        Columns<bool, double>("perforated", "after");
-        Row("plain keeps 150 %", false, 1.5);
-        Row("perforated resets to 100 %", true, 1.0);
-    }
-    void overallScale()
-    {
-        auto [perforated, after] = Fetch<bool, double>("perforated", "after");
-        ScheduleDocument doc;
-        fillBoard(doc, 10);
-        BoardPrintOptions options;
-        options.overallScale = 1.5;
-        options.perforated = perforated;
-        options.perfWidth = 9.6;
-        Sheet sheet;
-        const BoardPrintResult printed = PrintBoard(doc, BoardStyle(), options, sheet.writer);
-        QCOMPARE(printed.overallScale, after);
+        QCOMPARE(printed.overallScale, perforated ? 1.0 : 1.5);
         // A strip is one perforated strip wide at 100 %.
-        const double k = Dpi / 25.4 * 9.6 / 40;
-        QCOMPARE(printed.scale, k * after);
+        QCOMPARE(printed.scale, Dpi / 25.4 * 9.6 / 40 * printed.overallScale);
     }
     void perforatedMarginInsideTheEdge()
     {
