@@ -37,12 +37,16 @@ struct Drawn
     QString result; // the kept text form
 };
 
-Drawn draw(ScheduleDocument &doc, const BoardStyle &style, QSize size, const BoardDrawOptions &options = {})
+// The board drawn on a magenta image, inside the clip when one is given.
+Drawn draw(ScheduleDocument &doc, const BoardStyle &style, QSize size, const BoardDrawOptions &options = {},
+           const QRect &clip = {})
 {
     Drawn d;
     d.image = QImage(size, QImage::Format_RGB32);
     d.image.fill(Qt::magenta);
     QPainter p(&d.image);
+    if (!clip.isNull())
+        p.setClipRect(clip);
     d.result = DrawBoard(doc, style, options, p).lastDrawnText();
     return d;
 }
@@ -406,16 +410,10 @@ private Q_SLOTS:
         addElements(doc, 40);
         for (int i = 1; i <= 30; ++i)
             doc.strips[i].set(StripField::Assignments, "1,2,3,20,21,22,23");
-        QImage image(800, 600, QImage::Format_RGB32);
-        image.fill(Qt::magenta);
         const QRect clip(0, 0, 500, 400);
-        QString result;
-        {
-            QPainter p(&image);
-            p.setClipRect(clip);
-            result = DrawBoard(doc, ClassicBoardStyle(), {}, p).lastDrawnText();
-        }
-        QCOMPARE(result, "  8  7"); // strips at x 200 .. 480, rows from y 291 while below 400
+        const Drawn d = draw(doc, ClassicBoardStyle(), QSize(800, 600), {}, clip);
+        const QImage &image = d.image;
+        QCOMPARE(d.result, "  8  7"); // strips at x 200 .. 480, rows from y 291 while below 400
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
                 if (!clip.contains(x, y) && image.pixelColor(x, y) != QColor(Qt::magenta))

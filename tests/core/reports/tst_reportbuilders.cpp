@@ -185,11 +185,9 @@ private Q_SLOTS:
         const int row = scene(*m_doc, "112A-112C");
         m_doc->strips[row].set(StripField::Location, QString(QStringLiteral("THE LONG QUAY ")).repeated(14).trimmed());
         m_doc->strips[row].set(StripField::IntExt, QStringLiteral("I/E"));
-        QStringList names;
-        for (int i = 1; i <= 25; ++i) {
-            names.append(QStringLiteral("CAST MEMBER %1").arg(i));
-            AddAssignment(*m_doc, row, AddElement(*m_doc, names.last(), 1, QString::number(i)));
-        }
+        for (int i = 1; i <= 25; ++i)
+            AddAssignment(*m_doc, row,
+                          AddElement(*m_doc, QStringLiteral("CAST MEMBER %1").arg(i), 1, QString::number(i)));
         scene(*m_doc, "2");
         RecalculateDays(*m_doc);
         Pushes pushes;
