@@ -72,10 +72,8 @@ private Q_SLOTS:
         options.showHolds = showHolds;
         const DayOutOfDaysGrid grid = BuildDayOutOfDays(doc, options);
 
-        QCOMPARE(grid.rowCount(), 4);
         QCOMPARE(grid.dayColumns, days);
-        QCOMPARE(grid.cell(3, 0), QStringLiteral("AB - Anna Bell"));
-        QCOMPARE(grid.cells.at(3).mid(1).join(u'|'), expected);
+        QCOMPARE(grid.cells.at(3).join(u'|'), "AB - Anna Bell|" + expected);
         QCOMPARE(grid.workDays.at(0), int(numbers(work).size()));
         QCOMPARE(grid.holdDays.at(0), int(expected.count(u'H')));
     }
