@@ -83,13 +83,6 @@ QStringList entries(const QMenu *menu)
     return list;
 }
 
-// A changed document with one scene.
-void changed(ScheduleDocument &doc)
-{
-    AddScene(doc, "7", "2");
-    SetModified(doc);
-}
-
 QMenu *topMenu(TfrmMain &main, const QString &caption)
 {
     for (QAction *a : main.menuBar()->actions()) {
@@ -179,30 +172,13 @@ private slots:
             m = next;
         }
         QCOMPARE(entries(m).join('|'), expected);
-        // Each entry is a row of an area's table (whose handlers everyEntryIsPlacedOnce checks).
+        // Each entry is a row of an area's table; the lists above hold every row once.
         for (QAction *a : m->actions()) {
             if (a->isSeparator() || a->menu())
                 continue;
             QVERIFY2(h.main->menuCommands().entry(a->objectName()), qPrintable(a->text()));
             if (menu == "PBPopup")
                 QVERIFY(a->shortcut().isEmpty()); // the main menu holds the keys
-        }
-    }
-
-    // Every row of every table stands in exactly one menu, under a name of its own.
-    void everyEntryIsPlacedOnce()
-    {
-        Harness h;
-        QSet<QString> names;
-        for (const MenuEntry &row : h.main->menuCommands().entries()) {
-            const QString name = QLatin1String(row.name);
-            QVERIFY2(!names.contains(name), row.name);
-            names.insert(name);
-            int menus = 0;
-            for (QObject *where : h.main->findAction(name)->associatedObjects())
-                menus += qobject_cast<QMenu *>(where) ? 1 : 0;
-            QVERIFY2(menus == 1, row.name);
-            QVERIFY2(row.handler, row.name);
         }
     }
 
@@ -237,43 +213,6 @@ private slots:
                 holders.insert(k, each->objectName());
             }
         }
-    }
-
-    void doubleShortcutsGoToFirstEntry_data()
-    {
-        // first: takes the key in the tag
-        Columns<QString, QString>("first", "second");
-        Row("Shift+Ins", "Insertscene1", QString("Adddaydivider1"));
-        Row("Ctrl+Ins", "Editscene1", QString("Addbanner1"));
-        Row("Ctrl+E", "Endofday1", QString("Addelement1"));
-        Row("Ctrl+X", "Cut1", QString("PopCut1")); // not the pop-up
-    }
-
-    void doubleShortcutsGoToFirstEntry()
-    {
-        auto [first, second] = Fetch<QString, QString>("first", "second");
-        Harness h;
-        QVERIFY(h.start());
-        AddScene(h.doc, "1", "1");
-        AddScene(h.doc, "2", "1");
-        h.doc.SelStart = h.doc.SelEnd = 1;
-        SetModified(h.doc);
-        QVERIFY(h.main->findAction(first)->isEnabled());
-        QVERIFY(h.main->findAction(second)->isEnabled());
-        h.main->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(h.main.get()));
-        QSignalSpy firstSpy(h.main->findAction(first), &QAction::triggered);
-        QSignalSpy secondSpy(h.main->findAction(second), &QAction::triggered);
-        // The entry's dialog, if it opens one, is cancelled.
-        QTimer cancel;
-        QObject::connect(&cancel, &QTimer::timeout, [] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-                dialog->reject();
-        });
-        cancel.start(5);
-        QTest::keySequence(h.main.get(), QKeySequence(QString::fromLatin1(QTest::currentDataTag())));
-        QCOMPARE(firstSpy.count(), 1);
-        QCOMPARE(secondSpy.count(), 0);
     }
 
     void statusBarPanels()
@@ -352,102 +291,132 @@ private slots:
 
     // ---- Document commands -----------------------------------------------------------
 
-    void closeQuestion()
+    // New, Open, a recent file, a drop and closing the window first ask about unsaved
+    // changes. Yes saves (to the schedule's own file, or through Save As); when that
+    // Save As is cancelled the command still goes on and the changes are lost.
+    void unsavedChangesQuestion_data()
     {
-        Harness h;
-        QVERIFY(h.start());
-        const QString path = saved("close.tbf", "Close");
-        QVERIFY(OpenDocument(h.doc, path).ok());
-        AddScene(h.doc, "2", "1");
-        SetModified(h.doc);
-
-        h.prompter.answers = {Answer::Cancel};
-        QVERIFY(!h.main->close());
-        QVERIFY(h.main->isVisible());
-        // The recent-files list is written in every case.
-        QSettings registry(QSettings::NativeFormat, QSettings::UserScope, "Brenholt", "Torvanbridge");
-        QCOMPARE(registry.value("MRUList/File1").toString(), path);
-
-        h.prompter.answers = {Answer::Yes}; // saves to its own file
-        h.entry(actions::Exit1)->trigger();
-        QVERIFY(!h.main->isVisible());
-        ScheduleDocument reopened;
-        QVERIFY(OpenDocument(reopened, path).ok());
-        QCOMPARE(reopened.strips.count(), 2);
-        // The next window reads the list back.
-        Harness again;
-        QCOMPARE(again.main->recentFiles()->paths().value(0), path);
+        // saveTo: "own": the schedule has a file; otherwise untitled, and the Save As
+        // answer (empty: cancelled). goesOn: the schedule is replaced or the window closes.
+        Columns<QString, Answer, QString, bool>("command", "answer", "saveTo", "goesOn");
+        Row("New, yes, saved as", "New", Answer::Yes, "q-new.tbf", true);
+        Row("New, yes, save as cancelled", "New", Answer::Yes, "", true);
+        Row("New, no", "New", Answer::No, "", true);
+        Row("New, cancel", "New", Answer::Cancel, "", false);
+        Row("Open, no", "Open", Answer::No, "own", true);
+        Row("Open, cancel", "Open", Answer::Cancel, "own", false);
+        Row("recent file, yes", "Recent", Answer::Yes, "own", true);
+        Row("recent file, cancel", "Recent", Answer::Cancel, "", false);
+        Row("drop, yes, save as cancelled", "Drop", Answer::Yes, "", true);
+        Row("drop, no", "Drop", Answer::No, "own", true);
+        Row("drop, cancel", "Drop", Answer::Cancel, "", false);
+        Row("close, yes", "Close", Answer::Yes, "own", true);
+        Row("close, no", "Close", Answer::No, "", true);
+        Row("close, cancel", "Close", Answer::Cancel, "own", false);
     }
 
-    void dropOfFiles_data()
+    void unsavedChangesQuestion()
     {
-        Columns<Answer, QString>("answer", "titleAfter");
-        // Yes: the untitled schedule's Save As is cancelled here, and the drop goes on.
-        Row("Yes opens the first file", Answer::Yes, "One");
-        Row("No opens the first file", Answer::No, "One");
-        Row("Cancel keeps the schedule", Answer::Cancel, "");
-    }
-
-    void dropOfFiles()
-    {
-        auto [answer, titleAfter] = Fetch<Answer, QString>("answer", "titleAfter");
+        auto [command, answer, saveTo, goesOn] =
+            Fetch<QString, Answer, QString, bool>("command", "answer", "saveTo", "goesOn");
+        const QString own = saved("q-own.tbf", "Own");
+        const QString other = saved("q-other.tbf", "Other");
         Harness h;
         QVERIFY(h.start());
-        h.main->recentFiles()->clear(); // the list an earlier test kept
-        const QStringList paths{saved("gui-drop1.tbf", "One"), saved("gui-drop2.tbf", "Two"),
-                                TempPath("gui-drop-missing.tbf")};
-        AddScene(h.doc, "x", "1");
-        SetModified(h.doc);
-        QMimeData mime;
-        QList<QUrl> urls;
-        for (const QString &p : paths)
-            urls << QUrl::fromLocalFile(p);
-        mime.setUrls(urls);
-
-        QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(h.main.get(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        h.prompter.answers = {answer};
-        QApplication::sendEvent(h.main.get(), &drop);
-
-        // The unsaved-changes question comes first; only the first file is opened.
-        QCOMPARE(h.prompter.texts(), QStringList{SaveChangesQuestion});
-        QCOMPARE(h.doc.values.PictureTitle, titleAfter);
-        QCOMPARE(h.doc.Modified, titleAfter.isEmpty());
-        QCOMPARE(h.main->recentFiles()->paths(), titleAfter.isEmpty() ? QStringList() : QStringList{paths.first()});
-
-        QMimeData text;
-        text.setText("not a file");
-        QDragEnterEvent refused(QPoint(300, 300), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-        refused.setAccepted(false);
-        QApplication::sendEvent(h.main.get(), &refused);
-        QVERIFY(!refused.isAccepted());
-    }
-
-    void recentFilesMenu()
-    {
-        Harness h;
-        QVERIFY(h.start());
-        QStringList paths;
-        for (int i = 1; i <= 7; ++i) {
-            paths << saved(QString("recent%1.tbf").arg(i), QString("R%1").arg(i));
-            QVERIFY(OpenDocument(h.doc, paths.last()).ok());
-        }
         RecentFilesList *recent = h.main->recentFiles();
-        // Listed at the end of the File menu, after Exit.
-        QMenu *file = topMenu(*h.main, "&File");
-        const QStringList shown = entries(file);
-        QCOMPARE(shown.indexOf("&Exit") + 2, shown.indexOf("&1 " + QDir::toNativeSeparators(paths.last())));
-        QCOMPARE(shown.size(), shown.indexOf("&Exit") + 2 + 6);
-
-        AddScene(h.doc, "9", "1");
+        recent->clear();
+        recent->add(other);
+        if (saveTo == "own")
+            QVERIFY(OpenDocument(h.doc, own).ok());
+        AddScene(h.doc, "7", "2");
         SetModified(h.doc);
-        h.prompter.answers = {Answer::No};
-        recent->actions().at(3)->trigger();
-        QCOMPARE(h.prompter.prompts.size(), 1); // the recent-file question
-        QCOMPARE(h.doc.values.PictureTitle, "R4");
-        QCOMPARE(recent->paths().first(), paths.at(3));
+        const int strips = h.doc.strips.count();
+        const QString saveAs = saveTo.isEmpty() || saveTo == "own" ? QString() : TempPath(saveTo);
+        if (answer == Answer::Yes && saveTo != "own")
+            h.files.answers << saveAs;
+        h.files.answers << other; // the open dialog's answer
+        h.prompter.answers = {answer};
+        // The recent files are listed at the end of the File menu, after Exit.
+        const QStringList shown = entries(topMenu(*h.main, "&File"));
+        QCOMPARE(shown.mid(shown.indexOf("&Exit") + 1, 2),
+                 (QStringList{"-", "&1 " + QDir::toNativeSeparators(recent->paths().first())}));
+        QSettings registry(QSettings::NativeFormat, QSettings::UserScope, "Brenholt", "Torvanbridge");
+        registry.remove("MRUList");
+
+        const auto run = [&] {
+            if (command == "Recent") {
+                recent->actions().at(recent->paths().indexOf(other))->trigger();
+            } else if (command == "Drop") {
+                QMimeData mime;
+                mime.setUrls({QUrl::fromLocalFile(other), QUrl::fromLocalFile(saved("q-second.tbf", "Second")),
+                              QUrl::fromLocalFile(TempPath("q-missing.tbf"))});
+                QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+                QApplication::sendEvent(h.main.get(), &enter);
+                QVERIFY(enter.isAccepted());
+                QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+                QApplication::sendEvent(h.main.get(), &drop);
+            } else {
+                h.trigger(command == "New" ? "New1" : command == "Open" ? "Openfile1" : "Exit1");
+            }
+        };
+        if (command == "Drop") {
+            QMimeData text;
+            text.setText("not a file");
+            QDragEnterEvent refused(QPoint(300, 300), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+            refused.setAccepted(false);
+            QApplication::sendEvent(h.main.get(), &refused);
+            QVERIFY(!refused.isAccepted());
+        }
+        run();
+
+        QCOMPARE(h.prompter.prompts.size(), 1);
+        const Prompt &asked = h.prompter.prompts.first();
+        QCOMPARE(asked.text, command == "Recent" ? "The current schedule has not been saved since the last change. "
+                                                   "Do you wish to save it before opening " +
+                                                       other + " ?"
+                                                 : QString(SaveChangesQuestion));
+        QCOMPARE(asked.kind, MessageKind::Confirmation);
+        QCOMPARE(asked.buttons, Buttons::YesNoCancel);
+        QCOMPARE(asked.beep, command != "Close"); // closing does not beep
+        // The file dialogs, each set up anew.
+        QStringList dialogs;
+        for (const FileDialogSetup &setup : h.files.setups) {
+            dialogs << setup.title;
+            QVERIFY(setup.filter.startsWith("Torvanbridge file (*.tbf)"));
+            QCOMPARE(setup.defaultSuffix, "tbf");
+            QCOMPARE(setup.fileName, "*.tbf");
+        }
+        QStringList expected;
+        if (answer == Answer::Yes && saveTo != "own")
+            expected << "Save file";
+        if (command == "Open" && goesOn)
+            expected << "Open file";
+        QCOMPARE(dialogs, expected);
+        // Yes wrote the changes to where they belong; otherwise the own file is untouched.
+        if (saveTo == "own" || !saveAs.isEmpty()) {
+            ScheduleDocument reopened;
+            QVERIFY(OpenDocument(reopened, saveTo == "own" ? own : saveAs).ok());
+            QCOMPARE(reopened.strips.count(), answer == Answer::Yes ? strips : strips - 1);
+        }
+
+        if (command == "Close") {
+            QCOMPARE(h.main->isVisible(), !goesOn);
+            // Whatever the answer, the recent-files list is written; the next window reads it.
+            Harness again("again.ini");
+            QCOMPARE(again.main->recentFiles()->paths(), recent->paths());
+        } else if (!goesOn) {
+            QCOMPARE(h.doc.strips.count(), strips);
+            QVERIFY(h.doc.Modified);
+        } else {
+            // Of the files dropped only the first is opened.
+            QCOMPARE(h.doc.values.PictureTitle, command == "New" ? "" : "Other");
+            QCOMPARE(h.doc.strips.count(), command == "New" ? 0 : 1);
+            if (command != "New")
+                QCOMPARE(recent->paths(), (QStringList{other, own}).mid(0, saveTo == "own" ? 2 : 1));
+            QVERIFY(!h.doc.Modified);
+            run(); // unchanged now: no question
+            QCOMPARE(h.prompter.prompts.size(), 1);
+        }
     }
 
     // ---- Enabling ----------------------------------------------------------------------
@@ -711,167 +680,6 @@ private slots:
         QCOMPARE(version, "Version " TB_VERSION);
     }
 
-    // ---- Shell commands without the window ------------------------------------------------
-
-    void newWithChanges_data()
-    {
-        // savePath: the Save As dialog's answer; empty = cancelled
-        Columns<Answer, QString, bool, bool>("answer", "savePath", "emptied", "written");
-        Row("yes, saved", Answer::Yes, "new-yes.tbf", true, true);
-        Row("yes, save cancelled: changes lost", Answer::Yes, "", true, false);
-        Row("no", Answer::No, "", true, false);
-        Row("cancel", Answer::Cancel, "", false, false);
-    }
-
-    void newWithChanges()
-    {
-        auto [answer, savePath, emptied, written] =
-            Fetch<Answer, QString, bool, bool>("answer", "savePath", "emptied", "written");
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        changed(doc);
-        prompter.answers = {answer};
-        ScriptedFiles files;
-        const QString path = savePath.isEmpty() ? QString() : TempPath(savePath);
-        files.answers = {path};
-
-        NewCommand(doc, files);
-
-        QCOMPARE(prompter.prompts.size(), 1);
-        const Prompt &asked = prompter.prompts.first();
-        QCOMPARE(asked.text, "You have made changes to the schedule which have not been saved. Do you wish to save "
-                             "them now?");
-        QCOMPARE(asked.kind, MessageKind::Confirmation);
-        QCOMPARE(asked.buttons, Buttons::YesNoCancel);
-        QVERIFY(asked.beep);
-        QCOMPARE(doc.strips.count(), emptied ? 0 : 1);
-        QCOMPARE(doc.Modified, !emptied);
-        QCOMPARE(files.setups.size(), answer == Answer::Yes ? 1 : 0);
-        QCOMPARE(!path.isEmpty() && QFile::exists(path), written);
-        if (written) {
-            ScheduleDocument reopened;
-            QVERIFY(OpenDocument(reopened, path).ok());
-            QCOMPARE(reopened.strips[1][StripField::SceneNumber], "7");
-        }
-    }
-
-    void openDialogSetUp()
-    {
-        const QString path = saved("open-me.tbf", "Rain");
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        changed(doc);
-        prompter.answers = {Answer::No};
-        ScriptedFiles files;
-        files.answers = {path};
-        OpenCommand(doc, files);
-
-        QCOMPARE(prompter.prompts.size(), 1);
-        QVERIFY(prompter.prompts.first().beep);
-        QCOMPARE(files.setups.size(), 1);
-        const FileDialogSetup setup = files.setups.first();
-        QCOMPARE(setup.title, "Open file");
-        QCOMPARE(setup.defaultSuffix, "tbf");
-        QCOMPARE(setup.fileName, "*.tbf");
-        QVERIFY(setup.filter.startsWith("Torvanbridge file (*.tbf)"));
-        QCOMPARE(SaveFileSetup().title, "Save file");
-        QCOMPARE(SaveFileSetup().filter, setup.filter);
-        QCOMPARE(doc.values.PictureTitle, "Rain");
-        QCOMPARE(doc.FileName, path);
-    }
-
-    void saveGoesThroughSaveAs()
-    {
-        ScheduleDocument doc;
-        changed(doc);
-        ScriptedFiles files; // cancels
-        QVERIFY(!SaveCommand(doc, files));
-        QCOMPARE(files.setups.size(), 1);
-        QVERIFY(doc.Modified);
-        QVERIFY(doc.FileName.isEmpty());
-
-        const QString path = TempPath("untitled.tbf");
-        files.answers = {path};
-        QVERIFY(SaveCommand(doc, files));
-        QCOMPARE(doc.FileName, path);
-        QVERIFY(!doc.Modified);
-        QVERIFY(QFile::exists(path));
-
-        // A file deleted meanwhile is not written again under its old name.
-        QVERIFY(QFile::remove(path));
-        const QString other = TempPath("saved-elsewhere.tbf");
-        files.answers = {other};
-        QVERIFY(SaveCommand(doc, files));
-        QCOMPARE(files.setups.size(), 3);
-        QCOMPARE(doc.FileName, other);
-        QVERIFY(!QFile::exists(path));
-    }
-
-    void recentFileQuestion()
-    {
-        const QString path = saved("recent.tbf", "Recent");
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        changed(doc);
-        ScriptedFiles files;
-        prompter.answers = {Answer::Cancel};
-        OpenRecentCommand(doc, files, path);
-        QCOMPARE(prompter.prompts.size(), 1);
-        QCOMPARE(prompter.prompts.first().text, "The current schedule has not been saved since the last change. Do you "
-                                                "wish to save it before opening " +
-                                                    path + " ?");
-        QVERIFY(prompter.prompts.first().beep);
-        QCOMPARE(prompter.prompts.first().buttons, Buttons::YesNoCancel);
-        QCOMPARE(doc.values.PictureTitle, "");
-
-        prompter.answers = {Answer::No};
-        OpenRecentCommand(doc, files, path);
-        QCOMPARE(doc.values.PictureTitle, "Recent");
-
-        // Unchanged: no question.
-        OpenRecentCommand(doc, files, path);
-        QCOMPARE(prompter.prompts.size(), 2);
-    }
-
-    void closeQuery_data()
-    {
-        Columns<bool, Answer, bool, int>("modified", "answer", "mayClose", "dialogs");
-        Row("unchanged", false, Answer::Yes, true, 0);
-        Row("yes", true, Answer::Yes, true, 1);
-        Row("no", true, Answer::No, true, 0);
-        Row("cancel", true, Answer::Cancel, false, 0);
-    }
-
-    void closeQuery()
-    {
-        auto [modified, answer, mayClose, dialogs] =
-            Fetch<bool, Answer, bool, int>("modified", "answer", "mayClose", "dialogs");
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        if (modified)
-            changed(doc);
-        prompter.answers = {answer};
-        ScriptedFiles files;
-        QCOMPARE(CloseQuery(doc, files), mayClose);
-        QCOMPARE(prompter.prompts.size(), modified ? 1 : 0);
-        if (modified)
-            QVERIFY(!prompter.prompts.first().beep); // closing does not beep
-        QCOMPARE(files.setups.size(), dialogs);
-    }
-
-    void autosaveFolder()
-    {
-        const QString writable = QFileInfo(TempPath("x")).absolutePath();
-        QCOMPARE(AutosavePath(writable), QDir(writable).filePath("autosave.tbf"));
-        QCOMPARE(AutosavePath(writable + "/"), QDir(writable).filePath("autosave.tbf"));
-        // A folder that cannot be written to (here: one that is not there) sends the
-        // file to the per-user data folder, which is made if needed.
-        const QString path = AutosavePath("/nonexistent/program/folder/");
-        QCOMPARE(QFileInfo(path).fileName(), "autosave.tbf");
-        QCOMPARE(QFileInfo(path).absolutePath(), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-        QVERIFY(QFileInfo(QFileInfo(path).absolutePath()).isDir());
-    }
-
     // ---- The first day of a new user ---------------------------------------------------
 
     void boardKeys_data()
@@ -988,6 +796,14 @@ private slots:
         QCOMPARE(w.main->windowTitle(), "Torvanbridge -   (" + path + ") ");
         SetModified(w.doc);
         QCOMPARE(w.main->windowTitle(), "Torvanbridge -   (" + path + ") *");
+        // A file deleted meanwhile is not written again under its name: Save asks for one.
+        QVERIFY(QFile::remove(path));
+        const QString other = TempPath("title-elsewhere.tbf");
+        w.files.answer = other;
+        w.main->Save1Click();
+        QCOMPARE(w.files.setups.size(), 2);
+        QCOMPARE(w.main->windowTitle(), "Torvanbridge -   (" + other + ") ");
+        QVERIFY(!QFile::exists(path));
     }
 
     void helpSearch()
@@ -1076,6 +892,19 @@ private slots:
         QCOMPARE(w.prompter.texts(), QStringList{SaveChangesQuestion});
         QVERIFY(!QFileInfo::exists(autosave));
         QVERIFY(!QFileInfo::exists(AutosaveOwnerPath(autosave)));
+    }
+
+    void autosaveFolder()
+    {
+        const QString writable = QFileInfo(TempPath("x")).absolutePath();
+        QCOMPARE(AutosavePath(writable), QDir(writable).filePath("autosave.tbf"));
+        QCOMPARE(AutosavePath(writable + "/"), QDir(writable).filePath("autosave.tbf"));
+        // A folder that cannot be written to (here: one that is not there) sends the
+        // file to the per-user data folder, which is made if needed.
+        const QString path = AutosavePath("/nonexistent/program/folder/");
+        QCOMPARE(QFileInfo(path).fileName(), "autosave.tbf");
+        QCOMPARE(QFileInfo(path).absolutePath(), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+        QVERIFY(QFileInfo(QFileInfo(path).absolutePath()).isDir());
     }
 
     void autosaveOfferedAtStart_data()
