@@ -576,8 +576,25 @@ private slots:
 
     void preferencesDialog()
     {
+        // A settings file of an earlier start, without colour keys but one.
+        const QString ini = TempPath("pref.ini");
+        QVERIFY(WriteBytes(ini, "[Strips]\r\nCB1=clRed\r\n"));
         Harness h("pref.ini");
         QVERIFY(h.start());
+        const QByteArray before = ReadFileBytes(ini);
+        // Cancel keeps everything; the dialog says where the autosave goes.
+        h.dialogOf([&] { h.entry(actions::Preferences1)->trigger(); },
+                   [&](QDialog *pref) {
+                       Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(30);
+                       QVERIFY(Child<QLabel>(pref, "AutosaveWhereLabel")
+                                   ->text()
+                                   .contains(QDir::toNativeSeparators(h.main->autosavePath())));
+                       QTest::mouseClick(Child<QPushButton>(pref, "CancelBut"), Qt::LeftButton);
+                   });
+        QCOMPARE(h.settings.autosaveMinutes, 0);
+        QVERIFY(!h.main->autosaveTimer().isActive());
+        QCOMPARE(ReadFileBytes(ini), before);
+
         QString caption =
             h.dialogOf([&] { h.entry(actions::Preferences1)->trigger(); },
                        [&](QDialog *dialog) {
@@ -590,6 +607,7 @@ private slots:
                            Child<QCheckBox>(pref, "AutoRestCheck")->setChecked(false);
                            Child<QComboBox>(pref, "DescLine1Combo")->setCurrentIndex(4); // Notes
                            Child<QCheckBox>(pref, "ScHintsCheck")->setChecked(false);
+                           Child<QPushButton>(pref, "ResetColoursBut")->click();
                            pref->chooseColour = [](const QColor &, const QString &) { return QColor(Qt::green); };
                            Child<QPushButton>(pref, "SlotBut7")->click();
                            QCOMPARE(pref->selectedSlot(), 7);
@@ -610,43 +628,33 @@ private slots:
         QVERIFY(!style.ScenePopups);
         // The warning answer is stored reversed, and the board reads it from there.
         QVERIFY(h.settings.skipWarning(RememberedWarning::AutoRestClick));
-        Settings fromFile(h.settings.path());
+        // "Reset to standard colours" gave the other slots the standard colours.
+        Settings fromFile(ini);
         fromFile.LoadSettings();
         QCOMPARE(legacy::ColorValueToString(fromFile.stripBackground[7]), "clLime");
+        QCOMPARE(fromFile.stripBackground[1], StandardStripColours().background[1]);
+        QCOMPARE(fromFile.stripText, StandardStripColours().text);
     }
 
-    void preferencesCancelled()
-    {
-        Harness h("pref-cancel.ini");
-        QVERIFY(h.start());
-        QTimer::singleShot(0, [&] {
-            auto *pref = qobject_cast<TfrmPref *>(QApplication::activeModalWidget());
-            QVERIFY(pref);
-            Child<QSpinBox>(pref, "AutoSaveSpin")->setValue(30);
-            QVERIFY(Child<QLabel>(pref, "AutosaveWhereLabel")
-                        ->text()
-                        .contains(QDir::toNativeSeparators(h.main->autosavePath())));
-            QTest::mouseClick(Child<QPushButton>(pref, "CancelBut"), Qt::LeftButton);
-        });
-        h.entry(actions::Preferences1)->trigger();
-        QCOMPARE(h.settings.autosaveMinutes, 0);
-        QVERIFY(!h.main->autosaveTimer().isActive());
-        QVERIFY(!QFile::exists(h.settings.path()));
-    }
-
-    void helpPages()
+    void help()
     {
         Harness h;
         h.entry(actions::Contents1)->trigger();
-        QVERIFY(h.main->helpWindow());
-        QVERIFY(h.main->helpWindow()->isVisible());
-        QCOMPARE(h.main->helpWindow()->currentPage(), "contents.html");
+        HelpWindow *help = h.main->helpWindow();
+        QVERIFY(help);
+        QVERIFY(help->isVisible());
+        QCOMPARE(help->currentPage(), "contents.html");
         h.entry(actions::Index1)->trigger();
-        QCOMPARE(h.main->helpWindow()->currentPage(), "index.html");
-        h.main->showHelp("board.html");
-        QCOMPARE(h.main->helpWindow()->currentPage(), "board.html");
+        QCOMPARE(help->currentPage(), "index.html");
         h.main->showHelp("no-such-dialog.html");
-        QVERIFY(h.main->helpWindow()->browser()->toPlainText().contains("no-such-dialog.html"));
+        QVERIFY(help->browser()->toPlainText().contains("no-such-dialog.html"));
+        // The search box finds pages by any of the words, in any case.
+        help->searchBox()->setText("find STRIPS ctrl+f");
+        QTest::keyClick(help->searchBox(), Qt::Key_Return);
+        QVERIFY(help->browser()->toHtml().contains("menus.html"));
+        QVERIFY(SearchHelpPages(QStringLiteral("zzqqx")).isEmpty());
+        QVERIFY(SearchHelpPages(QStringLiteral("  ")).isEmpty());
+        DeleteProgramHelpWindow();
 
         // No link of a bundled page leads nowhere, and the contents reach the first pages.
         QStringList pages;
@@ -804,55 +812,6 @@ private slots:
         QCOMPARE(w.files.setups.size(), 2);
         QCOMPARE(w.main->windowTitle(), "Torvanbridge -   (" + other + ") ");
         QVERIFY(!QFile::exists(path));
-    }
-
-    void helpSearch()
-    {
-        const QList<HelpSearchHit> hits = SearchHelpPages(QStringLiteral("find STRIPS ctrl+f"));
-        QVERIFY(!hits.isEmpty());
-        QStringList pages;
-        for (const HelpSearchHit &hit : hits)
-            pages << hit.page;
-        QVERIFY2(pages.contains("menus.html"), qPrintable(pages.join(' ')));
-        QVERIFY(SearchHelpPages(QStringLiteral("zzqqx")).isEmpty());
-        QVERIFY(SearchHelpPages(QStringLiteral("  ")).isEmpty());
-
-        Harness w;
-        w.main->Contents1Click();
-        HelpWindow *help = w.main->helpWindow();
-        QVERIFY(help);
-        help->searchBox()->setText("Find strips");
-        QTest::keyClick(help->searchBox(), Qt::Key_Return);
-        QVERIFY(help->browser()->toHtml().contains("menus.html"));
-        DeleteProgramHelpWindow();
-    }
-
-    void helpFromAModalDialog()
-    {
-        Harness w;
-        QVERIFY(w.start());
-        fillBoard(w.doc);
-        bool usable = false;
-        bool onScreen = false;
-        QTimer::singleShot(0, [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            QVERIFY(dialog);
-            QTest::keyClick(dialog, Qt::Key_F1);
-            HelpWindow *help = ProgramHelpWindow();
-            // Shown, and a window of the dialog, which a modal dialog does not block.
-            usable = help && help->isVisible() && help->parentWidget() == dialog;
-            const QRect screen = help->screen()->availableGeometry();
-            onScreen = screen.contains(help->frameGeometry()) || help->frameGeometry().size().width() > screen.width();
-            dialog->close();
-        });
-        w.main->findAction("Sortstrips1")->trigger();
-        QVERIFY(usable);
-        QVERIFY(onScreen);
-        QCOMPARE(ProgramHelpWindow()->currentPage(), QString("sort-strips.html"));
-        // Help from the menu again belongs to no dialog.
-        w.main->Contents1Click();
-        QVERIFY(!ProgramHelpWindow()->parentWidget());
-        DeleteProgramHelpWindow();
     }
 
     // ---- No lost work
@@ -1035,31 +994,6 @@ private slots:
     }
 
     // ---- A first start
-
-    void firstRunColours()
-    {
-        // The first start's colours are tested with the settings file; here an existing
-        // file without colour keys (white strips) gets them by "Reset to standard colours".
-        const StripColours standard = StandardStripColours();
-        const QString path = TempPath("existing-settings.ini");
-        QVERIFY(WriteBytes(path, "[Files]\r\nAutosavetime=0\r\n"));
-        Settings existing(path);
-        existing.LoadSettings();
-        QCOMPARE(existing.stripBackground[int(StripSlot::DayExt)], 0x00FFFFFFu);
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        TfrmPref pref(doc, existing, TempPath("pref-autosave.tbf"));
-        QTimer::singleShot(0, [&] {
-            QTest::mouseClick(pref.findChild<QPushButton *>("ResetColoursBut"), Qt::LeftButton);
-            QTest::mouseClick(pref.findChild<QPushButton *>("OKBut"), Qt::LeftButton);
-        });
-        pref.exec();
-        QCOMPARE(existing.stripBackground, standard.background);
-        Settings reread(path);
-        reread.LoadSettings();
-        QCOMPARE(reread.stripText, standard.text);
-        doc.setPrompter(nullptr);
-    }
 
     void windowIsRemembered()
     {

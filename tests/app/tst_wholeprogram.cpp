@@ -22,6 +22,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -115,14 +116,24 @@ private Q_SLOTS:
                                              dialog->activateWindow();
                                              QVERIFY(QTest::qWaitForWindowActive(dialog));
                                              QTest::keyClick(dialog, Qt::Key_F1);
+                                             // A window of the dialog, which a modal dialog
+                                             // does not block, and on the screen.
+                                             HelpWindow *window = p.main->helpWindow();
+                                             QVERIFY(window && window->isVisible());
+                                             QCOMPARE(window->parentWidget(), dialog);
+                                             const QRect screen = window->screen()->availableGeometry();
+                                             QVERIFY(screen.contains(window->frameGeometry()) ||
+                                                     window->frameGeometry().width() > screen.width());
                                          });
         if (caption.endsWith('"'))
             QVERIFY2(shown.startsWith(caption), qPrintable(shown));
         else
             QCOMPARE(shown, caption);
         if (!help.isEmpty()) {
-            QVERIFY(p.main->helpWindow());
             QCOMPARE(p.main->helpWindow()->currentPage(), help);
+            // Help from the menu belongs to no dialog.
+            p.trigger("Contents1");
+            QVERIFY(!p.main->helpWindow()->parentWidget());
         }
     }
 
