@@ -147,45 +147,22 @@ private Q_SLOTS:
         }
     }
 
-    void sceneEntriesAddWhereTheyShould_data()
-    {
-        Columns<QString, QString>("entry", "order");
-        Row("menu", "Addscene1", "1 3 2");
-        Row("pop-up", "PopAddscene1", "1 3 2");
-        Row("insert, pop-up", "PopInsertscene1", "1 2 3");
-    }
-
-    void sceneEntriesAddWhereTheyShould()
-    {
-        QFETCH(QString, entry);
-        Harness p("whole.ini");
-        AddScene(p.doc, "1", "1");
-        AddScene(p.doc, "3", "1");
-        p.doc.SelStart = p.doc.SelEnd = 2;
-        SetModified(p.doc);
-        p.dialogOf([&] { p.trigger(entry); },
-                   [](QDialog *dialog) {
-                       QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "2");
-                       dialog->findChild<QPushButton *>("OKBut")->click();
-                   });
-        QStringList order;
-        for (int i = 1; i <= p.doc.strips.count(); ++i)
-            order.append(p.doc.strips[i][StripField::SceneNumber]);
-        QTEST(order.join(u' '), "order");
-    }
-
     void entriesRunTheirOperations_data()
     {
-        // strips: Kinds() after
+        // strips: the scene numbers after, and "k" and the kind of other strips
         // elements: descriptions and board ids after
         Columns<QString, QString, QString>("entry", "strips", "elements");
-        const QString kinds = "1 1 2 4";
+        const QString strips = "2 1 k2 k4";
         const QString elements = "ANNA=5 LAMP=Prp BEN=6";
-        Row("add day divider, pop-up", "PopAdddaydivider1", "1 1 2 4 2", elements);
-        Row("remove day dividers", "Removealldaydividers1", "1 1 4", elements);
-        Row("remove banners", "Removeallbanners1", "1 1 2", elements);
-        Row("reset cast numbering", "Reordercastnumbering1", kinds, "ANNA=1 LAMP=Prp BEN=2");
-        Row("sort elements", "Sortelements1", kinds, "ANNA=5 BEN=6 LAMP=Prp");
+        // The scene editor opens for the scene entries; scene 3 is typed and OK clicked.
+        Row("add scene", "Addscene1", "2 1 k2 k4 3", elements);
+        Row("add scene, pop-up", "PopAddscene1", "2 1 k2 k4 3", elements);
+        Row("insert scene, pop-up", "PopInsertscene1", "3 2 1 k2 k4", elements);
+        Row("add day divider, pop-up", "PopAdddaydivider1", "2 1 k2 k4 k2", elements);
+        Row("remove day dividers", "Removealldaydividers1", "2 1 k4", elements);
+        Row("remove banners", "Removeallbanners1", "2 1 k2", elements);
+        Row("reset cast numbering", "Reordercastnumbering1", strips, "ANNA=1 LAMP=Prp BEN=2");
+        Row("sort elements", "Sortelements1", strips, "ANNA=5 BEN=6 LAMP=Prp");
     }
 
     void entriesRunTheirOperations()
@@ -201,8 +178,17 @@ private Q_SLOTS:
         AddElement(p.doc, "BEN", 1, "6");
         p.doc.SelStart = p.doc.SelEnd = 1;
         SetModified(p.doc);
-        p.trigger(entry); // questions answered Yes
-        QTEST(Kinds(p.doc), "strips");
+        p.dialogOf([&] { p.trigger(entry); }, // questions answered Yes
+                   [](QDialog *dialog) {
+                       QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "3");
+                       dialog->findChild<QPushButton *>("OKBut")->click();
+                   });
+        QStringList strips;
+        for (int i = 1; i <= p.doc.strips.count(); ++i) {
+            const StripRecord &strip = p.doc.strips[i];
+            strips.append(strip.isScene() ? strip[StripField::SceneNumber] : "k" + strip.kind());
+        }
+        QTEST(strips.join(u' '), "strips");
         QStringList elements;
         for (int i = 1; i <= p.doc.elements.count(); ++i)
             elements.append(p.doc.elements[i][ElementField::Description] + "=" +
