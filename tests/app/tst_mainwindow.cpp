@@ -65,7 +65,7 @@ QString saved(const QString &name, const QString &title, int scenes = 1)
 }
 
 // Menu entries as text: captions, "-" for separators, ">" after a submenu.
-QStringList entries(const QMenu *menu)
+QStringList entries(const QWidget *menu)
 {
     QStringList list;
     for (const QAction *a : menu->actions()) {
@@ -77,23 +77,6 @@ QStringList entries(const QMenu *menu)
             list << (a->menu() ? a->text() + ">" : a->text());
     }
     return list;
-}
-
-QMenu *topMenu(TfrmMain &main, const QString &caption)
-{
-    for (QAction *a : main.menuBar()->actions()) {
-        if (a->text() == caption)
-            return a->menu();
-    }
-    return nullptr;
-}
-
-bool containsText(const QStringList &texts, const QString &part)
-{
-    for (const QString &text : texts)
-        if (text.contains(part))
-            return true;
-    return false;
 }
 
 QString selection(const ScheduleDocument &doc)
@@ -114,7 +97,7 @@ private slots:
     {
         // expected: captions joined by "|"
         Columns<QString, QString>("menu", "expected");
-        Row("menu bar", "", QString("&File|&Edit|&Production|&Strips|Ele&ments|&View|&Help"));
+        Row("menu bar", "", QString("&File>|&Edit>|&Production>|&Strips>|Ele&ments>|&View>|&Help>"));
         Row("File", "&File",
             "&New|&Open...|&Save|Save &As...|-|&Import script...|Import &Final Draft reports...|"
             "&Export board>|-|&Print>|-|P&references...|-|&Exit");
@@ -148,18 +131,11 @@ private slots:
     {
         auto [menu, expected] = Fetch<QString, QString>("menu", "expected");
         Harness h;
-        if (menu.isEmpty()) {
-            QStringList bar;
-            for (QAction *a : h.main->menuBar()->actions())
-                bar << a->text();
-            QCOMPARE(bar.join('|'), expected);
-            return;
-        }
-        const QStringList path = menu.split('/');
-        QMenu *m = menu == "PBPopup" ? h.main->boardPopup() : topMenu(*h.main, path.first());
-        QVERIFY(m);
-        for (const QString &sub : path.mid(1)) {
-            QMenu *next = nullptr;
+        QWidget *m = h.main->menuBar();
+        if (menu == "PBPopup")
+            m = h.main->boardPopup();
+        for (const QString &sub : menu == "PBPopup" ? QStringList() : menu.split('/', Qt::SkipEmptyParts)) {
+            QWidget *next = nullptr;
             for (QAction *a : m->actions()) {
                 if (a->menu() && a->text() == sub)
                     next = a->menu();
@@ -324,7 +300,7 @@ private slots:
         h.files.answers << other; // the open dialog's answer
         h.prompter.answers = {answer};
         // The recent files are listed at the end of the File menu, after Exit.
-        const QStringList shown = entries(topMenu(*h.main, "&File"));
+        const QStringList shown = entries(h.main->menuBar()->actions().first()->menu());
         QCOMPARE(shown.mid(shown.indexOf("&Exit") + 1, 2),
                  (QStringList{"-", "&1 " + QDir::toNativeSeparators(recent->paths().first())}));
         QSettings registry(QSettings::NativeFormat, QSettings::UserScope, "Brenholt", "Torvanbridge");
@@ -397,6 +373,7 @@ private slots:
         } else {
             // Of the files dropped only the first is opened.
             QCOMPARE(h.doc.values.PictureTitle, command == "New" ? "" : "Other");
+            QCOMPARE(h.doc.FileName, command == "New" ? "" : other);
             QCOMPARE(h.doc.strips.count(), command == "New" ? 0 : 1);
             if (command != "New")
                 QCOMPARE(recent->paths(), (QStringList{other, own}).mid(0, saveTo == "own" ? 2 : 1));
@@ -867,7 +844,7 @@ private slots:
         w.main->setAutosavePath(autosave);
         w.prompter.answers = {Answer::Yes};
         QVERIFY(w.start());
-        QCOMPARE(containsText(w.prompter.texts(), "Do you wish to restore it?"), offered);
+        QCOMPARE(w.prompter.texts().join('\n').contains("Do you wish to restore it?"), offered);
         if (!offered) {
             QCOMPARE(w.doc.strips.count(), 0);
             return;
