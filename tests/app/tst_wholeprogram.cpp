@@ -199,16 +199,8 @@ private Q_SLOTS:
         QCOMPARE(p.doc.undo.levels[1].label, "reset breakdown numbering");
     }
 
-    void finalDraftImport_data()
-    {
-        Columns<Answer, int, bool>("answer", "saves", "imports");
-        Row("Yes saves first", Answer::Yes, 1, true);
-        Row("Cancel", Answer::Cancel, 0, false);
-    }
-
     void finalDraftImport()
     {
-        auto [answer, saves, imports] = Fetch<Answer, int, bool>("answer", "saves", "imports");
         Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");
@@ -216,8 +208,14 @@ private Q_SLOTS:
         QVERIFY(SaveDocument(p.doc, file).ok());
         p.doc.FileName = file;
         SetModified(p.doc);
-        p.prompter.answers = {answer};
         QSignalSpy save(p.main->findAction("Save1"), &QAction::triggered);
+        // Cancel on the question: no dialog, the schedule stays.
+        p.prompter.answers = {Answer::Cancel};
+        QCOMPARE(p.dialogOf([&] { p.trigger("ImportFinalDraft1"); }), QString());
+        QCOMPARE(p.prompter.texts(), QStringList{FinalDraftSaveQuestion});
+        QCOMPARE(p.doc.strips.count(), 1);
+        // Yes saves first and empties the schedule before the dialog shows.
+        p.prompter.answers = {Answer::Yes};
         PanelStatusBar *status = p.main->statusPanels();
         QString statusWhileShown;
         int stripsWhileShown = -1;
@@ -231,21 +229,15 @@ private Q_SLOTS:
                     ->setText(QDir(ImportData).filePath("fd-script-report.txt"));
                 dialog->findChild<QPushButton *>("ImportBut")->click();
             });
-        // The question, and after an import its summary.
-        QCOMPARE(p.prompter.texts().value(0), QString::fromLatin1(FinalDraftSaveQuestion));
-        QCOMPARE(p.prompter.texts().size(), imports ? 2 : 1);
-        if (imports)
-            QVERIFY(p.prompter.texts().at(1).startsWith("Imported 5 scenes, 3 characters"));
-        QCOMPARE(save.count(), saves);
-        QCOMPARE(!caption.isEmpty(), imports);
-        if (imports) {
-            QCOMPARE(statusWhileShown, "Importing script...");
-            QCOMPARE(stripsWhileShown, 0); // emptied before the dialog
-            QCOMPARE(status->panelText(StatusSink::MessagePanel), "");
-            QCOMPARE(p.doc.strips.count(), 5);
-        } else {
-            QCOMPARE(p.doc.strips.count(), 1);
-        }
+        QVERIFY(!caption.isEmpty());
+        QCOMPARE(save.count(), 1);
+        // The question again, then the import's summary.
+        QCOMPARE(p.prompter.texts().size(), 3);
+        QVERIFY(p.prompter.texts().at(2).startsWith("Imported 5 scenes, 3 characters"));
+        QCOMPARE(statusWhileShown, "Importing script...");
+        QCOMPARE(stripsWhileShown, 0);
+        QCOMPARE(status->panelText(StatusSink::MessagePanel), "");
+        QCOMPARE(p.doc.strips.count(), 5);
     }
 
     // The two Export board entries write the file chosen, adding the extension the
