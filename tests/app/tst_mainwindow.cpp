@@ -239,19 +239,6 @@ private slots:
         QCOMPARE(h.main->recentFiles()->paths().value(0), path);
     }
 
-    void firstShowWithMissingFile()
-    {
-        Harness h;
-        h.main->setCommandLineFile(TempPath("not-there.tbf"));
-        QVERIFY(h.start());
-        // The open error, and the program goes on with an empty document.
-        QCOMPARE(h.prompter.prompts.size(), 1);
-        QVERIFY(h.prompter.prompts.first().text.startsWith("Error opening file"));
-        QVERIFY(h.main->isVisible());
-        QCOMPARE(h.doc.strips.count(), 0);
-        QVERIFY(!h.main->autosaveTimer().isActive()); // no settings file: no autosave
-    }
-
     // ---- Document commands -----------------------------------------------------------
 
     // New, Open, a recent file, a drop and closing the window first ask about unsaved
@@ -861,26 +848,34 @@ private slots:
 
     void failedOpenLeavesNothing_data()
     {
-        // content: empty: the path is a folder
-        Columns<QByteArray, QString>("content", "cause");
+        // content: empty: the path is a folder; "-": there is no file
+        // atStart: named on the command line; otherwise chosen from the recent files
+        Columns<QByteArray, QString, bool>("content", "cause", "atStart");
         const QByteArray good = ReadFileBytes(saved("failed-source.tbf", "Good", 3));
         // The other causes leave the same empty schedule behind (checked with the file reader).
-        Row("cut short", good.left(good.size() / 2), "The file is cut short: it ends at line");
-        Row("cannot be read", QByteArray(), "The file cannot be read: it is a folder.");
+        Row("cut short", good.left(good.size() / 2), "The file is cut short: it ends at line", false);
+        Row("cannot be read", QByteArray(), "The file cannot be read: it is a folder.", false);
+        Row("missing, on the command line", QByteArray("-"), "there is no such file", true);
     }
     void failedOpenLeavesNothing()
     {
-        auto [content, cause] = Fetch<QByteArray, QString>("content", "cause");
+        auto [content, cause, atStart] = Fetch<QByteArray, QString, bool>("content", "cause", "atStart");
         const QString path = TempPath(QStringLiteral("failed-%1.tbf").arg(QTest::currentDataTag()));
-        QVERIFY(content.isEmpty() ? QDir().mkpath(path) : WriteBytes(path, content));
+        if (content != "-")
+            QVERIFY(content.isEmpty() ? QDir().mkpath(path) : WriteBytes(path, content));
         Harness w;
+        if (atStart)
+            w.main->setCommandLineFile(path);
         QVERIFY(w.start());
-        w.files.answer = saved("failed-before.tbf", "Before", 2);
-        w.main->Openfile1Click();
-        w.main->recentFiles()->clear();
-        w.prompter.prompts.clear();
-        w.main->MRUClick(path);
-        // An empty, untitled, unmodified schedule; the message names the file and why.
+        if (!atStart) {
+            w.files.answer = saved("failed-before.tbf", "Before", 2);
+            w.main->Openfile1Click();
+            w.prompter.prompts.clear();
+            w.main->MRUClick(path);
+        }
+        // The program goes on with an empty, untitled, unmodified schedule; the message
+        // names the file and why.
+        QVERIFY(w.main->isVisible());
         QCOMPARE(w.prompter.prompts.size(), 1);
         QVERIFY2(w.prompter.texts().first().contains(QDir::toNativeSeparators(path)),
                  qPrintable(w.prompter.texts().first()));
@@ -888,12 +883,13 @@ private slots:
         QCOMPARE(w.doc.strips.count(), 0);
         QVERIFY(w.doc.FileName.isEmpty());
         QVERIFY(!w.doc.Modified);
-        QVERIFY(w.main->recentFiles()->paths().isEmpty());
+        QVERIFY(!w.main->recentFiles()->paths().contains(path));
         QCOMPARE(w.main->windowTitle(), QString("Torvanbridge - Untitled"));
         // Save cannot reach the damaged file: it asks for a name.
         w.files.answer.clear();
         w.main->Save1Click();
-        if (!content.isEmpty())
+        QCOMPARE(w.files.setups.last().title, "Save file");
+        if (content != "-" && !content.isEmpty())
             QCOMPARE(ReadFileBytes(path), content);
     }
 
