@@ -1,19 +1,28 @@
-// The preview window and the report dialogs, driven through their widgets.
+// The preview window, the report dialogs, the day out of days window and the board print
+// dialogs, driven through their widgets.
 
 #include "DialogTestSupport.h"
 
 #include "document/ScheduleFile.h"
+#include "document/Settings.h"
 #include "reports/AlPrinter.h"
 #include "reports/ReportBuilders.h"
 #include "ui/reports/AlPreview.h"
+#include "ui/reports/DodGridView.h"
 #include "ui/reports/ReportPrinting.h"
+#include "ui/reports/TfrmDOD.h"
 #include "ui/reports/TfrmElUse.h"
+#include "ui/reports/TfrmPerfSetup.h"
 #include "ui/reports/TfrmPreview.h"
 #include "ui/reports/TfrmPrintBS.h"
+#include "ui/reports/TfrmPrintIt.h"
 #include "ui/reports/TfrmPrintingIt.h"
 #include "ui/reports/TfrmShootSch.h"
+#include "ui_TfrmDOD.h"
 #include "ui_TfrmElUse.h"
+#include "ui_TfrmPerfSetup.h"
 #include "ui_TfrmPrintBS.h"
+#include "ui_TfrmPrintIt.h"
 #include "ui_TfrmShootSch.h"
 
 #include <QApplication>
@@ -21,6 +30,7 @@
 #include <QLineEdit>
 #include <QPrinter>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolButton>
@@ -63,39 +73,36 @@ private Q_SLOTS:
         m_doc.setPrompter(&m_prompter);
         QVERIFY(OpenDocument(m_doc, ExampleSchedule).ok());
     }
-    void init()
-    {
-        m_preview = std::make_unique<TfrmPreview>();
-        fillPreview(*m_preview, m_doc, &m_pages);
-    }
     void cleanup() { m_preview.reset(); }
     void previewNavigation()
     {
-        TfrmPreview &preview = *m_preview;
-        const int count = m_pages;
-        QVERIFY(count >= 3);
-        const QString last = QString::number(count);
+        TfrmPreview &preview = filledPreview();
+        QVERIFY(m_pages >= 3);
+        const auto page = [this](int n) { return QStringLiteral("%1/%2").arg(n).arg(m_pages); };
         QCOMPARE(preview.windowTitle(), QStringLiteral("Torvanbridge - Print preview"));
-        QCOMPARE(preview.counterText(), "1/" + last);
-        auto *first = Child<QToolButton>(&preview, "spbfirst");
-        auto *prev = Child<QToolButton>(&preview, "spbPrev");
-        auto *next = Child<QToolButton>(&preview, "spbNext");
-        auto *lastButton = Child<QToolButton>(&preview, "spbLast");
+        QCOMPARE(preview.counterText(), page(1));
+        preview.resize(700, 500);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        QTest::mouseClick(prev, Qt::LeftButton); // nothing before the first page
-        QCOMPARE(preview.counterText(), "1/" + last);
-        QTest::mouseClick(next, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), "2/" + last);
-        QTest::mouseClick(lastButton, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), last + u'/' + last);
+        // The buttons, with nothing before the first page and nothing after the last.
+        for (const auto &[button, shown] : QList<std::pair<const char *, int>>{
+                 {"spbPrev", 1}, {"spbNext", 2}, {"spbLast", m_pages}, {"spbNext", m_pages}, {"spbfirst", 1}}) {
+            QTest::mouseClick(Child<QToolButton>(&preview, button), Qt::LeftButton);
+            QCOMPARE(preview.counterText(), page(shown));
+        }
         keepScreenshot(preview, QStringLiteral("preview"));
-        QTest::mouseClick(next, Qt::LeftButton); // nothing after the last page
-        QCOMPARE(preview.counterText(), last + u'/' + last);
-        QTest::mouseClick(first, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), "1/" + last);
         QVERIFY(!preview.Previewer()->setCurrentPage(0));
-        QVERIFY(!preview.Previewer()->setCurrentPage(count + 1));
+        QVERIFY(!preview.Previewer()->setCurrentPage(m_pages + 1));
+        // The keys; the window sees them first, even while the zoom box has the focus.
+        for (const auto &[key, shown] : QList<std::pair<Qt::Key, int>>{
+                 {Qt::Key_PageDown, 2}, {Qt::Key_End, m_pages}, {Qt::Key_PageUp, m_pages - 1}}) {
+            QTest::keyClick(preview.Previewer(), key);
+            QCOMPARE(preview.counterText(), page(shown));
+        }
+        auto *box = preview.findChild<QComboBox *>("cbxScale");
+        box->setFocus();
+        QTest::keyClick(box->lineEdit(), Qt::Key_Home);
+        QCOMPARE(preview.counterText(), page(1));
     }
     void previewZoomBox_data()
     {
@@ -108,7 +115,7 @@ private Q_SLOTS:
     void previewZoomBox()
     {
         auto [typed, zoom] = Fetch<QString, int>("typed", "zoom");
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         auto *box = preview.findChild<QComboBox *>("cbxScale");
         QCOMPARE(box->currentText(), QStringLiteral("100"));
         preview.Previewer()->setZoom(75);
@@ -118,7 +125,7 @@ private Q_SLOTS:
     }
     void previewMouseZoomSteps()
     {
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         preview.resize(900, 700);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
@@ -139,26 +146,12 @@ private Q_SLOTS:
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
         QCOMPARE(view->zoom(), 60);
     }
-    void previewKeysAndClosing()
+    void previewScrollKeysAndClosing()
     {
-        TfrmPreview &preview = *m_preview;
-        const int count = m_pages;
+        TfrmPreview &preview = filledPreview();
         preview.resize(700, 500);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        const QString last = QString::number(count);
-        QTest::keyClick(preview.Previewer(), Qt::Key_PageDown);
-        QCOMPARE(preview.counterText(), "2/" + last);
-        QTest::keyClick(preview.Previewer(), Qt::Key_End);
-        QCOMPARE(preview.counterText(), last + u'/' + last);
-        QTest::keyClick(preview.Previewer(), Qt::Key_PageUp);
-        QCOMPARE(preview.counterText(), QString::number(count - 1) + u'/' + last);
-        // The window sees the keys first, even while the zoom box has the focus.
-        auto *box = preview.findChild<QComboBox *>("cbxScale");
-        box->setFocus();
-        QTest::keyClick(box->lineEdit(), Qt::Key_Home);
-        QCOMPARE(preview.counterText(), "1/" + last);
-
         preview.Previewer()->setZoom(200);
         QScrollBar *h = preview.Previewer()->horizontalScrollBar();
         QScrollBar *v = preview.Previewer()->verticalScrollBar();
@@ -188,7 +181,7 @@ private Q_SLOTS:
     }
     void previewPrintsRecordedPages()
     {
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         const QString path = TempPath("printed-preview.pdf");
@@ -335,11 +328,136 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(pdfPages(path), 1);
     }
+    void dayOutOfDaysWindow()
+    {
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
+        TfrmDOD dialog(doc);
+        dialog.resize(1100, 520);
+        dialog.show();
+        Ui::TfrmDOD &ui = dialog.form();
+        const DayOutOfDaysGrid &grid = ui.DODGrid->grid();
+        QVERIFY(grid.rowCount() > 3 && grid.dayColumns > 0);
+
+        // Find a work cell; colour paints it green.
+        QPoint work(-1, -1);
+        for (int r = 3; r < grid.rowCount() && work.x() < 0; ++r)
+            for (int c = 1; c <= grid.dayColumns && work.x() < 0; ++c)
+                if (grid.cell(r, c).contains(u'W'))
+                    work = QPoint(c, r);
+        QVERIFY(work.x() > 0);
+        QCOMPARE(ui.DODGrid->cellBackground(work.y(), work.x()), QColor(Qt::white));
+        keepScreenshot(dialog, QStringLiteral("dood-window"));
+        QTest::mouseClick(ui.ColorCheck, Qt::LeftButton);
+        QCOMPARE(ui.DODGrid->cellBackground(work.y(), work.x()), QColor(176, 255, 160));
+        keepScreenshot(dialog, QStringLiteral("dood-window-colour"));
+
+        // "Show hold days" builds the grid anew from the schedule as it is now.
+        const int row = work.y();
+        const int element = grid.elements.at(row - 3);
+        for (int s = 1; s <= doc.strips.count(); ++s) {
+            QString list = doc.strips[s][StripField::Assignments];
+            list.replace(QRegularExpression(QStringLiteral("(^|,)%1(?=,|$)").arg(element)), QString());
+            doc.strips[s].set(StripField::Assignments, list);
+        }
+        QVERIFY(grid.cell(row, work.x()).contains(u'W'));
+        QTest::mouseClick(ui.HoldCheck, Qt::LeftButton);
+        QVERIFY(!ui.HoldCheck->isChecked());
+        QCOMPARE(ui.DODGrid->grid().cells.at(row).mid(1).join(QString()), QString());
+    }
+    void perforatedSetup()
+    {
+        ScheduleDocument doc;
+        Settings settings(TempPath(QStringLiteral("perf.ini")));
+        settings.perfMargin = 6.0;
+        settings.perfWidth = 9.0;
+        TfrmPerfSetup dialog(doc, settings);
+        dialog.show();
+        Ui::TfrmPerfSetup &ui = dialog.form();
+        QCOMPARE(ui.MargSpin->value(), 6.0);
+        QCOMPARE(ui.StripSpin->value(), 90.0);
+        keepScreenshot(dialog, QStringLiteral("perforated-setup"));
+
+        // The calibration page prints with the numbers in the boxes.
+        const QString calibration = TempPath(QStringLiteral("calibration.pdf"));
+        dialog.choosePrinter = [calibration](QPrinter &printer, QWidget *) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(calibration);
+            return true;
+        };
+        QTest::mouseClick(ui.CalibrateBut, Qt::LeftButton);
+        QVERIFY(QFile(calibration).size() > 0);
+
+        QTest::mouseClick(ui.DefaultBut, Qt::LeftButton);
+        QCOMPARE(ui.MargSpin->value(), 5.2);
+        QCOMPARE(ui.StripSpin->value(), 95.65);
+        QTest::mouseClick(ui.OKBut, Qt::LeftButton);
+        QCOMPARE(settings.perfMargin, 5.2);
+        QCOMPARE(settings.perfWidth, 9.565);
+        Settings reread(settings.path());
+        reread.LoadSettings();
+        QCOMPARE(reread.perfMargin, 5.2);
+        QVERIFY(qAbs(reread.perfWidth - 9.565) < 1e-6);
+    }
+    void printBoardToPdf_data()
+    {
+        Columns<bool, bool, double>("perforated", "oneStrip", "zoomAfter");
+        Row("plain, all", false, false, 1.5);
+        Row("perforated, all", true, false, 1.0);
+        Row("plain, one strip", false, true, 1.5);
+    }
+    void printBoardToPdf()
+    {
+        auto [perforated, oneStrip] = Fetch<bool, bool>("perforated", "oneStrip");
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
+        Settings settings(TempPath(QStringLiteral("print.ini")));
+        TfrmPrintIt dialog(doc, settings);
+        const QString out = TempPath(QStringLiteral("board-%1.pdf").arg(QTest::currentDataTag()));
+        dialog.printerChoice().choosePdfFile = [out](QWidget *, const QString &) { return out; };
+        dialog.show();
+        Ui::TfrmPrintIt &ui = dialog.form();
+        QCOMPARE(ui.FromCombo->count(), doc.strips.count());
+        QCOMPARE(ui.ToCombo->currentIndex(), doc.strips.count() - 1);
+        ui.PrinterCombo->setCurrentIndex(ui.PrinterCombo->count() - 1); // the PDF file
+        QVERIFY(dialog.printerChoice().toPdfFile());
+        ui.ScaleSpin->setValue(150);
+        QCOMPARE(dialog.overallScale(), 1.5);
+        if (perforated)
+            QTest::mouseClick(ui.PerfRadio, Qt::LeftButton);
+        if (oneStrip) {
+            QTest::mouseClick(ui.StripsRadio, Qt::LeftButton);
+            ui.FromCombo->setCurrentIndex(4);
+            ui.ToCombo->setCurrentIndex(4);
+        }
+        if (perforated && !oneStrip)
+            keepScreenshot(dialog, QStringLiteral("print-board-dialog"));
+        QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(QFile::exists(out));
+        QTEST(dialog.overallScale(), "zoomAfter");
+        const BoardPrintResult &printed = dialog.lastPrint();
+        if (oneStrip) {
+            QCOMPARE(printed.pages.size(), 1);
+            QCOMPARE(printed.pages.first().firstStrip, 5);
+            QCOMPARE(printed.pages.first().lastStrip, 5);
+        } else {
+            QCOMPARE(printed.pages.last().lastStrip, doc.strips.count());
+        }
+    }
 
 private:
+    // A preview of the example's one-line schedule, made afresh for the test.
+    TfrmPreview &filledPreview()
+    {
+        m_preview = std::make_unique<TfrmPreview>();
+        fillPreview(*m_preview, m_doc, &m_pages);
+        return *m_preview;
+    }
+
     ScheduleDocument m_doc;
     ScriptedPrompter m_prompter;
-    std::unique_ptr<TfrmPreview> m_preview; // filled afresh for every test
+    std::unique_ptr<TfrmPreview> m_preview;
     int m_pages = 0;
 };
 
