@@ -389,9 +389,11 @@ private Q_SLOTS:
     {
         ScheduleDocument &doc = *docp;
         const QStringList scenes{"10", "2", "1"}, locations{"PIER", "BARN", "ATTIC"};
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             doc.strips[AddScene(doc, scenes[i], "1")].set(StripField::Location, locations[i]);
-        AddDivider(doc);
+            if (i == 0)
+                AddDivider(doc);
+        }
         TfrmSort dialog(doc);
         dialog.show();
         QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
