@@ -255,42 +255,38 @@ private Q_SLOTS:
     }
     void wheel_data()
     {
-        // delta: +120 wheel up, -120 wheel down
-        Columns<int, bool, int, int, int, int>("delta", "shift", "h", "v", "newH", "newV");
-        Row("down: one strip left", -120, false, 5, 5, 4, 5);
-        Row("up: one strip right", 120, false, 5, 5, 6, 5);
-        Row("down at the first strip", -120, false, 1, 5, 1, 5);
-        Row("shift down: next row", -120, true, 5, 5, 5, 6);
-        Row("shift up: row before", 120, true, 5, 5, 5, 4);
-        Row("shift down at the last row", -120, true, 5, 30, 5, 30);
-        Row("two notches", -240, false, 5, 5, 3, 5);
-        Row("half a notch", -60, false, 5, 5, 5, 5);
+        // delta: +120 wheel up, -120 wheel down; over: 0 the board, 1 and 2 its scroll bars
+        Columns<int, int, int, int, int, int, int>("delta", "keys", "over", "h", "v", "newH", "newV");
+        const int shift = Qt::ShiftModifier;
+        Row("down: one strip left", -120, 0, 0, 5, 5, 4, 5);
+        Row("up: one strip right", 120, 0, 0, 5, 5, 6, 5);
+        Row("down at the first strip", -120, 0, 0, 1, 5, 1, 5);
+        Row("shift down: next row", -120, shift, 0, 5, 5, 5, 6);
+        Row("shift up: row before", 120, shift, 0, 5, 5, 5, 4);
+        Row("shift down at the last row", -120, shift, 0, 5, 30, 5, 30);
+        Row("two notches", -240, 0, 0, 5, 5, 3, 5);
+        Row("half a notch", -60, 0, 0, 5, 5, 5, 5);
+        // Over the scroll bars the board's rule holds too.
+        Row("over the horizontal bar", -120, 0, 1, 5, 5, 4, 5);
+        Row("shift over the vertical bar", -120, shift, 2, 5, 5, 5, 6);
+        Row("shift with control is not exactly shift", -120, shift | int(Qt::ControlModifier), 0, 5, 5, 4, 5);
     }
     void wheel()
     {
-        auto [delta, shift, h, v] = Fetch<int, bool, int, int>("delta", "shift", "h", "v");
+        auto [delta, keys, over, h, v] = Fetch<int, int, int, int, int>("delta", "keys", "over", "h", "v");
         board->setScrollPositions(h, v);
-        sendWheel(board->paintBox(), delta, shift ? Qt::ShiftModifier : Qt::NoModifier);
+        QWidget *targets[] = {board->paintBox(), board->horizontalBar(), board->verticalBar()};
+        sendWheel(targets[over], delta, Qt::KeyboardModifiers(keys));
         QTEST(board->horizontalScroll(), "newH");
         QTEST(board->verticalScroll(), "newV");
     }
-    void wheelOverAScrollBar()
+    void mainWindowForwardsTheWheel()
     {
-        // Over the scroll bars the board's rule holds too, and Shift with Control is not
-        // "exactly Shift".
         board->setScrollPositions(5, 5);
-        sendWheel(board->horizontalBar(), -120, Qt::NoModifier);
-        QCOMPARE(board->horizontalScroll(), 4);
-        sendWheel(board->verticalBar(), -120, Qt::ShiftModifier);
-        QCOMPARE(board->verticalScroll(), 6);
-        sendWheel(board->paintBox(), -120, Qt::ShiftModifier | Qt::ControlModifier);
-        QCOMPARE(board->horizontalScroll(), 3);
-        QCOMPARE(board->verticalScroll(), 6);
-        // A main window forwards the wheel from anywhere.
         QWheelEvent event(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
         QVERIFY(board->handleWheel(&event));
-        QCOMPARE(board->horizontalScroll(), 4);
+        QCOMPARE(board->horizontalScroll(), 6);
     }
     void zoomSnapping()
     {

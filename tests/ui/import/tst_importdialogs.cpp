@@ -236,7 +236,6 @@ private Q_SLOTS:
         TfrmImportScript wizard(doc);
         wizard.show();
         Child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
-        auto *day = Child<QListWidget>(&wizard, "DayList");
         auto *night = Child<QListWidget>(&wizard, "NightList");
         QCOMPARE(ListTexts(night), DefaultNightWords());
 
@@ -251,14 +250,12 @@ private Q_SLOTS:
             QTest::mouseClick(Child<QToolButton>(&wizard, button), Qt::LeftButton);
         };
         click("NightAddBut", "  twilight ");
-        QCOMPARE(ListTexts(night).last(), "twilight");
         click("BadAddBut", "MONTAGE");
         click("DayAddBut", "NOON");
         click("DayAddBut", std::nullopt); // cancelled
         click("DayAddBut", "   ");        // nothing typed
         QCOMPARE(captions, (QStringList{"Add new NIGHT word", "Add new word to ignore", "Add new DAY word",
                                         "Add new DAY word", "Add new DAY word"}));
-        QCOMPARE(ListTexts(day).size(), DefaultDayWords().size() + 1);
 
         // Double-click edits a word; - removes the selected one.
         QListWidgetItem *late = night->findItems("LATE", Qt::MatchExactly).first();
@@ -267,19 +264,17 @@ private Q_SLOTS:
         QTest::mouseClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
         QTest::mouseDClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
         QCOMPARE(captions.last(), "Edit word");
-        QCOMPARE(late->text(), "LATE NIGHT");
         night->setCurrentItem(night->findItems("DUSK", Qt::MatchExactly).first());
         click("NightDelBut", answer);
-        QVERIFY(night->findItems("DUSK", Qt::MatchExactly).isEmpty());
         night->clearSelection();
-        const int left = night->count();
         click("NightDelBut", answer); // nothing selected
-        QCOMPARE(night->count(), left);
 
+        // The import reads the lists as they stand.
         const ScriptImportSettings s = wizard.settings();
-        QCOMPARE(s.nightWords, ListTexts(night));
-        QVERIFY(s.ignoreWords.contains("MONTAGE"));
-        QVERIFY(s.dayWords.contains("NOON"));
+        QCOMPARE(s.nightWords,
+                 (QStringList{"NIGHT", "EVENING", "LATE NIGHT", "SUNSET", "SUNDOWN", "SUN-DOWN", "twilight"}));
+        QCOMPARE(s.dayWords, DefaultDayWords() << "NOON");
+        QCOMPARE(s.ignoreWords.last(), "MONTAGE");
 
         // The lists are kept while the program runs.
         wizard.hide();

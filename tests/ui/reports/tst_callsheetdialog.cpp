@@ -225,7 +225,6 @@ private Q_SLOTS:
         emit m_dialog->form().DatePicker->calendarWidget()->clicked(warned);
         QCOMPARE(m_prompter.texts(), QStringList{QString::fromLatin1(CallSheetRestText)});
         QVERIFY(!m_prompter.prompts.first().checkBoxText.isEmpty());
-        QVERIFY(!settings.skipWarning(RememberedWarning::CallSheetRest));
     }
 
 private:
