@@ -5,18 +5,14 @@
 #include "ui/import/TfrmFDImport.h"
 #include "ui/import/TfrmImportScript.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>

@@ -10,7 +10,6 @@
 #include "ui_TfrmCallSheet.h"
 
 #include <QCalendarWidget>
-#include <QHeaderView>
 #include <QListWidget>
 #include <QPrinter>
 
@@ -119,7 +118,6 @@ private Q_SLOTS:
         grid->selectRow(2);
         QTest::keyClick(grid, Qt::Key_Delete);
         QCOMPARE(grid->rowCount(), 2);
-        QCOMPARE(ui.PagesLab->text(), QStringLiteral("Total pages: 1"));
         grid->selectAll();
         QTest::keyClick(grid, Qt::Key_Delete);
         QCOMPARE(grid->rowCount(), 1);
@@ -196,16 +194,13 @@ private Q_SLOTS:
 
         // Print: the print dialog's copies; a PDF file holds one.
         const QString pdf = TempPath(QStringLiteral("dialog.pdf"));
-        int asked = 0;
         m_dialog->runPrintDialog = [&](QPrinter &printer, int *copies) {
-            ++asked;
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(pdf);
             *copies = 2;
             return true;
         };
         QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
-        QCOMPARE(asked, 1);
         QVERIFY(ReadFileBytes(pdf).startsWith("%PDF"));
         QVERIFY(!m_dialog->isVisible());
     }

@@ -25,13 +25,10 @@
 #include "ui_TfrmPrintIt.h"
 #include "ui_TfrmShootSch.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QProgressBar>
 #include <QScrollBar>
-#include <QTimer>
 #include <QToolButton>
 
 using namespace tb;

@@ -14,7 +14,6 @@
 #include "ui/shell/ColourButton.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
@@ -25,7 +24,6 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTimer>
 
 using namespace tb;
 using namespace tb::test;

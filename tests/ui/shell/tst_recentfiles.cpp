@@ -5,7 +5,6 @@
 #include "ui/shell/RecentFilesList.h"
 
 #include <QAction>
-#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSettings>
