@@ -280,15 +280,6 @@ private Q_SLOTS:
         QVERIFY(!noScenes.doc.Modified);
     }
 
-    void locationList()
-    {
-        Imported run(QList<QStringList>{
-            {"EXT. BARN - DAY"}, {"EXT. BAR - NIGHT"}, {"INT. KITCHEN - DAY"}, {"EXT. BARN - NIGHT"}});
-        // BAR is part of BARN, which is listed: not added again.
-        QCOMPARE(run.doc.locationPickList, (QStringList{"BARN", "KITCHEN"}));
-        QCOMPARE(run.strip(2)[StripField::Location], "BAR");
-    }
-
     void commandSteps_data()
     {
         Columns<bool, bool, QList<Answer>, bool, int>("finalDraft", "modified", "answers", "goesOn", "saves");

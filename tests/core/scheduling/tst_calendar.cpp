@@ -1,7 +1,14 @@
 #include "SchedulingTestView.h"
 
+#include "board/DrawBoard.h"
+#include "document/ScheduleFile.h"
+#include "document/UndoStore.h"
 #include "scheduling/Calendar.h"
+#include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
+
+#include <QImage>
+#include <QPainter>
 
 using namespace tb;
 using namespace tb::test;
@@ -210,7 +217,66 @@ private Q_SLOTS:
         QVERIFY(!SetHoldDays(f.doc, 1000).ok());
         QCOMPARE(f.doc.values.HoldDays, 999);
     }
+    // End of day: day 1 holds scenes 1 and 2, day 2 scene 3.
+    void endOfDay_data()
+    {
+        // before, after: the shot dates of scenes 1 and 2
+        Columns<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
+        Row("tick both", ",", true, true, "46087,46087");
+        Row("untick clears", "46087,46087", true, false, "46087,");
+        // A scene already marked keeps the day it was first marked shot.
+        Row("earlier mark kept", "46000,", true, true, "46000,46087");
+    }
+    void endOfDay()
+    {
+        auto [before, tick1, tick2, after] = Fetch<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, {"1", "1", "|", "1"});
+        f.doc.strips[1].set(StripField::Reserved12, before.section(u',', 0, 0));
+        f.doc.strips[2].set(StripField::Reserved12, before.section(u',', 1, 1));
+        QCOMPARE(SceneStripsOn(f.doc, Friday), (QList<int>{1, 2}));
+        f.doc.Modified = false;
+        QVERIFY(ApplyEndOfDay(f.doc, Friday, {{1, tick1}, {2, tick2}}).ok());
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], after);
+        QVERIFY(f.doc.Modified);
+        QCOMPARE(IsShot(f.doc.strips[2]), tick2);
+        QVERIFY(!IsShot(f.doc.strips[4]));
+        Undo(f.doc);
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], before);
+
+        // Only scenes, and only on a date.
+        QVERIFY(!ApplyEndOfDay(f.doc, Friday, {{1, true}, {3, true}}).ok());
+        QVERIFY(!ApplyEndOfDay(f.doc, QDate(), {{1, true}}).ok());
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], before);
+    }
+    void shotScenesKeptThroughSaveAndOpen()
+    {
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, {"1", "1", "|", "1"});
+        QVERIFY(ApplyEndOfDay(f.doc, Friday.addDays(1), {{4, true}}).ok());
+        const QString path = TempPath(QStringLiteral("shot.tbf"));
+        QVERIFY(SaveDocument(f.doc, path).ok());
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(ShotDate(reopened.strips[4]), Friday.addDays(1));
+        QVERIFY(!IsShot(reopened.strips[1]));
+
+        // The board marks the shot scene in its header, and only there.
+        QImage plain(400, 300, QImage::Format_RGB32), marked(400, 300, QImage::Format_RGB32);
+        {
+            QPainter p(&marked);
+            DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
+        }
+        reopened.strips[4].set(StripField::Reserved12, QString());
+        {
+            QPainter p(&plain);
+            DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
+        }
+        QVERIFY(plain != marked);
+    }
 };
 
-TB_TEST_GUILESS_MAIN(TestCalendar)
+TB_TEST_MAIN(TestCalendar)
 #include "tst_calendar.moc"
