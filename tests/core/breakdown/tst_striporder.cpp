@@ -139,43 +139,37 @@ private Q_SLOTS:
         QCOMPARE(Column(rows, SortColumn::Scene), "2 3 4 5 6 1");
     }
 
-    void sortWithoutDividersAsksNothing()
+    void sortAsksAboutDividers_data()
     {
+        Columns<bool, Answer>("dividers", "answer");
+        Row("no dividers: no question", false, Answer::Yes);
+        Row("Yes", true, Answer::Yes);
+        Row("Abort", true, Answer::Abort);
+    }
+
+    // Either answer sorts, and the dividers and banners are deleted.
+    void sortAsksAboutDividers()
+    {
+        auto [dividers, answer] = Fetch<bool, Answer>("dividers", "answer");
         ScheduleDocument doc;
         ScriptedPrompter prompter{doc};
         Scene(doc, "1", "PIER");
+        if (dividers)
+            AddDivider(doc);
         Scene(doc, "2", "BARN");
-        SortStrips(doc, SortColumn::Location, SortColumn::None, SortColumn::None);
-        QCOMPARE(Board(doc), "2 1");
-        QVERIFY(prompter.prompts.isEmpty());
-    }
-
-    void sortDeletesDividersWhateverTheAnswer_data()
-    {
-        QTest::addColumn<Answer>("answer");
-        Row("Yes", Answer::Yes);
-        Row("Abort", Answer::Abort);
-    }
-
-    void sortDeletesDividersWhateverTheAnswer()
-    {
-        QFETCH(Answer, answer);
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        Scene(doc, "1", "PIER");
-        AddDivider(doc);
-        Scene(doc, "2", "BARN");
-        AddBanner(doc, "Travel", 1);
+        if (dividers)
+            AddBanner(doc, "Travel", 1);
         Scene(doc, "3", "ATTIC");
-        prompter.answers = {answer};
-        QList<SortRow> rows = SortPreviewRows(doc);
-        SortRowsByKeys(rows, SortColumn::Location, SortColumn::None, SortColumn::None);
-        QCOMPARE(WarnSortDeletesDividers(doc), answer == Answer::Yes);
-        UpdateStrips(doc, rows);
+        prompter.answers = {answer, answer};
+        if (dividers)
+            QCOMPARE(WarnSortDeletesDividers(doc), answer == Answer::Yes);
+        SortStrips(doc, SortColumn::Location, SortColumn::None, SortColumn::None);
         QCOMPARE(Board(doc), "3 2 1");
-        QCOMPARE(prompter.prompts.size(), 1);
-        QCOMPARE(prompter.prompts[0].buttons, Buttons::YesAbort);
-        QVERIFY(prompter.prompts[0].text.contains("the dividers will be deleted if you continue. \r\rAre you sure"));
+        QCOMPARE(prompter.prompts.size(), dividers ? 2 : 0);
+        if (!dividers)
+            return;
+        QCOMPARE(prompter.prompts[1].buttons, Buttons::YesAbort);
+        QVERIFY(prompter.prompts[1].text.contains("the dividers will be deleted if you continue. \r\rAre you sure"));
     }
 
     void conformEntries()

@@ -211,13 +211,12 @@ private slots:
 
         QString target;
         const QString folder = folderWithEarlierFile(out, &target);
+        // The tool takes the fault from the environment it inherits.
+        setFault(Fault{op.constData(), error, after}, folder);
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        clearFault();
         env.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TB_FAULT_SHIM));
         env.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
-        env.insert(QStringLiteral("TB_FAULT_OP"), QString::fromLatin1(op));
-        env.insert(QStringLiteral("TB_FAULT_MATCH"), folder);
-        env.insert(QStringLiteral("TB_FAULT_ERRNO"), QString::number(error));
-        env.insert(QStringLiteral("TB_FAULT_AFTER"), QString::number(after));
         QProcess cli;
         cli.setProcessEnvironment(env);
         cli.start(QStringLiteral(TB_CLI_PATH),

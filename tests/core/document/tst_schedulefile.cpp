@@ -208,42 +208,36 @@ private Q_SLOTS:
         QVERIFY(!status.busy);
     }
 
-    void reservedLinesIgnored()
+    void lineRead_data()
     {
-        ScheduleDocument doc;
-        QStringList lines = ScheduleFileLines(doc);
-        lines[18] = "anything";
-        lines[20] = "12";
-        const QString path = TempPath("reserved.tbf");
-        QVERIFY(WriteBytes(path, (lines.join("\r\n") + "\r\n").toLatin1()));
-        ScheduleDocument reopened;
-        QVERIFY(OpenDocument(reopened, path).ok());
-        QCOMPARE(ScheduleFileLines(reopened), ScheduleFileLines(doc));
+        // line: the line changed; zoom: the board zoom read
+        Columns<int, QString, double>("line", "text", "zoom");
+        Row("zoom zero", 12, "0", 1.0);
+        Row("zoom below the floor", 12, "0.1", 1.0);
+        Row("zoom at the floor", 12, "0.2", 0.2);
+        Row("zoom with a comma separator", 12, "0,5", 0.5);
+        Row("larger zoom", 12, "1.4", 1.4);
+        // Lines the program does not use are read and ignored.
+        Row("reserved line 19", 18, "anything", 1.0);
+        Row("reserved line 21", 20, "12", 1.0);
     }
 
-    void zoomLine_data()
+    void lineRead()
     {
-        Columns<QString, double>("line", "zoom");
-        Row("zero", "0", 1.0);
-        Row("below the floor", "0.1", 1.0);
-        Row("at the floor", "0.2", 0.2);
-        Row("comma separator", "0,5", 0.5);
-        Row("larger", "1.4", 1.4);
-    }
-
-    void zoomLine()
-    {
-        auto [line, zoom] = Fetch<QString, double>("line", "zoom");
-        ScheduleDocument doc;
-        QStringList lines = ScheduleFileLines(doc);
-        lines[12] = line;
-        const QString path = TempPath("zoom.tbf");
-        QVERIFY(WriteBytes(path, (lines.join("\r\n") + "\r\n").toLatin1()));
+        auto [line, text, zoom] = Fetch<int, QString, double>("line", "text", "zoom");
+        const QStringList good = ScheduleFileLines(ScheduleDocument());
+        QStringList lines = good;
+        lines[line] = text;
+        const QString path = TempPath("line.tbf");
+        QVERIFY(WriteBytes(path, fileBytes(lines)));
         ScheduleDocument reopened;
         RecordingView view{reopened};
         QVERIFY(OpenDocument(reopened, path).ok());
         QCOMPARE(reopened.values.BoardZoom, zoom);
         QCOMPARE(view.zoom, zoom);
+        // Apart from the zoom, the document is a new one.
+        reopened.values.BoardZoom = 1.0;
+        QCOMPARE(ScheduleFileLines(reopened), good);
     }
 
     void malformed_data()
