@@ -10,9 +10,6 @@ using namespace tb::test;
 
 namespace {
 
-const QString OpenError = QStringLiteral(
-    "Error opening file .\r\rThis file cannot be opened by Torvanbridge - it may be badly corrupted, or the system "
-    "may be unstable. Try again after re-booting the computer.");
 const QString HeaderError =
     QStringLiteral("Torvanbrigde cannot read this file. It may be the wrong type, or perhaps it is corrupted.");
 
@@ -188,9 +185,8 @@ private Q_SLOTS:
     void openProgressAndStatus()
     {
         ScheduleDocument doc;
-        AddScene(doc, "1", "1");
-        AddScene(doc, "2", "1");
-        AddScene(doc, "3", "1");
+        for (int i = 1; i <= 3; ++i)
+            AddScene(doc, QString::number(i), "1");
         const QString path = TempPath("three.tbf");
         QVERIFY(SaveDocument(doc, path).ok());
 

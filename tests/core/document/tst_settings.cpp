@@ -73,8 +73,6 @@ private slots:
         in.weatherUrl = "https://example.org/weather";
         in.showShootingDays = false;
         QVERIFY(ApplyPreferences(doc, s, in).ok());
-        QCOMPARE(s.autosaveMinutes, 15);
-        QCOMPARE(s.boardFont, "Times New Roman");
         // A new file, byte for byte as the earlier edition's private-profile functions
         // wrote it: a literal [General] section, booleans as 1 and 0, colour names, CR LF;
         // the colours are the ones chosen in the dialog.
