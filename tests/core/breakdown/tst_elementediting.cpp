@@ -195,27 +195,23 @@ private Q_SLOTS:
         Row("free number", -1, "9", false);
     }
 
+    // A duplicate is asked about; No keeps the editor open, Yes saves.
     void duplicateCastId()
     {
-        auto [editIndex, id] = Fetch<int, QString>("editIndex", "id");
+        auto [editIndex, id, duplicate] = Fetch<int, QString, bool>("editIndex", "id", "duplicate");
         ScheduleDocument doc;
+        ScriptedPrompter prompter{doc};
         AddElement(doc, "Anna", 1, "1");
         AddElement(doc, "Ben", 1, "3");
         AddElement(doc, "Lamp", 5, "Prp");
         AddElement(doc, "Vase", 5, "Prp");
-        QTEST(IsDuplicateCastId(doc, editIndex, id), "duplicate");
-    }
-
-    void duplicateQuestion()
-    {
-        ScheduleDocument doc;
-        ScriptedPrompter prompter{doc};
-        AddElement(doc, "Ben", 1, "3");
+        QCOMPARE(IsDuplicateCastId(doc, editIndex, id), duplicate);
         prompter.answers = {Answer::No, Answer::Yes};
-        QVERIFY(!ConfirmDuplicateCastId(doc, -1, "3"));
-        QVERIFY(ConfirmDuplicateCastId(doc, -1, "3"));
-        QVERIFY(ConfirmDuplicateCastId(doc, -1, "4"));
-        QCOMPARE(prompter.prompts.size(), 2);
+        QCOMPARE(ConfirmDuplicateCastId(doc, editIndex, id), !duplicate);
+        QVERIFY(ConfirmDuplicateCastId(doc, editIndex, id));
+        QCOMPARE(prompter.prompts.size(), duplicate ? 2 : 0);
+        if (!duplicate)
+            return;
         QCOMPARE(prompter.prompts[0].text, "The element ID you have entered is already being used by another cast "
                                            "element.\r\rAre you sure you want to have duplicate IDs?");
         QCOMPARE(prompter.prompts[0].kind, MessageKind::Warning);
