@@ -21,13 +21,12 @@ private Q_SLOTS:
         Build(f.doc, QStringList(9, "1"));
         QVERIFY(WriteBanner(f.doc, BannerAddAtEnd, {"Company move", {"clRed", "$00C0FFEE"}, 2}).ok());
         const StripRecord &row = f.doc.strips[10];
-        QCOMPARE(row[StripField::StripKind], "4");
         QCOMPARE(row[StripField::Synopsis], "Company move");
         QCOMPARE(row[StripField::StripColour], "clRed,$00C0FFEE");
         QCOMPARE(row[StripField::DayCount], "2");
         QVERIFY(HasBanners(f.doc));
 
-        // Inserted on the first strip it goes before it, without scrolling.
+        // Inserted on the first strip it goes before it.
         f.doc.SelStart = f.doc.SelEnd = 1;
         QVERIFY(CanInsertBanner(f.doc));
         QVERIFY(WriteBanner(f.doc, BannerInsert, {"Holiday", Preference, 1}).ok());
