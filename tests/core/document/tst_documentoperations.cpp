@@ -126,13 +126,22 @@ private Q_SLOTS:
         QTEST(FormatPageLength(pages), "expected");
     }
 
-    void newDocumentState()
+    void modifiedAndNew()
     {
         ScheduleDocument doc;
         RecordingStatus status{doc};
         RecordingView view{doc};
 
-        AddScene(doc, "1", "1");
+        AddScene(doc, "1", "1.5");
+        AddDivider(doc);
+        SetModified(doc);
+        QVERIFY(doc.Modified);
+        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "Modified");
+        QCOMPARE(doc.strips[2][StripField::PageLength], "1.5"); // the days were recalculated
+        ClearModified(doc);
+        QVERIFY(!doc.Modified);
+        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");
+
         AddElement(doc, "ANNA");
         doc.values.PictureTitle = "Rain";
         doc.values.StartDate = "46087";
@@ -201,21 +210,6 @@ private Q_SLOTS:
             QVERIFY(AddElement(doc, "x") > 0);
         QCOMPARE(AddElement(doc, "one too many"), 0);
         QCOMPARE(doc.elements.count(), MaxElements);
-    }
-
-    void setModifiedRecalculates()
-    {
-        ScheduleDocument doc;
-        RecordingStatus status{doc};
-        AddScene(doc, "1", "1.5");
-        AddDivider(doc);
-        SetModified(doc);
-        QVERIFY(doc.Modified);
-        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "Modified");
-        QCOMPARE(doc.strips[2][StripField::PageLength], "1.5"); // the days were recalculated
-        ClearModified(doc);
-        QVERIFY(!doc.Modified);
-        QCOMPARE(status.panels.value(StatusSink::ModifiedPanel), "");
     }
 };
 

@@ -17,13 +17,11 @@ struct Imported
 {
     ScheduleDocument doc;
     ScriptedPrompter prompter;
-    RecordingStatus status;
     Result result = Result::success();
 
     Imported(const QStringList &lines, const ScriptImportSettings &settings = {})
     {
         doc.setPrompter(&prompter);
-        doc.setStatusSink(&status);
         result = DoImport(doc, lines, settings);
     }
     const StripRecord &strip(int row) const { return doc.strips[row]; }

@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(f.doc.values.AutoRestDayRule, "S6");
         QVERIFY(!f.doc.Modified);
     }
-    void lockBeforeTheStartDate()
+    void lockAndUnlock()
     {
         Fixture f;
         f.doc.values.StartDate = FridayMarch6;
@@ -168,6 +168,17 @@ private Q_SLOTS:
         QVERIFY(LockStrips(f.doc, Friday).ok());
         QVERIFY(f.prompter.prompts.isEmpty());
         QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
+
+        // Unlocking clears the selected strips only, and marks the document modified even
+        // when there is nothing left to clear.
+        f.doc.SelStart = 3;
+        f.doc.SelEnd = 4;
+        UnlockStrips(f.doc);
+        QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
+        QCOMPARE(f.doc.strips[3][StripField::LockDate], "");
+        f.doc.Modified = false;
+        UnlockStrips(f.doc);
+        QVERIFY(f.doc.Modified);
     }
     void lockNeedsAStartDate()
     {
@@ -184,23 +195,6 @@ private Q_SLOTS:
                  "production.\r\rPlease select Production | Start date... from the menu first.");
         QCOMPARE(f.doc.strips[1][StripField::LockDate], "");
         QVERIFY(!f.doc.Modified);
-    }
-    void unlockMarksModified()
-    {
-        Fixture f;
-        f.doc.values.StartDate = FridayMarch6;
-        Build(f.doc, ThreeDays);
-        f.doc.strips[1].set(StripField::LockDate, "3/9/2026");
-        f.doc.strips[2].set(StripField::LockDate, "3/9/2026");
-        f.doc.SelStart = 2;
-        f.doc.SelEnd = 3;
-        UnlockStrips(f.doc);
-        QCOMPARE(f.doc.strips[1][StripField::LockDate], "3/9/2026");
-        QCOMPARE(f.doc.strips[2][StripField::LockDate], "");
-        // Nothing left to unlock: still marked modified.
-        f.doc.Modified = false;
-        UnlockStrips(f.doc);
-        QVERIFY(f.doc.Modified);
     }
     void holdDays()
     {
