@@ -30,7 +30,6 @@ private Q_SLOTS:
         d.crew[0] = {"Gaffer", "Lo", "555"};
         d.crew[49] = {"Grip", "", "x"};
         WriteProductionDetails(doc, d);
-        QCOMPARE(doc.values.PictureTitle, "Rain");
         QCOMPARE(doc.values.CompanyAddress, "\"1 Quay \"\"Street\"\"\",\"Port Ellen, Islay\",\"PA42 7AA\"");
         QCOMPARE(doc.values.ScriptTitle, "Pink, 3 May");
         QCOMPARE(doc.values.LogoFile, "/nowhere/logo.png");

@@ -211,7 +211,6 @@ private Q_SLOTS:
         QVERIFY(!reopened.Modified);
         QCOMPARE(view.recent.last(), path);
         QCOMPARE(view.title, "Torvanbridge -   (" + path + ") ");
-        QCOMPARE(reopened.strips.count(), 3);
         QVERIFY(!status.busy);
     }
 

@@ -47,9 +47,6 @@ private slots:
         QCOMPARE(legacy::ColorValueToString(s.stripBackground[int(StripSlot::DayExt)]), "clYellow");
         QVERIFY(s.scenePopups);
         QVERIFY(s.showShootingDays);
-        for (auto which :
-             {RememberedWarning::AutoRestClick, RememberedWarning::SceneChange, RememberedWarning::CallSheetRest})
-            QVERIFY(!s.skipWarning(which));
         // The test runner points XDG_CONFIG_HOME at a private folder.
         QCOMPARE(Settings::DefaultPath(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/Torvanbridge.ini");
     }
