@@ -175,16 +175,9 @@ private Q_SLOTS:
     {
         // Bytes as the earlier edition wrote them in its code page, including ones that
         // are not valid UTF-8 and a byte the code page leaves undefined.
-        ScheduleDocument doc;
-        doc.values.Company = "x";
-        QStringList lines = ScheduleFileLines(doc);
-        QByteArray bytes;
-        for (int i = 0; i < lines.size(); ++i) {
-            QByteArray line = lines.at(i).toLatin1();
-            if (i == 2)
-                line = "Ren\xE9\x92s \x81 Film";
-            bytes += line + "\r\n";
-        }
+        const QStringList lines = SampleLines();
+        const QByteArray bytes = (lines.mid(0, 2).join("\r\n") + "\r\n").toLatin1() + "Ren\xE9\x92s \x81 Film\r\n" +
+                                 (lines.mid(3).join("\r\n") + "\r\n").toLatin1();
         const QString in = TempPath("old.tbf");
         const QString out = TempPath("old-resaved.tbf");
         QVERIFY(WriteBytes(in, bytes));
