@@ -77,9 +77,6 @@ private Q_SLOTS:
     void commandLineToolRunsInstalled()
     {
         QVERIFY(!QFile::exists(path("bin/ShootSch1.dfm")));
-        const CliRun info = RunProgram(cli(), {"info", example()});
-        QCOMPARE(info.code, 0);
-        QVERIFY(info.out.startsWith("Title:       Harbour Lights"));
         const QString pdf = m_root.filePath("schedule.pdf");
         const CliRun report = RunProgram(cli(), {"report", "schedule", example(), "-o", pdf});
         QVERIFY2(report.code == 0, qPrintable(report.err));

@@ -22,6 +22,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -57,114 +58,111 @@ private Q_SLOTS:
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
         p.doc.values.StartDate.clear();
-        // The start date dialog comes first; cancelled, the call sheet does not open.
+        // The start date dialog comes first; cancelled, the call sheet does not open (its
+        // dialog would stop the test).
         QCOMPARE(p.dialogOf([&] { p.trigger("Callsheet1"); }), "Start date");
         QCOMPARE(p.prompter.texts(),
                  QStringList{"You need to enter a production start date before you can print call sheets."});
-        QVERIFY(!p.main->findChild<QDialog *>("TfrmCallSheet")->isVisible());
     }
 
     void entriesOpenTheirDialogs_data()
     {
-        // selected: the strip selected; element 1 is selected too
+        // entry: "board:..." a double click on the board asking to edit a scene or a banner
+        // kind: the first strip of that kind is selected; element 1 is selected too
         // caption: empty: nothing opens
         // help: the page F1 in the dialog opens; empty: not tried
-        Columns<QString, int, QString, QString>("entry", "selected", "caption", "help");
-        Row("edit scene", "Editscene1", 1, "Edit scene breakdown #11", "scene-breakdown.html");
-        Row("edit scene, pop-up", "PopEditscene1", 1, "Edit scene breakdown #11", "");
-        Row("edit scene on a divider", "PopEditscene1", 0, "", "");
-        Row("add element", "Addelement1", 1, "Add new element", "");
-        Row("edit element, pop-up", "PopEditelement1", 1, "Edit element \"", "");
-        Row("production details", "Maindetails1", 1, "Production details", "");
-        Row("auto pages", "Automaticdaydividers1", 1, "Automatic day dividers", "");
-        Row("rest days", "Autorestdays1", 1, "Defualt rest days", "");
-        Row("start date", "Startdate1", 1, "Start date", "");
-        Row("hold days", "Holddays1", 1, "Hold days", "hold-days.html");
-        Row("sort strips", "Sortstrips1", 1, "Sort strips", "");
-        Row("conform strip order", "Conformstriporder1", 1, "Conform strip order", "");
-        Row("shooting schedule", "Shootingschedule1", 1, "Print schedule", "shooting-schedule.html");
-        Row("breakdown sheets", "Breakdownsheets1", 1, "Print script breakdown sheets", "breakdown-sheets.html");
-        Row("element summary", "Elementsummary1", 1, "Print element summary", "element-summary.html");
-        Row("call sheet", "Callsheet1", 1, "Print Call Sheet", "call-sheet.html");
-        Row("end of day", "Endofday1", 1, "End of day", "end-of-day.html");
-        Row("day out of days", "Dayoutofdays1", 1, "Day out of days", "day-out-of-days.html");
-        Row("production board", "Productionboard1", 1, "Print production board", "print-board.html");
-        Row("import script", "Importscript1", 1, "Script import (TXT file)", "import-script.html");
+        Columns<QString, QString, QString, QString>("entry", "kind", "caption", "help");
+        Row("edit scene", "Editscene1", "1", "Edit scene breakdown #11", "scene-breakdown.html");
+        Row("edit scene, pop-up", "PopEditscene1", "1", "Edit scene breakdown #11", "");
+        Row("edit scene on a divider", "PopEditscene1", "2", "", "");
+        Row("double click on a scene", "board:scene", "1", "Edit scene breakdown #11", "");
+        Row("double click on a banner", "board:banner", "4", "Banner", "");
+        Row("banner double click on a scene", "board:banner", "1", "", "");
+        Row("add element", "Addelement1", "1", "Add new element", "");
+        Row("edit element, pop-up", "PopEditelement1", "1", "Edit element \"", "");
+        Row("production details", "Maindetails1", "1", "Production details", "");
+        Row("auto pages", "Automaticdaydividers1", "1", "Automatic day dividers", "");
+        Row("rest days", "Autorestdays1", "1", "Defualt rest days", "");
+        Row("start date", "Startdate1", "1", "Start date", "");
+        Row("hold days", "Holddays1", "1", "Hold days", "hold-days.html");
+        Row("sort strips", "Sortstrips1", "1", "Sort strips", "");
+        Row("conform strip order", "Conformstriporder1", "1", "Conform strip order", "");
+        Row("shooting schedule", "Shootingschedule1", "1", "Print schedule", "shooting-schedule.html");
+        Row("breakdown sheets", "Breakdownsheets1", "1", "Print script breakdown sheets", "breakdown-sheets.html");
+        Row("element summary", "Elementsummary1", "1", "Print element summary", "element-summary.html");
+        Row("call sheet", "Callsheet1", "1", "Print Call Sheet", "call-sheet.html");
+        Row("end of day", "Endofday1", "1", "End of day", "end-of-day.html");
+        Row("day out of days", "Dayoutofdays1", "1", "Day out of days", "day-out-of-days.html");
+        Row("production board", "Productionboard1", "1", "Print production board", "print-board.html");
+        Row("import script", "Importscript1", "1", "Script import (TXT file)", "import-script.html");
     }
 
     void entriesOpenTheirDialogs()
     {
-        auto [entry, selected, caption, help] =
-            Fetch<QString, int, QString, QString>("entry", "selected", "caption", "help");
+        auto [entry, kind, caption, help] =
+            Fetch<QString, QString, QString, QString>("entry", "kind", "caption", "help");
         Harness p("whole.ini");
         QVERIFY(p.start());
         QVERIFY(OpenDocument(p.doc, Example).ok());
-        if (!selected) { // the first day divider
-            for (int i = 1; i <= p.doc.strips.count() && !selected; ++i)
-                if (p.doc.strips[i].isDayDivider())
-                    selected = i;
-        }
+        int selected = 1;
+        while (p.doc.strips[selected].kind() != kind)
+            ++selected;
         p.doc.SelStart = p.doc.SelEnd = selected;
         p.doc.SelElement = 1;
         SetModified(p.doc);
         ClearModified(p.doc);
-        const QString shown = p.dialogOf([&] { p.trigger(entry); },
-                                         [&](QDialog *dialog) {
-                                             if (help.isEmpty())
-                                                 return;
-                                             dialog->activateWindow();
-                                             QVERIFY(QTest::qWaitForWindowActive(dialog));
-                                             QTest::keyClick(dialog, Qt::Key_F1);
-                                         });
+        BoardView *board = p.main->board();
+        const QString shown = p.dialogOf(
+            [&] {
+                if (entry == "board:scene")
+                    Q_EMIT board->editSceneRequested();
+                else if (entry == "board:banner")
+                    Q_EMIT board->editBannerRequested();
+                else
+                    p.trigger(entry);
+            },
+            [&](QDialog *dialog) {
+                if (help.isEmpty())
+                    return;
+                dialog->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
+                QTest::keyClick(dialog, Qt::Key_F1);
+                // A window of the dialog, which a modal dialog
+                // does not block, and on the screen.
+                HelpWindow *window = p.main->helpWindow();
+                QVERIFY(window && window->isVisible());
+                QCOMPARE(window->parentWidget(), dialog);
+                const QRect screen = window->screen()->availableGeometry();
+                QVERIFY(screen.contains(window->frameGeometry()) || window->frameGeometry().width() > screen.width());
+            });
         if (caption.endsWith('"'))
             QVERIFY2(shown.startsWith(caption), qPrintable(shown));
         else
             QCOMPARE(shown, caption);
         if (!help.isEmpty()) {
-            QVERIFY(p.main->helpWindow());
             QCOMPARE(p.main->helpWindow()->currentPage(), help);
+            // Help from the menu belongs to no dialog.
+            p.trigger("Contents1");
+            QVERIFY(!p.main->helpWindow()->parentWidget());
         }
-    }
-
-    void sceneEntriesAddWhereTheyShould_data()
-    {
-        Columns<QString, QString>("entry", "order");
-        Row("menu", "Addscene1", "1 3 2");
-        Row("pop-up", "PopAddscene1", "1 3 2");
-        Row("insert, pop-up", "PopInsertscene1", "1 2 3");
-    }
-
-    void sceneEntriesAddWhereTheyShould()
-    {
-        QFETCH(QString, entry);
-        Harness p("whole.ini");
-        AddScene(p.doc, "1", "1");
-        AddScene(p.doc, "3", "1");
-        p.doc.SelStart = p.doc.SelEnd = 2;
-        SetModified(p.doc);
-        p.dialogOf([&] { p.trigger(entry); },
-                   [](QDialog *dialog) {
-                       QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "2");
-                       dialog->findChild<QPushButton *>("OKBut")->click();
-                   });
-        QStringList order;
-        for (int i = 1; i <= p.doc.strips.count(); ++i)
-            order.append(p.doc.strips[i][StripField::SceneNumber]);
-        QTEST(order.join(u' '), "order");
     }
 
     void entriesRunTheirOperations_data()
     {
-        // strips: Kinds() after
+        // strips: the scene numbers after, and "k" and the kind of other strips
         // elements: descriptions and board ids after
         Columns<QString, QString, QString>("entry", "strips", "elements");
-        const QString kinds = "1 1 2 4";
+        const QString strips = "2 1 k2 k4";
         const QString elements = "ANNA=5 LAMP=Prp BEN=6";
-        Row("add day divider, pop-up", "PopAdddaydivider1", "1 1 2 4 2", elements);
-        Row("remove day dividers", "Removealldaydividers1", "1 1 4", elements);
-        Row("remove banners", "Removeallbanners1", "1 1 2", elements);
-        Row("reset cast numbering", "Reordercastnumbering1", kinds, "ANNA=1 LAMP=Prp BEN=2");
-        Row("sort elements", "Sortelements1", kinds, "ANNA=5 BEN=6 LAMP=Prp");
+        // The scene editor opens for the scene entries; scene 3 is typed and OK clicked.
+        Row("add scene", "Addscene1", "2 1 k2 k4 3", elements);
+        Row("add scene, pop-up", "PopAddscene1", "2 1 k2 k4 3", elements);
+        Row("insert scene, pop-up", "PopInsertscene1", "3 2 1 k2 k4", elements);
+        Row("add day divider, pop-up", "PopAdddaydivider1", "2 1 k2 k4 k2", elements);
+        Row("remove day dividers", "Removealldaydividers1", "2 1 k4", elements);
+        Row("remove banners", "Removeallbanners1", "2 1 k2", elements);
+        Row("reset cast numbering", "Reordercastnumbering1", strips, "ANNA=1 LAMP=Prp BEN=2");
+        Row("sort elements", "Sortelements1", strips, "ANNA=5 BEN=6 LAMP=Prp");
     }
 
     void entriesRunTheirOperations()
@@ -180,8 +178,17 @@ private Q_SLOTS:
         AddElement(p.doc, "BEN", 1, "6");
         p.doc.SelStart = p.doc.SelEnd = 1;
         SetModified(p.doc);
-        p.trigger(entry); // questions answered Yes
-        QTEST(Kinds(p.doc), "strips");
+        p.dialogOf([&] { p.trigger(entry); }, // questions answered Yes
+                   [](QDialog *dialog) {
+                       QTest::keyClicks(dialog->findChild<QLineEdit *>("SceneEdit"), "3");
+                       dialog->findChild<QPushButton *>("OKBut")->click();
+                   });
+        QStringList strips;
+        for (int i = 1; i <= p.doc.strips.count(); ++i) {
+            const StripRecord &strip = p.doc.strips[i];
+            strips.append(strip.isScene() ? strip[StripField::SceneNumber] : "k" + strip.kind());
+        }
+        QTEST(strips.join(u' '), "strips");
         QStringList elements;
         for (int i = 1; i <= p.doc.elements.count(); ++i)
             elements.append(p.doc.elements[i][ElementField::Description] + "=" +
@@ -192,46 +199,8 @@ private Q_SLOTS:
         QCOMPARE(p.doc.undo.levels[1].label, "reset breakdown numbering");
     }
 
-    // A double click on the board edits the scene, or the banner when a banner is the
-    // selection.
-    void doubleClickEditsTheSelection_data()
-    {
-        Columns<bool, int, QString>("bannerRequest", "selected", "caption");
-        Row("scene", false, 1, "Edit scene breakdown #1");
-        Row("banner", true, 2, "Banner");
-        Row("banner request on a scene", true, 1, "");
-    }
-
-    void doubleClickEditsTheSelection()
-    {
-        QFETCH(bool, bannerRequest);
-        Harness p("whole.ini");
-        QVERIFY(p.start());
-        AddScene(p.doc, "1", "1");
-        AddBanner(p.doc, "Travel");
-        QFETCH(int, selected);
-        p.doc.SelStart = p.doc.SelEnd = selected;
-        SetModified(p.doc);
-        BoardView *board = p.main->board();
-        QTEST(p.dialogOf([&] {
-            if (bannerRequest)
-                Q_EMIT board->editBannerRequested();
-            else
-                Q_EMIT board->editSceneRequested();
-        }),
-              "caption");
-    }
-
-    void finalDraftImport_data()
-    {
-        Columns<Answer, int, bool>("answer", "saves", "imports");
-        Row("Yes saves first", Answer::Yes, 1, true);
-        Row("Cancel", Answer::Cancel, 0, false);
-    }
-
     void finalDraftImport()
     {
-        auto [answer, saves, imports] = Fetch<Answer, int, bool>("answer", "saves", "imports");
         Harness p("whole.ini");
         QVERIFY(p.start());
         AddScene(p.doc, "99", "3");
@@ -239,8 +208,14 @@ private Q_SLOTS:
         QVERIFY(SaveDocument(p.doc, file).ok());
         p.doc.FileName = file;
         SetModified(p.doc);
-        p.prompter.answers = {answer};
         QSignalSpy save(p.main->findAction("Save1"), &QAction::triggered);
+        // Cancel on the question: no dialog, the schedule stays.
+        p.prompter.answers = {Answer::Cancel};
+        QCOMPARE(p.dialogOf([&] { p.trigger("ImportFinalDraft1"); }), QString());
+        QCOMPARE(p.prompter.texts(), QStringList{FinalDraftSaveQuestion});
+        QCOMPARE(p.doc.strips.count(), 1);
+        // Yes saves first and empties the schedule before the dialog shows.
+        p.prompter.answers = {Answer::Yes};
         PanelStatusBar *status = p.main->statusPanels();
         QString statusWhileShown;
         int stripsWhileShown = -1;
@@ -254,21 +229,15 @@ private Q_SLOTS:
                     ->setText(QDir(ImportData).filePath("fd-script-report.txt"));
                 dialog->findChild<QPushButton *>("ImportBut")->click();
             });
-        // The question, and after an import its summary.
-        QCOMPARE(p.prompter.texts().value(0), QString::fromLatin1(FinalDraftSaveQuestion));
-        QCOMPARE(p.prompter.texts().size(), imports ? 2 : 1);
-        if (imports)
-            QVERIFY(p.prompter.texts().at(1).startsWith("Imported 5 scenes, 3 characters"));
-        QCOMPARE(save.count(), saves);
-        QCOMPARE(!caption.isEmpty(), imports);
-        if (imports) {
-            QCOMPARE(statusWhileShown, "Importing script...");
-            QCOMPARE(stripsWhileShown, 0); // emptied before the dialog
-            QCOMPARE(status->panelText(StatusSink::MessagePanel), "");
-            QCOMPARE(p.doc.strips.count(), 5);
-        } else {
-            QCOMPARE(p.doc.strips.count(), 1);
-        }
+        QVERIFY(!caption.isEmpty());
+        QCOMPARE(save.count(), 1);
+        // The question again, then the import's summary.
+        QCOMPARE(p.prompter.texts().size(), 3);
+        QVERIFY(p.prompter.texts().at(2).startsWith("Imported 5 scenes, 3 characters"));
+        QCOMPARE(statusWhileShown, "Importing script...");
+        QCOMPARE(stripsWhileShown, 0);
+        QCOMPARE(status->panelText(StatusSink::MessagePanel), "");
+        QCOMPARE(p.doc.strips.count(), 5);
     }
 
     // The two Export board entries write the file chosen, adding the extension the

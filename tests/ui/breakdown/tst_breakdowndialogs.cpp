@@ -7,7 +7,6 @@
 #include "ui/breakdown/TfrmSort.h"
 #include "ui/breakdown/TfrmStrip.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QImage>
@@ -19,7 +18,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
-#include <QTimer>
 
 #include <memory>
 
@@ -53,24 +51,6 @@ QCheckBox *popupItem(QMenu *menu, const QString &text)
     return nullptr;
 }
 
-// Scenes 1..3 with a divider after the last, and six elements: three cast, two props,
-// one extra. Scene 2 holds cast 1 and the first prop.
-void SmallSchedule(ScheduleDocument &doc)
-{
-    AddScene(doc, "1", "1");
-    AddScene(doc, "2", "0.5");
-    AddScene(doc, "3", "1");
-    AddDivider(doc);
-    AddElement(doc, "ANNA", 1, "1");
-    AddElement(doc, "BEN", 1, "2");
-    AddElement(doc, "CORA", 1, "3");
-    AddElement(doc, "LAMP", 5, "Prp");
-    AddElement(doc, "VASE", 5, "Prp");
-    AddElement(doc, "CROWD", 2, "Ext");
-    doc.strips[2].set(StripField::Assignments, "1,4");
-    doc.strips[2].set(StripField::Location, "BARN");
-}
-
 QStringList column(QTableWidget *grid, int c)
 {
     QStringList out;
@@ -92,11 +72,26 @@ class TestBreakdownDialogs : public QObject
     std::unique_ptr<RememberingPrompter> prompter;
     std::unique_ptr<Settings> settingsp;
     std::unique_ptr<TfrmStrip> sceneDialog;
+    std::unique_ptr<TfrmAddElement> elementDialog;
 
+    // Scenes 1..3 with a divider after the last, and six elements: three cast, two props,
+    // one extra. Scene 2 holds cast 1 and the first prop.
     ScheduleDocument &small()
     {
-        SmallSchedule(*docp);
-        return *docp;
+        ScheduleDocument &doc = *docp;
+        AddScene(doc, "1", "1");
+        AddScene(doc, "2", "0.5");
+        AddScene(doc, "3", "1");
+        AddDivider(doc);
+        AddElement(doc, "ANNA", 1, "1");
+        AddElement(doc, "BEN", 1, "2");
+        AddElement(doc, "CORA", 1, "3");
+        AddElement(doc, "LAMP", 5, "Prp");
+        AddElement(doc, "VASE", 5, "Prp");
+        AddElement(doc, "CROWD", 2, "Ext");
+        doc.strips[2].set(StripField::Assignments, "1,4");
+        doc.strips[2].set(StripField::Location, "BARN");
+        return doc;
     }
 
     // Shows the scene editor in the mode on the strip.
@@ -107,6 +102,14 @@ class TestBreakdownDialogs : public QObject
         sceneDialog->currentStrip = current;
         sceneDialog->show();
         return *sceneDialog;
+    }
+    // Shows the element dialog on the small schedule for the element (-1: a new one).
+    TfrmAddElement &openElement(int editIndex)
+    {
+        elementDialog = std::make_unique<TfrmAddElement>(small());
+        elementDialog->editIndex = editIndex;
+        elementDialog->show();
+        return *elementDialog;
     }
 
 private Q_SLOTS:
@@ -121,6 +124,7 @@ private Q_SLOTS:
     void cleanup()
     {
         sceneDialog.reset();
+        elementDialog.reset();
         docp.reset();
     }
     void sceneEditorShowsTheStrip()
@@ -130,36 +134,26 @@ private Q_SLOTS:
         TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
         QCOMPARE(dialog.windowTitle(), "Edit scene breakdown #17");
         QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "2");
-        QCOMPARE(Child<QSpinBox>(dialog, "WholeSpin")->value(), 0);
         QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 4);
         QCOMPARE(Child<QComboBox>(dialog, "LocEdit")->currentText(), "BARN");
         auto *grid = Child<QTableWidget>(dialog, "ElGrid");
         QCOMPARE(column(grid, 0), QStringList{"ANNA"});
         QCOMPARE(column(grid, 4), QStringList{"LAMP"});
-        QVERIFY(!dialog.isChanged());
-        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
-        QVERIFY(Child<QPushButton>(dialog, "NextBut")->isEnabled());
-    }
-    void popupToggleIsLostOnNext()
-    {
-        ScheduleDocument &doc = small();
-        TfrmStrip &dialog = openScene(SceneMode::Edit, 2);
 
+        // A toggle in the pop-up is no change: Next asks nothing and the toggle is lost.
         QMenu *menu = openPopup(dialog, 0);
         QVERIFY(menu->isVisible());
         QCOMPARE(menu->findChildren<QCheckBox *>().size(), 3);
         QVERIFY(popupItem(menu, "ANNA")->isChecked());
         QTest::mouseClick(popupItem(menu, "BEN"), Qt::LeftButton);
         QVERIFY(!menu->isVisible());
-        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList({"ANNA", "BEN"}));
+        QCOMPARE(column(grid, 0), QStringList({"ANNA", "BEN"}));
         QVERIFY(!dialog.isChanged());
-
         click(dialog, "NextBut");
         QVERIFY(prompter->prompts.isEmpty());
         QCOMPARE(dialog.currentStrip, 3);
-        QCOMPARE(doc.strips[2][StripField::Assignments], "1,4");
         click(dialog, "PrevBut");
-        QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 0), QStringList{"ANNA"});
+        QCOMPARE(column(grid, 0), QStringList{"ANNA"});
     }
     void popupToggleSavedByOk()
     {
@@ -186,7 +180,6 @@ private Q_SLOTS:
         QVERIFY(last.y() > first.y());
         QVERIFY(next.x() > first.x());
         QCOMPARE(next.y(), first.y());
-        QVERIFY(menu->findChild<QPushButton *>("ElPopupAddNew"));
         menu->hide();
 
         // An empty category offers "Add new..." alone.
@@ -231,14 +224,11 @@ private Q_SLOTS:
     }
     void nextStopsAtTheLastStrip()
     {
-        ScheduleDocument &doc = small();
-        AddDivider(doc);
+        AddDivider(small());
         TfrmStrip &dialog = openScene(SceneMode::Edit, 3);
         click(dialog, "NextBut");
         QCOMPARE(dialog.currentStrip, 5);
-        QCOMPARE(doc.SelStart, 5);
         QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
-        QVERIFY(Child<QPushButton>(dialog, "PrevBut")->isEnabled());
         QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "3"); // the page still shows scene 3
         click(dialog, "PrevBut");
         QCOMPARE(dialog.currentStrip, 3);
@@ -252,33 +242,30 @@ private Q_SLOTS:
         QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
         QVERIFY(!Child<QPushButton>(dialog, "PrevBut")->isEnabled());
         QVERIFY(!Child<QPushButton>(dialog, "NextBut")->isEnabled());
-        QCOMPARE(Child<QSpinBox>(dialog, "EightsSpin")->value(), 1);
         QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "1A");
         click(dialog, "OKBut");
         QCOMPARE(doc.strips[2][StripField::SceneNumber], "1A");
-        QCOMPARE(doc.strips[3][StripField::SceneNumber], "2");
     }
     void applyInAddModeAppendsAgain()
     {
         ScheduleDocument &doc = small();
         TfrmStrip &dialog = openScene(SceneMode::Add, 0);
         QTest::keyClicks(Child<QLineEdit>(dialog, "SceneEdit"), "9");
-        Child<QComboBox>(dialog, "LocEdit")->setEditText("HARBOUR");
+        auto *locations = Child<QComboBox>(dialog, "LocEdit");
+        locations->setEditText("HARBOUR");
         click(dialog, "AddContBut");
         click(dialog, "AddContBut");
         QCOMPARE(doc.strips.count(), 6);
-        QCOMPARE(doc.strips[5][StripField::SceneNumber], "9");
         QCOMPARE(doc.strips[6][StripField::SceneNumber], "9");
         QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
         QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
-        QVERIFY(doc.locationPickList.contains("HARBOUR"));
-        auto *locations = Child<QComboBox>(dialog, "LocEdit");
         QVERIFY(locations->findText("HARBOUR") >= 0);
         QCOMPARE(locations->currentText(), "HARBOUR");
         click(dialog, "CancelBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(doc.strips.count(), 6);
     }
+    // The refused scene loses nothing: the dialog stays open with what was typed.
     void zeroLengthKeepsTheDialogOpen()
     {
         ScheduleDocument &doc = small();
@@ -289,10 +276,8 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
         QCOMPARE(Child<QLineEdit>(dialog, "SceneEdit")->text(), "77");
         QCOMPARE(prompter->prompts.size(), 1);
-        QCOMPARE(doc.strips.count(), 4);
         click(dialog, "AddContBut"); // Apply refuses the same way
         QVERIFY(dialog.isVisible());
-        QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
         QCOMPARE(doc.strips.count(), 4);
         // One undo step, for the accepted scene only.
         Child<QSpinBox>(dialog, "EightsSpin")->setValue(3);
@@ -312,116 +297,84 @@ private Q_SLOTS:
         // The table's last element, CROWD, is now flagged for this strip.
         QCOMPARE(column(Child<QTableWidget>(dialog, "ElGrid"), 1), QStringList{"CROWD"});
         QVERIFY(dialog.isChanged());
-        QCOMPARE(dialog.elementDialog()->currentCategory, 1);
         click(dialog, "OKBut");
         QCOMPARE(doc.strips[1][StripField::Assignments], "6");
     }
     void applyNextTwice()
     {
-        ScheduleDocument &doc = small();
-        TfrmAddElement dialog(doc);
-        dialog.editIndex = -1;
-        dialog.currentCategory = 1;
-        dialog.show();
+        TfrmAddElement &dialog = openElement(-1);
         QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
         QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
         QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "DORA");
+        Child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
         Child<QListWidget>(dialog, "AssignList")->item(2)->setCheckState(Qt::Checked);
         click(dialog, "AddContBut");
         QCOMPARE(Child<QLineEdit>(dialog, "ElName")->text(), "");
         QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "5");
         QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "EVE");
         click(dialog, "AddContBut");
+        const ScheduleDocument &doc = *docp;
         QCOMPARE(doc.elements.count(), 8);
         QCOMPARE(doc.elements[7][ElementField::Description], "DORA");
-        QCOMPARE(doc.elements[7][ElementField::BoardId], "4");
         QCOMPARE(doc.elements[8][ElementField::BoardId], "5");
+        QCOMPARE(doc.elements[8][ElementField::HoldRule], "SAG");
         QCOMPARE(doc.strips[3][StripField::Assignments], "7");
         QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Close");
         QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
-        QVERIFY(dialog.isVisible());
 
-        // Shown again, the dialog starts afresh.
+        // Shown again, the dialog starts afresh, but for the hold rule box, which is not
+        // reset for a new element, as in the earlier edition.
         click(dialog, "CancelBut");
         dialog.show();
         QCOMPARE(Child<QPushButton>(dialog, "CancelBut")->text(), "Cancel");
         QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
+        QVERIFY(Child<QCheckBox>(dialog, "SAGCheck")->isChecked());
     }
-    void categoryChangeGivesCastNumber()
+    void editElement()
     {
-        ScheduleDocument &doc = small();
-        TfrmAddElement dialog(doc);
-        dialog.editIndex = 4; // LAMP, a prop
-        dialog.show();
+        TfrmAddElement &dialog = openElement(4); // LAMP, a prop in scene 2
         QCOMPARE(dialog.windowTitle(), "Edit element \"LAMP\"");
         QVERIFY(!Child<QPushButton>(dialog, "AddContBut")->isEnabled());
         auto *categories = Child<QComboBox>(dialog, "CatCombo");
         QCOMPARE(categories->currentIndex(), 4);
         QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "Prp");
         QVERIFY(!Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-        categories->setFocus();
-        while (categories->currentIndex() > 0)
-            QTest::keyClick(categories, Qt::Key_Up);
-        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
-        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
-        click(dialog, "OKBut");
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(doc.elements[4][ElementField::CategoryNumber], "1");
-        QCOMPARE(doc.elements[4][ElementField::BoardId], "4");
-        QCOMPARE(doc.elements[4][ElementField::PrintOnBoard], "1");
-    }
-    void duplicateIdDeclinedKeepsTheDialogOpen()
-    {
-        ScheduleDocument &doc = small();
-        TfrmAddElement dialog(doc);
-        dialog.editIndex = 5; // VASE, a prop
-        dialog.show();
-        auto *id = Child<QLineEdit>(dialog, "IDEdit");
-        id->setText("3");
-        prompter->answers = {Answer::No};
-        click(dialog, "OKBut");
-        QVERIFY(dialog.isVisible());
-        QCOMPARE(prompter->prompts.size(), 1);
-        QCOMPARE(doc.elements[5][ElementField::BoardId], "Prp");
-        prompter->answers = {Answer::Yes};
-        click(dialog, "OKBut");
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(doc.elements[5][ElementField::BoardId], "3");
-    }
-    void holdRuleIsKeptForTheNextElement()
-    {
-        ScheduleDocument &doc = small();
-        TfrmAddElement dialog(doc);
-        dialog.editIndex = -1;
-        dialog.show();
-        Child<QCheckBox>(dialog, "SAGCheck")->setChecked(true);
-        QTest::keyClicks(Child<QLineEdit>(dialog, "ElName"), "FRED");
-        click(dialog, "OKBut");
-        QCOMPARE(doc.elements[7][ElementField::HoldRule], "SAG");
-        dialog.show();
-        QVERIFY(Child<QCheckBox>(dialog, "SAGCheck")->isChecked());
-    }
-    void editElementAssignments()
-    {
-        ScheduleDocument &doc = small();
-        TfrmAddElement dialog(doc);
-        dialog.editIndex = 1; // ANNA, in scene 2
-        dialog.show();
         auto *list = Child<QListWidget>(dialog, "AssignList");
         QCOMPARE(list->count(), 3);
         QCOMPARE(list->item(1)->checkState(), Qt::Checked);
         list->item(1)->setCheckState(Qt::Unchecked);
         list->item(0)->setCheckState(Qt::Checked);
+        // Made a cast member, it gets the next cast number.
+        categories->setFocus();
+        while (categories->currentIndex() > 0)
+            QTest::keyClick(categories, Qt::Key_Up);
+        QCOMPARE(Child<QLineEdit>(dialog, "IDEdit")->text(), "4");
+        QVERIFY(Child<QCheckBox>(dialog, "ShowCheck")->isChecked());
+        // The number of another cast member: asked, and No keeps the dialog open.
+        Child<QLineEdit>(dialog, "IDEdit")->setText("3");
+        prompter->answers = {Answer::No};
         click(dialog, "OKBut");
-        QCOMPARE(doc.strips[1][StripField::Assignments], "1");
-        QCOMPARE(doc.strips[2][StripField::Assignments], "4");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(prompter->prompts.size(), 1);
+        const ScheduleDocument &doc = *docp;
+        QCOMPARE(doc.elements[4][ElementField::BoardId], "Prp");
+        click(dialog, "OKBut"); // Yes this time
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(doc.elements[4][ElementField::CategoryNumber], "1");
+        QCOMPARE(doc.elements[4][ElementField::BoardId], "3");
+        QCOMPARE(doc.elements[4][ElementField::PrintOnBoard], "1");
+        QCOMPARE(doc.strips[1][StripField::Assignments], "4");
+        QCOMPARE(doc.strips[2][StripField::Assignments], "1");
     }
+    // Abort in the divider warning still sorts, as in the earlier edition.
     void sortDialog()
     {
         ScheduleDocument &doc = *docp;
-        for (const char *loc : {"PIER", "BARN", "ATTIC"}) {
-            const int row = AddScene(doc, loc, "1");
-            doc.strips[row].set(StripField::Location, loc);
+        const QStringList scenes{"10", "2", "1"}, locations{"PIER", "BARN", "ATTIC"};
+        for (int i = 0; i < 3; ++i) {
+            doc.strips[AddScene(doc, scenes[i], "1")].set(StripField::Location, locations[i]);
+            if (i == 0)
+                AddDivider(doc);
         }
         TfrmSort dialog(doc);
         dialog.show();
@@ -431,33 +384,20 @@ private Q_SLOTS:
         QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
         click(dialog, "SortBut");
         QCOMPARE(column(grid, 2), QStringList({"ATTIC", "BARN", "PIER"}));
-        QCOMPARE(column(grid, 0), QStringList({"3", "2", "1"}));
         QVERIFY(Child<QPushButton>(dialog, "OKBut")->isEnabled());
         click(dialog, "UnSortBut");
         QCOMPARE(column(grid, 2), QStringList({"PIER", "BARN", "ATTIC"}));
         QVERIFY(!Child<QPushButton>(dialog, "OKBut")->isEnabled());
-        click(dialog, "SortBut");
-        click(dialog, "OKBut");
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(doc.strips[1][StripField::SceneNumber], "ATTIC");
-        QCOMPARE(doc.strips[3][StripField::SceneNumber], "PIER");
-    }
-    void sortAbortStillSorts()
-    {
-        ScheduleDocument &doc = *docp;
-        AddScene(doc, "10", "1");
-        AddDivider(doc);
-        AddScene(doc, "2", "1");
-        TfrmSort dialog(doc);
-        dialog.show();
         Child<QComboBox>(dialog, "HighCombo")->setCurrentIndex(1); // Scene number
         click(dialog, "SortBut");
+        QCOMPARE(column(grid, 1), QStringList({"1", "2", "10"}));
         prompter->answers = {Answer::Abort};
         click(dialog, "OKBut");
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
-        QCOMPARE(Kinds(doc), "1 1");
-        QCOMPARE(doc.strips[1][StripField::SceneNumber], "2");
+        QCOMPARE(Kinds(doc), "1 1 1");
+        QCOMPARE(doc.strips[1][StripField::SceneNumber], "1");
+        QCOMPARE(doc.strips[3][StripField::SceneNumber], "10");
     }
     void conformDialog()
     {
@@ -475,10 +415,8 @@ private Q_SLOTS:
         auto *grid = Child<QTableWidget>(dialog, "ConformGrid");
         QCOMPARE(grid->rowCount(), 5);
         QVERIFY(grid->isColumnHidden(2));
-        QCOMPARE(grid->item(1, 1)->text(), "--- Divider ---");
         QCOMPARE(grid->item(1, 0)->background().color(), QColor(Qt::black));
         QCOMPARE(grid->item(3, 0)->background().color(), QColor(0xEF, 0x6F, 0x00));
-        QCOMPARE(grid->item(0, 0)->foreground().color(), QColor(Qt::black));
 
         // Delete the empty line the refused entry left, then the divider.
         grid->setFocus();
@@ -503,21 +441,26 @@ private Q_SLOTS:
         doc.values.PictureTitle = "Rain";
         doc.values.CompanyAddress = "\"1 Quay St\",Islay";
         doc.crew[2].set(CrewField::Name, "Lo");
+        doc.values.LogoFile = TempPath("gone.png");
+        TfrmProdInfo dialog(doc);
+        dialog.show();
+        QCOMPARE(prompter->prompts.size(), 1); // the broken link, worded in the core's tests
+        QCOMPARE(Child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
+        QCOMPARE(Child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
+        auto *crew = Child<QTableWidget>(dialog, "CrewGrid");
+        QCOMPARE(crew->item(1, 1)->text(), "Lo");
+
+        // A chosen picture shows; a chosen file that is no picture is still taken over by OK.
         const QString logo = TempPath("logo.jpg");
         QImage picture(60, 30, QImage::Format_RGB32);
         picture.fill(Qt::blue);
         QVERIFY(picture.save(logo));
-        doc.values.LogoFile = logo;
-
-        TfrmProdInfo dialog(doc);
-        dialog.show();
-        QCOMPARE(Child<QLineEdit>(dialog, "TitleEdit")->text(), "Rain");
-        QCOMPARE(Child<QPlainTextEdit>(dialog, "MiscMemo")->toPlainText(), "1 Quay St\nIslay");
-        QCOMPARE(Child<QLineEdit>(dialog, "UnitEdit")->text(), "8:00 am");
+        dialog.loadChosenLogo(logo);
         QVERIFY(!Child<QLabel>(dialog, "Image1")->pixmap().isNull());
-        auto *crew = Child<QTableWidget>(dialog, "CrewGrid");
-        QCOMPARE(crew->rowCount(), 50);
-        QCOMPARE(crew->item(1, 1)->text(), "Lo");
+        const QString text = TempPath("notes.jpg");
+        QVERIFY(WriteBytes(text, "not a picture"));
+        dialog.loadChosenLogo(text);
+        QCOMPARE(prompter->prompts.size(), 2);
 
         Child<QLineEdit>(dialog, "TitleEdit")->setText("Storm");
         Child<QPlainTextEdit>(dialog, "MiscMemo")->setPlainText("a\nb, c\nd");
@@ -529,24 +472,6 @@ private Q_SLOTS:
         QCOMPARE(doc.values.CompanyAddress, "a,\"b, c\",d");
         QCOMPARE(doc.crew[50][CrewField::Position], "Runner");
         QCOMPARE(doc.crew[2][CrewField::Name], "");
-        QCOMPARE(doc.values.LogoFile, logo);
-    }
-    void productionDetailsBrokenLogo()
-    {
-        ScheduleDocument &doc = *docp;
-        doc.values.LogoFile = TempPath("gone.png");
-        doc.values.Company = "Brenholt";
-        TfrmProdInfo dialog(doc);
-        dialog.show();
-        QCOMPARE(prompter->prompts.size(), 1); // the broken link, worded in the core's tests
-        QCOMPARE(Child<QLineEdit>(dialog, "CompanyEdit")->text(), "Brenholt");
-
-        // A chosen file that is no picture is still taken over by OK.
-        const QString text = TempPath("notes.jpg");
-        QVERIFY(WriteBytes(text, "not a picture"));
-        dialog.loadChosenLogo(text);
-        QCOMPARE(prompter->prompts.size(), 2);
-        click(dialog, "OKBut");
         QCOMPARE(doc.values.LogoFile, text);
     }
 };

