@@ -41,7 +41,6 @@ private Q_SLOTS:
         QCOMPARE(field(doc, 3, StripField::PageLength), "1.875");
         QCOMPARE(field(doc, 5, StripField::PageLength), "2");
         QCOMPARE(field(doc, 5, StripField::ShootDayNumber), "2");
-        QCOMPARE(field(doc, 3, StripField::SceneNumber), "");
         QCOMPARE(doc.days.dividers, 2);
         QCOMPARE(status.panels.value(StatusSink::DaysPanel), " Production: 2 days.  Shoot: 2 days");
 

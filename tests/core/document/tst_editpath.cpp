@@ -58,6 +58,11 @@ void Board(ScheduleDocument &doc)
     SetModified(doc);
 }
 
+Operation op(const Operation &operation)
+{
+    return operation;
+}
+
 Operation strip(int first, int last, const Operation &op)
 {
     return [=](ScheduleDocument &doc) {
@@ -90,72 +95,55 @@ private Q_SLOTS:
         // firstStrip: the scroll asked of the board, 0 none
         Columns<Operation, QString, int>("operation", "label", "firstStrip");
 
+        const Operation copyPaste = [](ScheduleDocument &d) {
+            CopySelection(d);
+            Paste(d);
+        };
         const BannerContent banner{QStringLiteral("Move"), {QStringLiteral("clRed"), QStringLiteral("clWhite")}, 0};
-        Row("add scene", Operation([](auto &d) { (void)SaveScene(d, SceneMode::Add, 0, BlankScenePage(), {}); }),
-            QString("add new scene"), 2);
-        Row("edit scene", Operation([](auto &d) { (void)SaveScene(d, SceneMode::Edit, 1, BlankScenePage(), {}); }),
-            QString("edit scene"), 0);
-        Row("apply scene", Operation([](auto &d) { (void)ApplyScene(d, SceneMode::Insert, 2, BlankScenePage(), {}); }),
-            QString("add / edit scene"), 0);
-        Row("add divider", Operation([](auto &d) { (void)AddDayDivider(d); }), QString("Add day divider"), 4);
-        Row("insert divider", strip(2, 2, [](auto &d) { (void)InsertDayDivider(d); }), QString("Insert day divider"),
+        Row("add scene", op([](auto &d) { (void)SaveScene(d, SceneMode::Add, 0, BlankScenePage(), {}); }),
+            "add new scene", 2);
+        Row("edit scene", op([](auto &d) { (void)SaveScene(d, SceneMode::Edit, 1, BlankScenePage(), {}); }),
+            "edit scene", 0);
+        Row("insert scene", op([](auto &d) { (void)SaveScene(d, SceneMode::Insert, 2, BlankScenePage(), {}); }),
+            "add new scene", 0);
+        Row("apply scene", op([](auto &d) { (void)ApplyScene(d, SceneMode::Insert, 2, BlankScenePage(), {}); }),
+            "add / edit scene", 0);
+        Row("add divider", op([](auto &d) { (void)AddDayDivider(d); }), "Add day divider", 4);
+        Row("insert divider", strip(2, 2, [](auto &d) { (void)InsertDayDivider(d); }), "Insert day divider", 0);
+        Row("remove dividers", op([](auto &d) { RemoveAllDayDividers(d); }), "Remove all day dividers", 1);
+        Row("auto dividers", op([](auto &d) { (void)AutoDayDividers(d, {}); }), "auto day dividers", 1);
+        Row("add banner", op([=](auto &d) { (void)WriteBanner(d, BannerAddAtEnd, banner); }), "Add banner", 3);
+        Row("insert banner", strip(1, 1, [=](auto &d) { (void)WriteBanner(d, BannerInsert, banner); }), "Insert banner",
             0);
-        Row("remove dividers", Operation([](auto &d) { RemoveAllDayDividers(d); }), QString("Remove all day dividers"),
-            1);
-        Row("auto dividers", Operation([](auto &d) { (void)AutoDayDividers(d, {}); }), QString("auto day dividers"), 1);
-        Row("add banner", Operation([=](auto &d) { (void)WriteBanner(d, BannerAddAtEnd, banner); }),
-            QString("Add banner"), 3);
-        Row("insert banner", strip(1, 1, [=](auto &d) { (void)WriteBanner(d, BannerInsert, banner); }),
-            QString("Insert banner"), 0);
-        Row("edit banner", strip(5, 5, [=](auto &d) { (void)WriteBanner(d, BannerEdit, banner); }),
-            QString("Edit banner"), 0);
-        Row("remove banners", Operation([](auto &d) { RemoveAllBanners(d); }), QString("Remove all banners"), 1);
-        Row("move strip", strip(1, 1, [](auto &d) { MoveStrips(d, 4); }), QString("Move strip"), 0);
-        Row("move strips", strip(1, 2, [](auto &d) { MoveStrips(d, 6); }), QString("Move strips"), 0);
-        Row("cut strips", strip(1, 2, [](auto &d) { Cut(d); }), QString("Cut strip(s)"), 0);
-        Row("cut element", element(2, [](auto &d) { Cut(d); }), QString("Cut element"), 0);
-        Row("paste strips",
-            strip(1, 1,
-                  [](auto &d) {
-                      CopySelection(d);
-                      Paste(d);
-                  }),
-            QString("Paste strip(s)"), 0);
-        Row("paste element",
-            element(1,
-                    [](auto &d) {
-                        CopySelection(d);
-                        Paste(d);
-                    }),
-            QString("Paste element"), 0);
-        Row("delete strips", strip(2, 3, [](auto &d) { Delete(d); }), QString("Delete strip(s)"), 0);
-        Row("delete element", element(1, [](auto &d) { Delete(d); }), QString("Delete element"), 0);
-        Row("sort strips", Operation([](auto &d) { UpdateStrips(d, SortPreviewRows(d)); }), QString("sort strips"), 1);
-        Row("sort elements", Operation([](auto &d) { SortElementsByCategory(d); }), QString("sort elements"), 0);
-        Row("cast numbering", Operation([](auto &d) { ResetCastNumbering(d); }), QString("re-order elements"), 0);
-        Row("sheet numbering", Operation([](auto &d) { ResetBreakdownNumbering(d); }),
-            QString("reset breakdown numbering"), 0);
-        Row("conform", Operation([](auto &d) {
+        Row("edit banner", strip(5, 5, [=](auto &d) { (void)WriteBanner(d, BannerEdit, banner); }), "Edit banner", 0);
+        Row("remove banners", op([](auto &d) { RemoveAllBanners(d); }), "Remove all banners", 1);
+        Row("move strip", strip(1, 1, [](auto &d) { MoveStrips(d, 4); }), "Move strip", 0);
+        Row("move strips", strip(1, 2, [](auto &d) { MoveStrips(d, 6); }), "Move strips", 0);
+        Row("cut strips", strip(1, 2, [](auto &d) { Cut(d); }), "Cut strip(s)", 0);
+        Row("cut element", element(2, [](auto &d) { Cut(d); }), "Cut element", 0);
+        Row("paste strips", strip(1, 1, copyPaste), "Paste strip(s)", 0);
+        Row("paste element", element(1, copyPaste), "Paste element", 0);
+        Row("delete strips", strip(2, 3, [](auto &d) { Delete(d); }), "Delete strip(s)", 0);
+        Row("delete element", element(1, [](auto &d) { Delete(d); }), "Delete element", 0);
+        Row("sort strips", op([](auto &d) { UpdateStrips(d, SortPreviewRows(d)); }), "sort strips", 1);
+        Row("sort elements", op([](auto &d) { SortElementsByCategory(d); }), "sort elements", 0);
+        Row("cast numbering", op([](auto &d) { ResetCastNumbering(d); }), "re-order elements", 0);
+        Row("sheet numbering", op([](auto &d) { ResetBreakdownNumbering(d); }), "reset breakdown numbering", 0);
+        Row("conform", op([](auto &d) {
                 ConformList list;
                 list.reset(d);
                 list.enter(d.prompter(), "2");
                 list.apply(d);
             }),
-            QString("conform strips"), 0);
-        Row("end of day", Operation([](auto &d) {
-                (void)ApplyEndOfDay(d, QDate(2026, 3, 6), {{1, true}});
-            }),
-            QString("end of day"), 0);
+            "conform strips", 0);
+        Row("end of day", op([](auto &d) { (void)ApplyEndOfDay(d, QDate(2026, 3, 6), {{1, true}}); }), "end of day", 0);
         // Changes without undo.
-        Row("start date", Operation([](auto &d) { ApplyStartDate(d, QDate(2026, 4, 1), QDate(2026, 1, 1)); }),
-            QString(), 0);
-        Row("rest days", Operation([](auto &d) { (void)ApplyRestDayRule(d, "D17"); }), QString(), 0);
-        Row("lock strips", strip(1, 2, [](auto &d) { (void)LockStrips(d, QDate(2026, 3, 9)); }), QString(), 0);
-        Row("production details", Operation([](auto &d) { WriteProductionDetails(d, ReadProductionDetails(d)); }),
-            QString(), 0);
-        Row("element", Operation([](auto &d) { (void)RecordElement(d, 1, ElementPageFromRecord(d.elements[1]), {}); }),
-            QString(), 0);
-        Row("rest days to banners", Operation([](auto &d) { ConvertAutoRestDaysToBanners(d, {}); }), QString(), 0);
+        Row("start date", op([](auto &d) { ApplyStartDate(d, QDate(2026, 4, 1), QDate(2026, 1, 1)); }), "", 0);
+        Row("rest days", op([](auto &d) { (void)ApplyRestDayRule(d, "D17"); }), "", 0);
+        Row("lock strips", strip(1, 2, [](auto &d) { (void)LockStrips(d, QDate(2026, 3, 9)); }), "", 0);
+        Row("production details", op([](auto &d) { WriteProductionDetails(d, ReadProductionDetails(d)); }), "", 0);
+        Row("element", op([](auto &d) { (void)RecordElement(d, 1, ElementPageFromRecord(d.elements[1]), {}); }), "", 0);
+        Row("rest days to banners", op([](auto &d) { ConvertAutoRestDaysToBanners(d, {}); }), "", 0);
     }
 
     void oneSnapshotOneRecalculationOneNotification()

@@ -1,7 +1,14 @@
 #include "SchedulingTestView.h"
 
+#include "board/DrawBoard.h"
+#include "document/ScheduleFile.h"
+#include "document/UndoStore.h"
 #include "scheduling/Calendar.h"
+#include "scheduling/EndOfDay.h"
 #include "scheduling/StripLocking.h"
+
+#include <QImage>
+#include <QPainter>
 
 using namespace tb;
 using namespace tb::test;
@@ -25,7 +32,6 @@ private Q_SLOTS:
         QVERIFY(ApplyStartDate(f.doc, Friday, Friday));
         QCOMPARE(f.doc.values.StartDate, "46087");
         QVERIFY(f.prompter.prompts.isEmpty()); // today is not later than the date
-        f.view.selectionAtRepaint.clear();
         QVERIFY(ApplyRestDayRule(f.doc, "D76").ok());
         QCOMPARE(f.doc.values.AutoRestDayRule, "D67"); // digits in order
 
@@ -33,7 +39,6 @@ private Q_SLOTS:
         QCOMPARE(Kinds(f.doc), "1 2 3 3 1 2 1 2");
         QCOMPARE(f.doc.strips[6][StripField::SceneNumber], "Mon, March 9, 2026");
         QCOMPARE(FirstProductionDayText(f.doc), "First day of production is currently a Friday.");
-        QCOMPARE(f.view.selectionAtRepaint.size(), 1); // the rule repaints the board
     }
     void startDateBeforeToday_data()
     {
@@ -140,14 +145,13 @@ private Q_SLOTS:
         QCOMPARE(f.doc.values.AutoRestDayRule, "S6");
         QVERIFY(!f.doc.Modified);
     }
-    void lockBeforeTheStartDate()
+    void lockAndUnlock()
     {
         Fixture f;
         f.doc.values.StartDate = FridayMarch6;
         Build(f.doc, ThreeDays);
         f.doc.SelStart = 4;
         f.doc.SelEnd = 2; // a selection made leftwards
-        f.doc.Modified = false;
         QVERIFY(LockStrips(f.doc, Earlier).ok());
         QCOMPARE(f.prompter.texts(), QStringList{"Errr? The date you have selected is before the production start "
                                                  "date!\r\rYou must enter a date that is on or after 3/6/2026."});
@@ -158,13 +162,23 @@ private Q_SLOTS:
             locks.append(f.doc.strips[i][StripField::LockDate]);
         QCOMPARE(locks, (QStringList{"", "1/1/2026", "1/1/2026", "1/1/2026", "", ""}));
         QCOMPARE(LockDateOf(f.doc, 3), Earlier);
-        QVERIFY(f.doc.Modified);
 
         // On the start date itself: no warning.
         f.prompter.prompts.clear();
         QVERIFY(LockStrips(f.doc, Friday).ok());
         QVERIFY(f.prompter.prompts.isEmpty());
         QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
+
+        // Unlocking clears the selected strips only, and marks the document modified even
+        // when there is nothing left to clear.
+        f.doc.SelStart = 3;
+        f.doc.SelEnd = 4;
+        UnlockStrips(f.doc);
+        QCOMPARE(f.doc.strips[2][StripField::LockDate], "3/6/2026");
+        QCOMPARE(f.doc.strips[3][StripField::LockDate], "");
+        f.doc.Modified = false;
+        UnlockStrips(f.doc);
+        QVERIFY(f.doc.Modified);
     }
     void lockNeedsAStartDate()
     {
@@ -182,27 +196,9 @@ private Q_SLOTS:
         QCOMPARE(f.doc.strips[1][StripField::LockDate], "");
         QVERIFY(!f.doc.Modified);
     }
-    void unlockMarksModified()
-    {
-        Fixture f;
-        f.doc.values.StartDate = FridayMarch6;
-        Build(f.doc, ThreeDays);
-        f.doc.strips[1].set(StripField::LockDate, "3/9/2026");
-        f.doc.strips[2].set(StripField::LockDate, "3/9/2026");
-        f.doc.SelStart = 2;
-        f.doc.SelEnd = 3;
-        UnlockStrips(f.doc);
-        QCOMPARE(f.doc.strips[1][StripField::LockDate], "3/9/2026");
-        QCOMPARE(f.doc.strips[2][StripField::LockDate], "");
-        // Nothing left to unlock: still marked modified.
-        f.doc.Modified = false;
-        UnlockStrips(f.doc);
-        QVERIFY(f.doc.Modified);
-    }
     void holdDays()
     {
         Fixture f;
-        QCOMPARE(f.doc.values.HoldDays, 10);
         QVERIFY(SetHoldDays(f.doc, 999).ok());
         QCOMPARE(f.doc.values.HoldDays, 999);
         QVERIFY(!f.doc.Modified);
@@ -210,7 +206,64 @@ private Q_SLOTS:
         QVERIFY(!SetHoldDays(f.doc, 1000).ok());
         QCOMPARE(f.doc.values.HoldDays, 999);
     }
+    // End of day: day 1 holds scenes 1 and 2, day 2 scene 3.
+    void endOfDay_data()
+    {
+        // before, after: the shot dates of scenes 1 and 2
+        Columns<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
+        Row("tick both", ",", true, true, "46087,46087");
+        Row("untick clears", "46087,46087", true, false, "46087,");
+        // A scene already marked keeps the day it was first marked shot.
+        Row("earlier mark kept", "46000,", true, true, "46000,46087");
+    }
+    void endOfDay()
+    {
+        auto [before, tick1, tick2, after] = Fetch<QString, bool, bool, QString>("before", "tick1", "tick2", "after");
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, {"1", "1", "|", "1"});
+        f.doc.strips[1].set(StripField::Reserved12, before.section(u',', 0, 0));
+        f.doc.strips[2].set(StripField::Reserved12, before.section(u',', 1, 1));
+        QCOMPARE(SceneStripsOn(f.doc, Friday), (QList<int>{1, 2}));
+        QVERIFY(ApplyEndOfDay(f.doc, Friday, {{1, tick1}, {2, tick2}}).ok());
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], after);
+        QCOMPARE(IsShot(f.doc.strips[2]), tick2);
+        QVERIFY(!IsShot(f.doc.strips[4]));
+        Undo(f.doc);
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], before);
+
+        // Only scenes, and only on a date.
+        QVERIFY(!ApplyEndOfDay(f.doc, Friday, {{1, true}, {3, true}}).ok());
+        QVERIFY(!ApplyEndOfDay(f.doc, QDate(), {{1, true}}).ok());
+        QCOMPARE(f.doc.strips[1][StripField::Reserved12] + u',' + f.doc.strips[2][StripField::Reserved12], before);
+    }
+    void shotScenesKeptThroughSaveAndOpen()
+    {
+        Fixture f;
+        f.doc.values.StartDate = FridayMarch6;
+        Build(f.doc, {"1", "1", "|", "1"});
+        QVERIFY(ApplyEndOfDay(f.doc, Friday.addDays(1), {{4, true}}).ok());
+        const QString path = TempPath(QStringLiteral("shot.tbf"));
+        QVERIFY(SaveDocument(f.doc, path).ok());
+        ScheduleDocument reopened;
+        QVERIFY(OpenDocument(reopened, path).ok());
+        QCOMPARE(ShotDate(reopened.strips[4]), Friday.addDays(1));
+        QVERIFY(!IsShot(reopened.strips[1]));
+
+        // The board marks the shot scene in its header, and only there.
+        QImage plain(400, 300, QImage::Format_RGB32), marked(400, 300, QImage::Format_RGB32);
+        {
+            QPainter p(&marked);
+            DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
+        }
+        reopened.strips[4].set(StripField::Reserved12, QString());
+        {
+            QPainter p(&plain);
+            DrawBoard(reopened, ClassicBoardStyle(), BoardDrawOptions(), p);
+        }
+        QVERIFY(plain != marked);
+    }
 };
 
-TB_TEST_GUILESS_MAIN(TestCalendar)
+TB_TEST_MAIN(TestCalendar)
 #include "tst_calendar.moc"
