@@ -201,6 +201,17 @@ private Q_SLOTS:
         QCOMPARE(trace, QStringList{why}); // the detail goes to the trace
     }
 
+    // A Formname system field shows the template's file name, without its folder.
+    void formNameFieldsGetTheFileName()
+    {
+        const QString path = TempPath("forms/Day 1 sheet.dfm");
+        QVERIFY(WriteBytes(path, "object F: TForm\n  object R: TAlReport\n  end\n  object B: tAlBand\n"
+                                 "    object S: TAlSysField\n      DataType = alr_Formname\n    end\n  end\nend\n"));
+        auto loaded = LoadTemplate(path);
+        QVERIFY2(loaded.ok(), qPrintable(loaded.message()));
+        QCOMPARE(static_cast<TAlSysField *>(loaded.value()->find(QStringLiteral("S")))->formName, "Day 1 sheet.dfm");
+    }
+
     void shippedTemplatesLoad_data()
     {
         // lacking: the fields its report fills that the template leaves out
