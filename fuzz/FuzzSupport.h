@@ -1,7 +1,7 @@
 #pragma once
 
 // Shared by the fuzz targets: a quiet document, and a scratch file for the readers
-// that take a path.
+// that take a path. FuzzSupport.cpp starts the Qt application for all of them.
 
 #include "document/DocumentView.h"
 #include "document/Prompter.h"
@@ -20,6 +20,14 @@ class SilentPrompter : public Prompter
 {
 public:
     PromptReply ask(const Prompt &prompt) override { return {Answer::Yes, prompt.checkBoxChecked}; }
+};
+
+// A document whose every question is answered Yes, with no window.
+struct QuietDocument
+{
+    SilentPrompter prompter; // declared first: it outlives the document
+    ScheduleDocument doc;
+    QuietDocument() { doc.setPrompter(&prompter); }
 };
 
 // A path private to this process on a memory file system when there is one.

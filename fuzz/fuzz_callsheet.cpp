@@ -6,8 +6,6 @@
 
 #include "reports/CallSheetFile.h"
 
-#include <QCoreApplication>
-
 using namespace tb;
 
 namespace {
@@ -21,12 +19,6 @@ CallSheet SheetWithRows()
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    static QCoreApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -7,15 +7,7 @@
 #include "document/ScheduleFile.h"
 #include "import/FinalDraftImport.h"
 
-#include <QCoreApplication>
-
 using namespace tb;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    static QCoreApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -25,9 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString scenes = fuzz::WriteScratch("scenes.txt", data, split);
     const size_t rest = split < size ? split + 1 : size;
     const QString script = fuzz::WriteScratch("script.txt", data + rest, size - rest);
-    ScheduleDocument doc;
-    fuzz::SilentPrompter prompter;
-    doc.setPrompter(&prompter);
+    fuzz::QuietDocument quiet;
+    ScheduleDocument &doc = quiet.doc;
     NewDocument(doc);
     (void)ImportFinalDraft(doc, scenes, script);
     (void)ScheduleFileLines(doc);

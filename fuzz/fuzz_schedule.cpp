@@ -4,22 +4,13 @@
 
 #include "document/ScheduleFile.h"
 
-#include <QCoreApplication>
-
 using namespace tb;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    static QCoreApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString path = fuzz::WriteScratch("in.tbf", data, size);
-    ScheduleDocument doc;
-    fuzz::SilentPrompter prompter;
-    doc.setPrompter(&prompter);
+    fuzz::QuietDocument quiet;
+    ScheduleDocument &doc = quiet.doc;
     (void)OpenDocument(doc, path);
     (void)ScheduleFileLines(doc);
     return 0;

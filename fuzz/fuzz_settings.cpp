@@ -4,15 +4,7 @@
 
 #include "document/Settings.h"
 
-#include <QCoreApplication>
-
 using namespace tb;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    static QCoreApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

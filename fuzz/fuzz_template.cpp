@@ -8,16 +8,7 @@
 #include "reports/AlReport.h"
 #include "reports/DfmParser.h"
 
-#include <QGuiApplication>
-
 using namespace tb;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -7,22 +7,13 @@
 #include "import/ImportText.h"
 #include "import/ScriptImport.h"
 
-#include <QCoreApplication>
-
 using namespace tb;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    static QCoreApplication app(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
-    ScheduleDocument doc;
-    fuzz::SilentPrompter prompter;
-    doc.setPrompter(&prompter);
+    fuzz::QuietDocument quiet;
+    ScheduleDocument &doc = quiet.doc;
     ScriptImportSettings settings;
     // The first byte picks the lines per page, as the wizard's box allows 1..99.
     if (size > 0)
