@@ -5,6 +5,7 @@
 #include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
+#include "document/StripWords.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -29,30 +30,6 @@ QString kindText(const StripRecord &strip)
     if (strip.isBanner())
         return QStringLiteral("Banner");
     return QStringLiteral("Unknown");
-}
-
-QString intExtText(const QString &code)
-{
-    if (code == QLatin1String("I"))
-        return QStringLiteral("INT");
-    if (code == QLatin1String("E"))
-        return QStringLiteral("EXT");
-    if (code == QLatin1String("I/E"))
-        return QStringLiteral("INT/EXT");
-    return code;
-}
-
-QString dayNightText(const QString &code)
-{
-    if (code == QLatin1String("D"))
-        return QStringLiteral("DAY");
-    if (code == QLatin1String("N"))
-        return QStringLiteral("NIGHT");
-    if (code == QLatin1String("DWN"))
-        return QStringLiteral("DAWN");
-    if (code == QLatin1String("DSK"))
-        return QStringLiteral("DUSK");
-    return code;
 }
 
 // A page length in whole eighths, rounded as the board shows it.
@@ -302,13 +279,13 @@ private:
         const QString colours = bandStyle(s, m_style);
         if (s.isScene()) {
             openDay(s);
-            QString setting = intExtText(s[StripField::IntExt]);
+            QString setting = IntExtWordOrCode(s[StripField::IntExt]);
             if (!setting.isEmpty())
                 setting += QStringLiteral(". ");
             setting += s[StripField::Location].toUpper();
             if (!s[StripField::SetName].isEmpty())
                 setting += QStringLiteral(" (") + s[StripField::SetName] + u')';
-            const QString dayNight = dayNightText(s[StripField::DayNight]);
+            const QString dayNight = DayNightWordOrCode(s[StripField::DayNight]);
             if (!dayNight.isEmpty())
                 setting += QStringLiteral(" - ") + dayNight;
             m_out += QStringLiteral("<div class=\"strip\" style=\"") + colours + QStringLiteral("\">");
@@ -422,8 +399,8 @@ QByteArray BoardCsv(const ScheduleDocument &doc)
                         day > 0 ? QString::number(shootingDayOf(s)) : QString(),
                         date.isValid() ? date.toString(Qt::ISODate) : QString(),
                         scene ? s[StripField::SceneNumber] : QString(),
-                        intExtText(s[StripField::IntExt]),
-                        dayNightText(s[StripField::DayNight]),
+                        IntExtWordOrCode(s[StripField::IntExt]),
+                        DayNightWordOrCode(s[StripField::DayNight]),
                         s[StripField::SetName],
                         s[StripField::Location],
                         s[StripField::Synopsis],

@@ -3,6 +3,7 @@
 #include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
+#include "document/StripWords.h"
 
 #include <QFontMetrics>
 #include <QHash>
@@ -378,22 +379,12 @@ QString StripHintText(const StripRecord &strip)
     if (kind == StripKinds::Scene) {
         const QString &ie = strip[StripField::IntExt];
         const QString &dn = strip[StripField::DayNight];
-        QString setting;
-        if (ie == QLatin1String("I"))
-            setting = QStringLiteral("INT. ");
-        else if (ie == QLatin1String("E"))
-            setting = QStringLiteral("EXT. ");
-        else if (ie == QLatin1String("I/E"))
-            setting = QStringLiteral("INT/EXT. ");
+        const QString intExt = IntExtWord(ie);
+        const QString dayNight = DayNightWord(dn);
+        QString setting = intExt.isEmpty() ? QString() : intExt + QStringLiteral(". ");
         setting += strip[StripField::Location].toUpper();
-        if (dn == QLatin1String("D"))
-            setting += QStringLiteral(" - DAY");
-        else if (dn == QLatin1String("N"))
-            setting += QStringLiteral(" - NIGHT");
-        else if (dn == QLatin1String("DWN"))
-            setting += QStringLiteral(" - DAWN");
-        else if (dn == QLatin1String("DSK"))
-            setting += QStringLiteral(" - DUSK");
+        if (!dayNight.isEmpty())
+            setting += QStringLiteral(" - ") + dayNight;
         return QStringLiteral("Scene: ") + strip[StripField::SceneNumber] + u'\r' + setting + u'\r' +
                strip[StripField::Synopsis];
     }

@@ -11,6 +11,7 @@
 #include "document/AssignmentList.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
+#include "document/StripWords.h"
 
 namespace tb {
 
@@ -205,7 +206,7 @@ ResultOf<BuiltReport> CreateBreakdownPages(ScheduleDocument &doc, const Breakdow
         }
         // After the values above, those of this program's sheet: INT/EXT, the cast as
         // "id - name", the heading's colour and what continues below the sheet.
-        report.AddNamedValue(QStringLiteral("IntExtField"), reportdetail::IntExtWord(strip[StripField::IntExt]));
+        report.AddNamedValue(QStringLiteral("IntExtField"), IntExtWordOrCode(strip[StripField::IntExt]));
         if (!assignedRead)
             assigned = AssignedElementFlags(doc, row);
         QStringList cast;

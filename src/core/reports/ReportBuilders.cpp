@@ -112,17 +112,6 @@ QString LinesText(const QStringList &lines)
     return text;
 }
 
-QString IntExtWord(const QString &intExt)
-{
-    if (intExt == QLatin1String("I"))
-        return QStringLiteral("INT");
-    if (intExt == QLatin1String("E"))
-        return QStringLiteral("EXT");
-    if (intExt == QLatin1String("I/E"))
-        return QStringLiteral("INT/EXT");
-    return intExt;
-}
-
 ResultOf<int> FieldNumber(const QString &text)
 {
     bool ok = false;

@@ -153,10 +153,6 @@ private:
 // Lines as a text of the string-list form: each line followed by CR LF.
 QString LinesText(const QStringList &lines);
 
-// A strip's interior/exterior code as the reports print it: "INT", "EXT", "INT/EXT";
-// any other text as it stands.
-QString IntExtWord(const QString &intExt);
-
 // A whole number read from a field, as the text-to-number routine reads it; failure
 // carries its conversion message ("'x' is not a valid integer value").
 ResultOf<int> FieldNumber(const QString &text);

@@ -10,6 +10,7 @@
 #include "document/DayCalculation.h"
 #include "document/DocumentOperations.h"
 #include "document/LegacyText.h"
+#include "document/StripWords.h"
 
 #include <QHash>
 #include <QSet>
@@ -172,26 +173,14 @@ private:
 
     static QString locationPrefix(const QString &intExt)
     {
-        if (intExt == QLatin1String("I"))
-            return QStringLiteral("INT - ");
-        if (intExt == QLatin1String("E"))
-            return QStringLiteral("EXT - ");
-        if (intExt == QLatin1String("I/E"))
-            return QStringLiteral("INT/EXT - ");
-        return QString();
+        const QString word = IntExtWord(intExt);
+        return word.isEmpty() ? QString() : word + QStringLiteral(" - ");
     }
 
     static QString locationSuffix(const QString &dayNight)
     {
-        if (dayNight == QLatin1String("D"))
-            return QStringLiteral(" - DAY");
-        if (dayNight == QLatin1String("N"))
-            return QStringLiteral(" - NIGHT");
-        if (dayNight == QLatin1String("DWN"))
-            return QStringLiteral(" - DAWN");
-        if (dayNight == QLatin1String("DSK"))
-            return QStringLiteral(" - DUSK");
-        return QString();
+        const QString word = DayNightWord(dayNight);
+        return word.isEmpty() ? QString() : QStringLiteral(" - ") + word;
     }
 
     Result pushScene(int row, int d)
@@ -268,7 +257,7 @@ private:
         // The columns of this program's templates: each value on its own, so a template
         // can give it a column, and no label where there is no value.
         push("SceneNoField", strip[StripField::SceneNumber]);
-        push("IntExtField", reportdetail::IntExtWord(strip[StripField::IntExt]));
+        push("IntExtField", IntExtWordOrCode(strip[StripField::IntExt]));
         push("SetLocField", strip[StripField::Location].trimmed().isEmpty() ? strip[StripField::SetName]
                                                                             : strip[StripField::Location]);
         push("DNField", dayNightWord(strip[StripField::DayNight]));
