@@ -94,10 +94,12 @@ Result WriteFileAtomically(const QString &path, QByteArrayView bytes)
 
 Result WriteFileAtomically(const QString &path, QByteArrayView bytes)
 {
-    const QByteArray target = QFile::encodeName(path);
-    if (target.isEmpty())
+    if (path.isEmpty())
         return Result::failure(causeText(ENOENT));
-    const QFileInfo info(path);
+    // Saving through a link replaces the file it points to, and the link stays.
+    const QFileInfo given(path);
+    const QFileInfo info(given.isSymLink() && given.exists() ? given.canonicalFilePath() : path);
+    const QByteArray target = QFile::encodeName(info.filePath());
     if (info.isDir())
         return Result::failure(causeText(EISDIR));
     const QByteArray folder = QFile::encodeName(info.absolutePath());
@@ -108,10 +110,9 @@ Result WriteFileAtomically(const QString &path, QByteArrayView bytes)
     if (fd < 0)
         return Result::failure(causeText(errno));
 
+    // Permissions are a nicety: a file system that has none still gets the file.
+    (void)::fchmod(fd, mode);
     int error = 0;
-    if (::fchmod(fd, mode) != 0) {
-        // Permissions are a nicety; a file system that has none still gets the file.
-    }
     if (!writeAll(fd, bytes.data(), bytes.size()))
         error = errno;
     if (error == 0 && ::fsync(fd) != 0)

@@ -168,6 +168,12 @@ private slots:
                  legacy::EncodeFileText(ScheduleFileLines(doc).join(QStringLiteral("\r\n")) + QStringLiteral("\r\n")));
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("sched.tbf")});
         QVERIFY(!WriteFileAtomically(folder, "x"));
+        // Saved through a link, the linked file gets the bytes and the link stays.
+        const QString link = QDir(folder).filePath(QStringLiteral("link.tbf"));
+        QVERIFY(QFile::link(target, link));
+        QVERIFY(WriteFileAtomically(link, "through the link"));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(ReadFileBytes(target), "through the link");
     }
 
     void commandLine_data()
