@@ -161,7 +161,8 @@ public:
     {
         const int value = integer();
         if (value < low || value > high)
-            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("Line %1 gives %2 as %3; it must lie between %4 and %5.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(),
+                              QStringLiteral("Line %1 gives %2 as %3; it must lie between %4 and %5.")
                                   .arg(lineNumber())
                                   .arg(value)
                                   .arg(QLatin1String(what))
@@ -174,12 +175,14 @@ public:
     {
         const int value = integer();
         if (value < 0)
-            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("Line %1 gives %2 as the number of %3.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(),
+                              QStringLiteral("Line %1 gives %2 as the number of %3.")
                                   .arg(lineNumber())
                                   .arg(value)
                                   .arg(QLatin1String(what))};
         if (value > capacity)
-            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(), QStringLiteral("The file holds %1 %3; a schedule can hold at most %2 %3.")
+            throw ReadFailure{ReadFailure::OutOfRange, lineNumber(),
+                              QStringLiteral("The file holds %1 %3; a schedule can hold at most %2 %3.")
                                   .arg(value)
                                   .arg(capacity)
                                   .arg(QLatin1String(what))};
@@ -300,9 +303,9 @@ Result writeAtomically(const QString &path, const QString &text)
 
 Result saveFailure(const ScheduleDocument &doc, const QString &path, const Result &written)
 {
-    const QString message = WithCause(
-        QStringLiteral("Error saving file ") + path + QStringLiteral(". Try again using SaveAs from the file menu."),
-        written);
+    const QString message = WithCause(QStringLiteral("Error saving file ") + path +
+                                          QStringLiteral(". Try again using SaveAs from the file menu."),
+                                      written);
     doc.prompter().error(message);
     StatusSink &status = doc.status();
     status.setProgress(0);
@@ -324,8 +327,7 @@ QString readFailureCause(const ReadFailure &failure)
     case ReadFailure::OutOfRange:
         return failure.detail;
     }
-    return QStringLiteral("The file is damaged: the count on line ") + QString::number(failure.line) +
-           QStringLiteral(" is larger than a schedule can hold.");
+    return QString();
 }
 
 // A failed open: the message, and the document left empty and untitled.
@@ -382,31 +384,27 @@ Result OpenDocument(ScheduleDocument &doc, const QString &path, const OpenOption
     NewDocument(doc);
 
     const QString name = QDir::toNativeSeparators(path);
-    QFile file(path);
-    QString text;
-    if (!file.open(QIODevice::ReadOnly)) {
-        // The earlier edition called an unreadable file "badly corrupted"; say why.
-        QString reason = file.errorString();
-        if (!QFileInfo::exists(path))
-            reason = QStringLiteral("there is no such file");
-        else if (QFileInfo(path).isDir())
-            reason = QStringLiteral("it is a folder");
-        else if (!QFileInfo(path).isReadable())
-            reason = QStringLiteral("permission denied");
+    // The earlier edition called an unreadable file "badly corrupted"; say why.
+    const auto unreadable = [&](const QString &reason) {
         return openFailure(doc,
                            QStringLiteral("Error opening file ") + name +
                                QStringLiteral(".\r\rThe file cannot be read: ") + reason + QLatin1Char('.'),
                            QStringLiteral("Error opening file."));
+    };
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (!QFileInfo::exists(path))
+            return unreadable(QStringLiteral("there is no such file"));
+        if (QFileInfo(path).isDir())
+            return unreadable(QStringLiteral("it is a folder"));
+        if (!QFileInfo(path).isReadable())
+            return unreadable(QStringLiteral("permission denied"));
+        return unreadable(file.errorString());
     }
-    text = legacy::DecodeFileText(file.readAll());
-    const bool readError = file.error() != QFileDevice::NoError;
-    const QString readErrorText = file.errorString();
+    const QString text = legacy::DecodeFileText(file.readAll());
+    if (file.error() != QFileDevice::NoError)
+        return unreadable(file.errorString());
     file.close();
-    if (readError)
-        return openFailure(doc,
-                           QStringLiteral("Error opening file ") + name +
-                               QStringLiteral(".\r\rThe file cannot be read: ") + readErrorText + QLatin1Char('.'),
-                           QStringLiteral("Error opening file."));
 
     DocumentReader in(text);
     QString header;
