@@ -234,18 +234,6 @@ void TfrmMain::updateCommands(const ScheduleDocument &doc)
     showCaption();
 }
 
-void TfrmMain::setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled,
-                               const QString &redoCaption)
-{
-    // The undo store holds the same states; the entries' rules read them there.
-    Q_UNUSED(undoEnabled);
-    Q_UNUSED(redoEnabled);
-    findAction(QLatin1String(actions::Undo1))->setText(undoCaption);
-    findAction(QLatin1String(actions::Redo1))->setText(redoCaption);
-    m_commands->updateEnabled(QLatin1String(actions::Undo1), m_doc);
-    m_commands->updateEnabled(QLatin1String(actions::Redo1), m_doc);
-}
-
 // ---- The document's view ----------------------------------------------------------
 
 void TfrmMain::documentChanged(const ScheduleDocument &doc, const DocumentChange &change)
@@ -262,7 +250,10 @@ void TfrmMain::documentChanged(const ScheduleDocument &doc, const DocumentChange
         const UndoCommandState undo = UndoCommands(doc.undo);
         if (undo != m_undoShown) {
             m_undoShown = undo;
-            setUndoCommands(undo.undoEnabled, undo.undoCaption, undo.redoEnabled, undo.redoCaption);
+            // The captions ("Undo add new scene"); updateCommands below enables the
+            // entries from the same store.
+            findAction(QLatin1String(actions::Undo1))->setText(undo.undoCaption);
+            findAction(QLatin1String(actions::Redo1))->setText(undo.redoCaption);
         }
         // UpdateCommandsAndStatus: the commands for the state and the selection, and
         // the selected scenes' pages in panel 1.

@@ -67,8 +67,6 @@ public:
     void updateCommands(const ScheduleDocument &doc);
     // The autosave interval in milliseconds (0 = never), restarted now.
     void setAutosaveInterval(int milliseconds);
-    // The Undo and Redo entries: enabled state and caption ("Undo add new scene").
-    void setUndoCommands(bool undoEnabled, const QString &undoCaption, bool redoEnabled, const QString &redoCaption);
 
     // ---- The window's parts
     BoardView *board() const { return m_board; }
