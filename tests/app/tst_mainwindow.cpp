@@ -796,14 +796,16 @@ private slots:
 
     void autosaveOfferedAtStart_data()
     {
-        Columns<bool, bool, bool>("ownerSavedLater", "untitled", "offered");
-        Row("changes after the last save", false, false, true);
-        Row("saved after the autosave", true, false, false);
-        Row("untitled schedule", false, true, true);
+        Columns<bool, bool, bool, bool>("ownerSavedLater", "untitled", "ownerLost", "offered");
+        Row("changes after the last save", false, false, false, true);
+        Row("saved after the autosave", true, false, false, false);
+        Row("untitled schedule", false, true, false, true);
+        Row("which schedule is not known", true, false, true, true);
     }
     void autosaveOfferedAtStart()
     {
-        auto [ownerSavedLater, untitled, offered] = Fetch<bool, bool, bool>("ownerSavedLater", "untitled", "offered");
+        auto [ownerSavedLater, untitled, ownerLost, offered] =
+            Fetch<bool, bool, bool, bool>("ownerSavedLater", "untitled", "ownerLost", "offered");
         const QString own = saved("offer-own.tbf", "Harbour", 1);
         const QString autosave = TempPath("offer-autosave.tbf");
         {
@@ -813,6 +815,8 @@ private slots:
                 AddScene(lost, QString::number(i), "1");
             lost.FileName = untitled ? QString() : own;
             QVERIFY(AutosaveCommand(lost, autosave).ok());
+            if (ownerLost)
+                QVERIFY(QFile::remove(AutosaveOwnerPath(autosave)));
         }
         const QDateTime autosaved = QDateTime::currentDateTime().addSecs(-60);
         {

@@ -1,5 +1,6 @@
 #include "document/ShellCommands.h"
 
+#include "document/AtomicWrite.h"
 #include "document/DocumentOperations.h"
 #include "document/ScheduleDocument.h"
 #include "document/ScheduleFile.h"
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tb {
@@ -115,14 +115,10 @@ Result AutosaveCommand(ScheduleDocument &doc, const QString &autosavePath)
 {
     doc.status().setPanelText(StatusSink::MessagePanel, QStringLiteral("Autosaving..."));
     Result saved = WriteScheduleCopy(doc, autosavePath);
-    if (saved) {
-        // Which schedule the copy belongs to, for the offer at the next start.
-        QSaveFile owner(AutosaveOwnerPath(autosavePath));
-        if (owner.open(QIODevice::WriteOnly)) {
-            owner.write(doc.FileName.trimmed().toUtf8());
-            owner.commit();
-        }
-    }
+    // Which schedule the copy belongs to, for the offer at the next start. Without it
+    // the copy is still offered, only without the schedule's name.
+    if (saved)
+        (void)WriteFileAtomically(AutosaveOwnerPath(autosavePath), doc.FileName.trimmed().toUtf8());
     doc.status().setPanelText(StatusSink::MessagePanel, QString());
     return saved;
 }
@@ -135,12 +131,18 @@ QString AutosaveOwnerPath(const QString &autosavePath)
 QString AutosaveRestoreQuestion(const QString &autosavePath)
 {
     const QFileInfo autosave(autosavePath);
-    QFile ownerFile(AutosaveOwnerPath(autosavePath));
-    if (!autosave.isFile() || !ownerFile.open(QIODevice::ReadOnly))
+    if (!autosave.isFile())
         return {};
+    const QString when = QLocale().toString(autosave.lastModified(), QLocale::ShortFormat);
+    QFile ownerFile(AutosaveOwnerPath(autosavePath));
+    if (!ownerFile.open(QIODevice::ReadOnly))
+        return QStringLiteral("Torvanbridge was not closed properly while a schedule had changes. An automatic copy "
+                              "from ") +
+               when +
+               QStringLiteral(" was kept.\r\rDo you wish to restore it? It opens untitled, so that you choose where "
+                              "to save it.");
     const QString owner = QString::fromUtf8(ownerFile.readAll()).trimmed();
     const QFileInfo ownerInfo(owner);
-    const QString when = QLocale().toString(autosave.lastModified(), QLocale::ShortFormat);
     if (owner.isEmpty())
         return QStringLiteral("Torvanbridge was not closed properly while an untitled schedule had changes. An "
                               "automatic copy from ") +
