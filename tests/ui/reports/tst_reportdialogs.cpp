@@ -25,6 +25,7 @@
 #include "ui_TfrmPrintIt.h"
 #include "ui_TfrmShootSch.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPrinter>
@@ -47,6 +48,19 @@ void fillPreview(TfrmPreview &preview, ScheduleDocument &doc, int *count)
                 .ok());
     *count = preview.Previewer()->pageCount();
     preview.ShowFirstPage();
+}
+
+// The pages of the preview the button opens (which is closed again at once).
+int previewedPages(QAbstractButton *previewButton)
+{
+    int pages = 0;
+    PreviewWindowHook = [&](TfrmPreview &preview) {
+        pages = preview.Previewer()->pageCount();
+        return false;
+    };
+    QTest::mouseClick(previewButton, Qt::LeftButton);
+    PreviewWindowHook = nullptr;
+    return pages;
 }
 
 int pdfPages(const QString &path)
@@ -228,13 +242,7 @@ private Q_SLOTS:
         ui.PrinterCombo->setCurrentText(PdfFileChoiceText());
         QVERIFY(dialog.printerChoice().toPdfFile());
 
-        int previewPages = 0;
-        PreviewWindowHook = [&](TfrmPreview &preview) {
-            previewPages = preview.Previewer()->pageCount();
-            return false;
-        };
-        QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
-        PreviewWindowHook = nullptr;
+        const int previewPages = previewedPages(ui.PreviewBut);
         QVERIFY(previewPages > 3);
         QVERIFY(dialog.isVisible());
         QVERIFY(!SharedPrintingProgress().isVisible());
@@ -270,14 +278,7 @@ private Q_SLOTS:
 
         ui.SceneList->item(4)->setSelected(true);
         ui.SceneList->item(1)->setSelected(true);
-        int pages = 0;
-        PreviewWindowHook = [&](TfrmPreview &preview) {
-            pages = preview.Previewer()->pageCount();
-            return false;
-        };
-        QTest::mouseClick(ui.PreviewBut, Qt::LeftButton);
-        PreviewWindowHook = nullptr;
-        QCOMPARE(pages, 2); // one sheet per scene
+        QCOMPARE(previewedPages(ui.PreviewBut), 2); // one sheet per scene
     }
     void elementSummaryDialogCategories()
     {
